@@ -1,0 +1,32 @@
+# How every folder under src/ becomes a library, and every folder under tests/ a test program.
+
+add_library(quillmark_options INTERFACE)
+target_compile_options(quillmark_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion)
+target_include_directories(quillmark_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+
+# quillmark_folder(NAME [USES folder...] [LIBRARIES target...] [PRIVATE_LIBRARIES target...])
+# One static library of all sources below the current folder, which may use the named folders and libraries.
+function(quillmark_folder name)
+  cmake_parse_arguments(ARG "" "" "USES;LIBRARIES;PRIVATE_LIBRARIES" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  if(NOT sources)
+    add_library(quillmark_${name} INTERFACE)
+    target_link_libraries(quillmark_${name} INTERFACE quillmark_options)
+    return()
+  endif()
+  add_library(quillmark_${name} STATIC ${sources})
+  list(TRANSFORM ARG_USES PREPEND quillmark_)
+  target_link_libraries(quillmark_${name} PUBLIC quillmark_options ${ARG_USES} ${ARG_LIBRARIES}
+                                          PRIVATE ${ARG_PRIVATE_LIBRARIES})
+endfunction()
+
+# quillmark_tests(FOLDER [LIBRARIES target...])
+# One test program of the sources below the current folder; it links that folder's library and what it uses.
+function(quillmark_tests folder)
+  cmake_parse_arguments(ARG "" "" "LIBRARIES" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  add_executable(${folder}_tests ${sources})
+  target_link_libraries(${folder}_tests PRIVATE quillmark_${folder} quillmark_test_support ${ARG_LIBRARIES})
+  target_compile_definitions(${folder}_tests PRIVATE QUILLMARK_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  gtest_discover_tests(${folder}_tests TEST_PREFIX "${folder}." DISCOVERY_TIMEOUT 60)
+endfunction()

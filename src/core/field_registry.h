@@ -1,0 +1,39 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace quillmark {
+
+class Job;
+
+/// Fields are numbered from 1 to 240; the numbers are part of the job file format.
+inline constexpr int kFields = 240;
+
+/// The field's marker, such as "[seller 1 name]"; empty for numbers without one.
+std::string_view FieldMarker(int n);
+
+/// The sort key that places the field in the grid and, by its thousands, in a group; 0 for no such field.
+float FieldSortKey(int n);
+
+/// The help text of a field (0 to 213, 240) or of a derived value (k*1000+n), beginning with a blank.
+/// Five of them depend on the job.
+std::string FieldDescription(int n, const Job& job);
+
+/// The field with this marker, 0 if there is none. "[]" names no field.
+int FieldOfMarker(std::string_view marker);
+
+/// A derived value that custom documents can name.
+struct DerivedField {
+    int number;  ///< k*1000 + parent field
+    std::string_view marker;
+    std::string_view description;
+};
+/// The 24 derived values with markers, in the order of their parents.
+std::span<const DerivedField> DerivedFields();
+
+/// The label of the group that a sort key falls into, with its leading blank; empty for the first field.
+std::string_view FieldGroup(float sortKey);
+
+}  // namespace quillmark

@@ -1,0 +1,50 @@
+#include "support/scratch.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+
+namespace quillmark::test {
+
+namespace fs = std::filesystem;
+
+ScratchFolder::ScratchFolder() {
+    std::string pattern = (fs::temp_directory_path() / "quillmark-XXXXXX").string();
+    if (!mkdtemp(pattern.data())) throw std::runtime_error("no scratch folder at " + pattern);
+    path_ = pattern;
+}
+
+ScratchFolder::~ScratchFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+}
+
+std::string ReadBytes(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    if (!in) throw std::runtime_error("cannot read " + file.string());
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
+    return bytes.str();
+}
+
+void WriteBytes(const fs::path& file, std::string_view bytes) {
+    fs::create_directories(file.parent_path());
+    std::ofstream out(file, std::ios::binary);
+    out << bytes;
+    if (!out.flush()) throw std::runtime_error("cannot write " + file.string());
+}
+
+void ExpectGolden(std::string_view name, std::string_view actual) {
+    const fs::path golden = fs::path(QUILLMARK_SOURCE_DIR) / "tests" / "goldens" / name;
+    if (std::getenv("QUILLMARK_RENEW_GOLDENS")) {
+        WriteBytes(golden, actual);
+        return;
+    }
+    ASSERT_TRUE(fs::exists(golden)) << golden << " is missing; renew the goldens";
+    EXPECT_EQ(ReadBytes(golden), actual) << "differs from " << golden;
+}
+
+}  // namespace quillmark::test
