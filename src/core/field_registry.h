@@ -11,7 +11,8 @@ class Job;
 /// Fields are numbered from 1 to 240; the numbers are part of the job file format.
 inline constexpr int kFields = 240;
 
-/// The field's marker, such as "[seller 1 name]"; empty for numbers without one.
+/// The field's marker, such as "[seller 1 name]": its row label, and its text while it has no value. Empty
+/// for numbers without one; the retired number 172 has "[]". Both kinds take no row and are never saved.
 std::string_view FieldMarker(int n);
 
 /// The sort key that places the field in the grid and, by its thousands, in a group; 0 for no such field.
@@ -33,7 +34,17 @@ struct DerivedField {
 /// The 24 derived values with markers, in the order of their parents.
 std::span<const DerivedField> DerivedFields();
 
+/// The marker of derived value k*1000+n, empty for one that custom documents cannot name.
+std::string_view DerivedMarker(int number);
+
+/// The sort key of user-defined rows.
+inline constexpr float kUserFieldSortKey = 9999;
+
 /// The label of the group that a sort key falls into, with its leading blank; empty for the first field.
 std::string_view FieldGroup(float sortKey);
+
+/// The first lines of the 19 addresses. The second line of address n is field n+1, and both feed the derived
+/// values of n.
+std::span<const int> AddressFields();
 
 }  // namespace quillmark

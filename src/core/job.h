@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -48,30 +49,48 @@ struct FieldHolder {
     int top = 1;  ///< 0: silently filled from a firm default, takes no row and is not saved
 };
 
+/// The most user-defined fields that one job keeps.
+inline constexpr std::size_t kUserFields = 500;
+
 /// One job in memory: name, options, field values, pictures, user-defined values, document history.
 class Job {
-   public:
+ public:
     /// Runs after a holder's text changed and `D(n)` took it: the smart rules of the field.
     using ChangeRule = std::function<void(Job&, int n)>;
 
+    /// Every holder and value stands at its marker, derived values too, and the options have their start
+    /// state: one seller, a person, one buyer, one payoff, the default letterhead.
     Job();
+
+    /// Back to the state of a new job. The change rule stays, and does not run.
+    void Reset();
 
     /// The value of field n (1 to 240), or derived value k*1000+n (k from 1 to 4). Empty for other numbers.
     const std::string& D(int n) const;
 
     /// Puts a text into holder n (0 to 240) and runs the change rule: double quotes become apostrophes,
-    /// `D(n)` takes the text, the colour state follows, then the smart rule runs. Out of range: throws
-    /// std::out_of_range.
+    /// `D(n)` takes the text, the colour state follows, then the smart rule runs. A text that holder and
+    /// value have already is no change and runs nothing, so a rule may put its own field into its final form.
+    /// Out of range: throws std::out_of_range. What a smart rule throws reaches the caller.
     void SetField(int n, std::string_view text);
     /// Puts field n back to its marker.
     void ClearField(int n);
-    /// Sets `D(n)` alone, without the holder and without rules: for values normalised for typing.
+    /// Runs the change rule of field n on its present text, for rules that depend on more than the field.
+    void RunChangeRule(int n);
+    /// Sets `D(n)` alone, n from 1 to 240, without the holder and without rules: for values normalised for
+    /// typing.
     void SetValue(int n, std::string_view text);
-    /// Sets part k of field n.
+    /// Sets part k (1 to 4) of field n.
     void SetDerived(int k, int n, std::string_view text);
 
     /// Neither empty nor the field's marker.
     bool IsFilled(int n) const;
+
+    /// The value of a user-defined field; empty if it has none.
+    std::string_view UserField(std::string_view marker) const;
+    /// Puts a value beside a user-defined marker, double quotes turned into apostrophes; the empty text takes
+    /// the pair out. False, with nothing changed, when all pairs are taken.
+    bool SetUserField(std::string_view marker, std::string_view text);
 
     const FieldHolder& txtField(int n) const { return holders_.at(static_cast<std::size_t>(n)); }
     FieldHolder& txtField(int n) { return holders_.at(static_cast<std::size_t>(n)); }
@@ -88,7 +107,9 @@ class Job {
     /// Marker and value of user-defined fields, in grid order.
     std::vector<std::pair<std::string, std::string>> userFields;
 
-   private:
+ private:
+    void StartDerivedValues();
+
     std::array<FieldHolder, kFields + 1> holders_;
     std::array<std::array<std::string, kFields + 1>, 5> values_;  ///< row 0: D(n); rows 1 to 4 derived
     std::array<bool, kOptions + 1> options_ = {};

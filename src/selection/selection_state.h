@@ -31,9 +31,9 @@ struct OptionButton {
 /// The name box. A job is saveable when it has a name that does not end in " - " and no unsaved mark.
 struct NameBox {
     std::string text;
-    bool locked = false;   ///< the job came from a file, or has been saved
+    bool locked = false;  ///< the job came from a file, or has been saved
     bool enabled = true;
-    bool noSave = false;   ///< shows "<< NO SAVE >>", red and centred
+    bool noSave = false;  ///< shows "<< NO SAVE >>", red and centred
 
     /// Typed and neither locked, empty nor incomplete.
     bool HoldsTypedName() const { return !noSave && !locked && !text.empty() && !text.ends_with(" - "); }
@@ -51,21 +51,21 @@ enum class RowKind { Field, User, Heading };
 /// A row of the field grid `grdField`.
 struct GridRow {
     RowKind kind = RowKind::Field;
-    int n = 0;                      ///< field number; 0 for user-defined rows and headings
-    std::string label;              ///< column 0
-    std::string value;              ///< column 1, empty while unfilled
-    std::array<std::string, 2> notes;        ///< columns 2 and 3
+    int n = 0;                                 ///< field number; 0 for user-defined rows and headings
+    std::string label;                         ///< column 0
+    std::string value;                         ///< column 1, empty while unfilled
+    std::array<std::string, 2> notes;          ///< columns 2 and 3
     std::array<bool, 2> lit = {false, false};  ///< whether a note cell is yellow
-    std::string key;                ///< column 4, the sort key as text
-    bool locked = false;            ///< drawn grey until it is unlocked
+    std::string key;                           ///< column 4, the sort key as text
+    bool locked = false;                       ///< drawn grey until it is unlocked
 };
 
 /// One of the six labels that lead to a group of the grid.
 struct JumpLabel {
     bool enabled = false;
-    bool current = false;    ///< drawn blue on grey
-    bool complete = false;   ///< nothing left to fill in its group
-    int headingRow = -1;     ///< index into the grid
+    bool current = false;   ///< drawn blue on grey
+    bool complete = false;  ///< nothing left to fill in its group
+    int headingRow = -1;    ///< index into the grid
 };
 
 /// A command button.
@@ -81,10 +81,10 @@ struct SelectionState {
     NameBox txtJobName;
     std::string ScreenMode;
     bool FieldEntryStarted = false;
-    bool templateBeingSet = false;      ///< `cmdTemplate` has the colour 0xC0FFFF
-    std::string browsedFile;            ///< the file name chosen in the browser, without extension
+    bool templateBeingSet = false;  ///< `cmdTemplate` has the colour 0xC0FFFF
+    std::string browsedFile;        ///< the file name chosen in the browser, without extension
 
-    std::array<OptionButton, kOptions + 1> options;   ///< by number, entry 0 unused
+    std::array<OptionButton, kOptions + 1> options;  ///< by number, entry 0 unused
     bool optionChangesSuppressed = false;
 
     std::vector<std::string> List1;
@@ -92,21 +92,21 @@ struct SelectionState {
     std::vector<JobListLine> List2;
     bool List2Enabled = false;
     std::string List2Tooltip;
-    std::string LegalList;              ///< names of selected lines, each followed by ","
+    std::string LegalList;  ///< names of selected lines, each followed by ","
     /// Documents that a choice took off the list: A by seller kind and property type, B by no payoffs.
     std::array<std::vector<std::string>, 2> ParkedDocuments;
 
-    std::vector<GridRow> grid;          ///< without the fixed header row
+    std::vector<GridRow> grid;  ///< without the fixed header row
     int currentRow = -1;
-    std::array<JumpLabel, 7> lblJump;   ///< 1 to 6
+    std::array<JumpLabel, 7> lblJump;  ///< 1 to 6
     int relevantFieldCount = 0;
-    int total = 0;                      ///< the label "total flds"
-    int remaining = 0;                  ///< the label "remaining"
+    int total = 0;                         ///< the label "total flds"
+    int remaining = 0;                     ///< the label "remaining"
     std::vector<std::string> userMarkers;  ///< markers of user-defined fields of the job's custom documents
 
-    Button cmdOpen, cmdCreate, cmdReset, cmdExit, cmdTemplate, cmdPackages, cmdCustom, cmdNameAs, cmdEnvelopes,
-        cmdOP236, cmdPrintFList, cmdSelect;
-    std::string picInfo;                ///< the guidance bar's text
+    Button cmdOpen, cmdCreate, cmdReset, cmdExit, cmdTemplate, cmdPackages, cmdCustom, cmdNameAs,
+        cmdEnvelopes, cmdOP236, cmdPrintFList, cmdSelect;
+    std::string picInfo;  ///< the guidance bar's text
 };
 
 }  // namespace quillmark

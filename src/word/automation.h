@@ -62,14 +62,21 @@ inline constexpr int kObjectNotSet = 91;
 inline constexpr int kTypeMismatch = 13;
 inline constexpr int kCannotCreate = 429;         ///< no word processor can be started
 inline constexpr int kNoSuchMember = 438;         ///< the object has no such property or method
+inline constexpr int kNoSuchArgument = 448;       ///< the method has no parameter of this name
 inline constexpr int kArgumentNotOptional = 449;
+inline constexpr int kWrongArgumentCount = 450;
 inline constexpr int kServerGone = 462;           ///< the word processor was closed by the user
 inline constexpr int kDiskFull = 61;
 inline constexpr int kBadValue = 4608;            ///< value out of range
 inline constexpr int kNotAvailable = 4605;        ///< the command is not available (a protected document, say)
+inline constexpr int kNoDocumentOpen = 4248;
+inline constexpr int kNoSuchPicture = 5152;       ///< the picture's file is not there
 inline constexpr int kFileNotFound = 5174;
 inline constexpr int kFileDamaged = 5792;         ///< the file is no document, or a torn one
+inline constexpr int kObjectDeleted = 5825;       ///< the object's document was closed, or its text deleted
 inline constexpr int kNoSuchElement = 5941;       ///< the collection has no such element
+inline constexpr int kMergedRows = 5991;          ///< a row of a table with vertically merged cells
+inline constexpr int kMixedCellWidths = 5992;     ///< a column of a table with horizontally merged cells
 }  // namespace error
 
 /// The whole numbers of the model's enumerations, where the system speaks of them.

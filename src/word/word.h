@@ -1,9 +1,10 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 
 #include "word/automation.h"
 
@@ -12,49 +13,94 @@
 /// model expects. Everything throws AutomationError (automation.h).
 namespace quillmark::word {
 
-inline constexpr double InchesToPoints(double inches) { return inches * 72.0; }
+inline constexpr double InchesToPoints(double inches) {
+    return inches * 72.0;
+}
 
-/// An object of the model together with the way to it: it is reached anew at each use, as late binding does.
+/// An object of the model and the way to it. One that a call gave is kept; one that is a member of another
+/// (`document.PageSetup`) is reached anew through it at each use, as late binding does. A copy keeps the
+/// object that the original reaches at that moment. Using a handle without an object fails with
+/// kObjectNotSet.
 class Handle {
-   public:
+ public:
     Handle() = default;
-    explicit Handle(ObjectPtr object) : base_(std::move(object)) {}
-    /// The object that `owner` gives under this property name.
-    Handle(const Handle& owner, const char* member);
+    explicit Handle(ObjectPtr object) : object_(std::move(object)) {}
+    /// The object that `owner` gives under this property name. The owner must outlive the handle.
+    Handle(const Handle& owner, const char* member) : owner_(&owner), member_(member) {}
+    Handle(const Handle& other) : object_(other.Keep()) {}
+    Handle& operator=(const Handle& other) { return Rebind(*this, other); }
 
     ObjectPtr Reach() const;
-    explicit operator bool() const { return base_ != nullptr; }
+    /// Whether there is an object, as far as that can be told without asking the word processor.
+    explicit operator bool() const { return owner_ ? bool(*owner_) : object_ != nullptr; }
 
-   protected:
+ protected:
+    template <class T>
+    friend class Property;
+
+    /// What a copy holds: the object reached now, or none.
+    ObjectPtr Keep() const { return *this ? Reach() : nullptr; }
+    /// Assignment: the target is from now on the object that the other handle reaches.
+    template <class T>
+    static T& Rebind(T& target, const Handle& other) {
+        Handle& handle = target;
+        handle.object_ = other.Keep();
+        handle.owner_ = nullptr;
+        return target;
+    }
     Value Get(std::string_view member) const { return Reach()->Get(member); }
-    Value Get(std::string_view member, const Value& index) const;
     void Put(std::string_view member, const Value& value) const { Reach()->Put(member, value); }
     Value Call(std::string_view member) const { return Reach()->Call(member); }
     Value Call(std::string_view member, std::initializer_list<Argument> arguments) const;
+    /// The object in a property, this collection's or a member collection's element at an index or name, and
+    /// a call's result.
+    ObjectPtr GetObject(std::string_view member) const;
+    ObjectPtr Item(const Value& index) const;
+    ObjectPtr ItemOf(const char* collection, const Value& index) const;
+    ObjectPtr CallObject(std::string_view member, std::initializer_list<Argument> arguments) const;
 
-   private:
-    static constexpr std::size_t kDeepest = 5;
-    ObjectPtr base_;
-    std::array<const char*, kDeepest> path_ = {};
-    std::size_t depth_ = 0;
+ private:
+    ObjectPtr object_;
+    const Handle* owner_ = nullptr;
+    const char* member_ = nullptr;
 };
 
-/// A property of type T that can be read and set like a variable.
+/// A value out of the seam as the type wanted. Whole and real numbers pass for each other, -1 and 0 for the
+/// flags, and a text that begins with a number for that number (`Version` is one). Otherwise kTypeMismatch.
+bool ToFlag(const Value& value);
+int ToWhole(const Value& value);
+double ToNumber(const Value& value);
+std::string ToText(const Value& value);
+
+/// A property of type T that can be read and set like a variable. It is a part of its owner and is not
+/// copied.
 template <class T>
 class Property {
-   public:
-    Property(const Handle& owner, const char* name) : owner_(owner), name_(name) {}
-    Property(const Property&) = default;
-    Property& operator=(const Property&) = delete;
-    const Property& operator=(const T& value) const;
-    operator T() const;
+ public:
+    using Given = std::conditional_t<std::is_same_v<T, std::string>, std::string_view, T>;
 
-   private:
-    Handle owner_;
+    Property(const Handle& owner, const char* name) : owner_(owner), name_(name) {}
+    Property(const Property&) = delete;
+    Property& operator=(const Property&) = delete;
+    const Property& operator=(Given value) const {
+        owner_.Put(name_, Value(T(value)));
+        return *this;
+    }
+    operator T() const { return Read(); }
+    T Read() const {
+        const Value value = owner_.Get(name_);
+        if constexpr (std::is_same_v<T, std::string>) return ToText(value);
+        if constexpr (std::is_same_v<T, bool>) return ToFlag(value);
+        if constexpr (std::is_same_v<T, int>) return ToWhole(value);
+        if constexpr (std::is_same_v<T, double>) return ToNumber(value);
+    }
+
+ private:
+    const Handle& owner_;
     const char* name_;
 };
 
-/// Text and number types of the model's properties. A number may come back as whole or real.
+/// Text and number types of the model's properties.
 using TextProperty = Property<std::string>;
 using NumberProperty = Property<double>;
 using WholeProperty = Property<int>;
@@ -105,10 +151,13 @@ struct ListLevel : Handle {
 struct ListTemplate : Handle {
     ListTemplate() = default;
     explicit ListTemplate(ObjectPtr object) : Handle(std::move(object)) {}
+    ListTemplate(const ListTemplate& other) : ListTemplate(other.Keep()) {}
+    ListTemplate& operator=(const ListTemplate& other) { return Rebind(*this, other); }
     ListLevel ListLevels(int level) const;
 };
 
 struct ListFormat : Handle {
+    explicit ListFormat(ObjectPtr object) : Handle(std::move(object)) {}
     ListFormat(const Handle& owner, const char* member) : Handle(owner, member) {}
     void ApplyListTemplate(const ListTemplate& list) const;
     void ApplyBulletDefault() const;
@@ -141,8 +190,9 @@ struct Range;
 
 struct Find : Handle {
     Find(const Handle& owner, const char* member) : Handle(owner, member) {}
-    /// Looks for the text from the start, going on around the end; ^b, ^m, ^c and ^^ are Word's codes.
+    /// Looks for the text; ^b, ^m, ^c and ^^ are Word's codes. Letter case makes no difference.
     bool Execute(std::string_view findText) const;
+    bool Execute(std::string_view findText, FindWrap wrap) const;
     /// Replaces every occurrence; tells whether there was one.
     bool ReplaceAll(std::string_view findText, std::string_view replaceWith) const;
 };
@@ -155,6 +205,8 @@ struct Fields : Handle {
 struct Range : Handle {
     Range() : Range(ObjectPtr{}) {}
     explicit Range(ObjectPtr object) : Handle(std::move(object)) {}
+    Range(const Range& other) : Range(other.Keep()) {}
+    Range& operator=(const Range& other) { return Rebind(*this, other); }
     Range(const Handle& owner, const char* member) : Handle(owner, member) {}
     TextProperty Text{*this, "Text"};
     WholeProperty StoryType{*this, "StoryType"};
@@ -176,6 +228,8 @@ struct CheckBox : Handle {
 
 struct FormField : Handle {
     explicit FormField(ObjectPtr object) : Handle(std::move(object)) {}
+    FormField(const FormField& other) : FormField(other.Keep()) {}
+    FormField& operator=(const FormField& other) { return Rebind(*this, other); }
     TextProperty Result{*this, "Result"};
     word::CheckBox CheckBox{*this, "CheckBox"};
 };
@@ -202,6 +256,8 @@ struct Shading : Handle {
 
 struct Cell : Handle {
     explicit Cell(ObjectPtr object) : Handle(std::move(object)) {}
+    Cell(const Cell& other) : Cell(other.Keep()) {}
+    Cell& operator=(const Cell& other) { return Rebind(*this, other); }
     word::Range Range{*this, "Range"};
     WholeProperty VerticalAlignment{*this, "VerticalAlignment"};
     /// Puts the insertion point into the cell (the cell is selected).
@@ -224,6 +280,8 @@ struct Column : Handle {
 
 struct Table : Handle {
     explicit Table(ObjectPtr object) : Handle(std::move(object)) {}
+    Table(const Table& other) : Table(other.Keep()) {}
+    Table& operator=(const Table& other) { return Rebind(*this, other); }
     word::Cell Cell(int row, int column) const;
     Row Rows(int row) const;
     Column Columns(int column) const;
@@ -249,6 +307,8 @@ struct PageNumbers : Handle {
 
 struct Footer : Handle {
     explicit Footer(ObjectPtr object) : Handle(std::move(object)) {}
+    Footer(const Footer& other) : Footer(other.Keep()) {}
+    Footer& operator=(const Footer& other) { return Rebind(*this, other); }
     FlagProperty LinkToPrevious{*this, "LinkToPrevious"};
     word::PageNumbers PageNumbers{*this, "PageNumbers"};
     word::Range Range() const;
@@ -262,6 +322,8 @@ struct Footers : Handle {
 
 struct Section : Handle {
     explicit Section(ObjectPtr object) : Handle(std::move(object)) {}
+    Section(const Section& other) : Section(other.Keep()) {}
+    Section& operator=(const Section& other) { return Rebind(*this, other); }
     word::PageSetup PageSetup{*this, "PageSetup"};
     word::Footers Footers{*this, "Footers"};
     FlagProperty ProtectedForForms{*this, "ProtectedForForms"};
@@ -275,6 +337,8 @@ struct Sections : Handle {
 
 struct Selection : Handle {
     explicit Selection(ObjectPtr object) : Handle(std::move(object)) {}
+    Selection(const Selection& other) : Selection(other.Keep()) {}
+    Selection& operator=(const Selection& other) { return Rebind(*this, other); }
     Selection(const Handle& owner, const char* member) : Handle(owner, member) {}
     word::Font Font{*this, "Font"};
     word::ParagraphFormat ParagraphFormat{*this, "ParagraphFormat"};
@@ -312,6 +376,8 @@ struct Window : Handle {
 
 struct Style : Handle {
     explicit Style(ObjectPtr object) : Handle(std::move(object)) {}
+    Style(const Style& other) : Style(other.Keep()) {}
+    Style& operator=(const Style& other) { return Rebind(*this, other); }
     FlagProperty NoSpaceBetweenParagraphsOfSameStyle{*this, "NoSpaceBetweenParagraphsOfSameStyle"};
 };
 
@@ -329,6 +395,8 @@ struct Bookmarks : Handle {
 struct Document : Handle {
     Document() : Document(ObjectPtr{}) {}
     explicit Document(ObjectPtr object) : Handle(std::move(object)) {}
+    Document(const Document& other) : Document(other.Keep()) {}
+    Document& operator=(const Document& other) { return Rebind(*this, other); }
     Document(const Handle& owner, const char* member) : Handle(owner, member) {}
     NumberProperty DefaultTabStop{*this, "DefaultTabStop"};
     WholeProperty ProtectionType{*this, "ProtectionType"};
@@ -343,7 +411,7 @@ struct Document : Handle {
     word::Range Content{*this, "Content"};
     Style Styles(std::string_view name) const;
     /// Locks the document but for its form fields; `noReset` keeps what they hold.
-    void Protect(ProtectionType type, bool noReset) const;
+    void Protect(word::ProtectionType type, bool noReset) const;
     void Select() const;
     void Save() const;
     void SaveAs(std::string_view fileName) const;
@@ -366,6 +434,8 @@ struct Options : Handle {
 
 struct Application : Handle {
     explicit Application(ObjectPtr object) : Handle(std::move(object)) {}
+    Application(const Application& other) : Application(other.Keep()) {}
+    Application& operator=(const Application& other) { return Rebind(*this, other); }
     word::Options Options{*this, "Options"};
     word::Documents Documents{*this, "Documents"};
     word::Selection Selection{*this, "Selection"};

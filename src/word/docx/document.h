@@ -27,14 +27,14 @@ namespace quillmark::word::docx {
 /// Direct formatting of characters; an unset member leaves the style's. `extra` holds further children of
 /// w:rPr as (local element name, complete XML), in the schema's order.
 struct CharFormat {
-    std::string style;  ///< style id of a character style, or empty
-    std::string font;   ///< one name for all scripts, or empty
-    std::optional<bool> bold;
-    std::optional<bool> italic;
-    std::optional<int> halfPoints;
-    std::optional<int> underline;  ///< the model's numbers: 0 none, 1 single, 3 double
-    std::optional<bool> superscript;
-    std::vector<std::pair<std::string, std::string>> extra;
+    std::string style = {};  ///< style id of a character style, or empty
+    std::string font = {};   ///< one name for all scripts, or empty
+    std::optional<bool> bold = {};
+    std::optional<bool> italic = {};
+    std::optional<int> halfPoints = {};
+    std::optional<int> underline = {};  ///< the model's numbers: 0 none, 1 single, 3 double
+    std::optional<bool> superscript = {};
+    std::vector<std::pair<std::string, std::string>> extra = {};
     bool operator==(const CharFormat&) const = default;
 };
 
@@ -50,19 +50,19 @@ enum class LineRule { Auto, AtLeast, Exact };
 
 /// Direct formatting of a paragraph; an unset member leaves the style's.
 struct ParaFormat {
-    std::string style;               ///< style id, or empty for the default paragraph style
-    std::optional<int> numId;        ///< the list it is an item of; 0 switches the style's numbering off
+    std::string style = {};          ///< style id, or empty for the default paragraph style
+    std::optional<int> numId = {};   ///< the list it is an item of; 0 switches the style's numbering off
     int listLevel = 0;               ///< 0 to 8
-    std::vector<TabStop> tabs;       ///< by ascending position
-    std::optional<int> spaceBefore;
-    std::optional<int> spaceAfter;
-    std::optional<int> line;         ///< twips, or 240ths of a line with LineRule::Auto
+    std::vector<TabStop> tabs = {};  ///< by ascending position
+    std::optional<int> spaceBefore = {};
+    std::optional<int> spaceAfter = {};
+    std::optional<int> line = {};  ///< twips, or 240ths of a line with LineRule::Auto
     LineRule lineRule = LineRule::Auto;
-    std::optional<int> leftIndent;
-    std::optional<int> rightIndent;
-    std::optional<int> firstLine;    ///< negative for a hanging indent
-    std::optional<int> alignment;    ///< the model's numbers: 0 left, 1 centre, 2 right, 3 justified
-    std::vector<std::pair<std::string, std::string>> extra;  ///< further children of w:pPr
+    std::optional<int> leftIndent = {};
+    std::optional<int> rightIndent = {};
+    std::optional<int> firstLine = {};  ///< negative for a hanging indent
+    std::optional<int> alignment = {};  ///< the model's numbers: 0 left, 1 centre, 2 right, 3 justified
+    std::vector<std::pair<std::string, std::string>> extra = {};  ///< further children of w:pPr
     bool operator==(const ParaFormat&) const = default;
 };
 
@@ -71,12 +71,12 @@ using FormatId = std::uint32_t;
 /// The distinct formats of one document. An id stays valid and means the same for the document's life.
 template <class Format>
 class FormatTable {
-   public:
+ public:
     FormatId Intern(const Format& format);
     const Format& operator[](FormatId id) const { return formats_[id]; }
     std::size_t size() const { return formats_.size(); }
 
-   private:
+ private:
     std::deque<Format> formats_;
     std::unordered_multimap<std::size_t, FormatId> byHash_;
 };
@@ -94,7 +94,7 @@ inline constexpr char kObject = '\x01';  ///< one per entry of Paragraph::object
 
 struct Picture {
     std::string bytes;
-    std::string extension;     ///< "png", "jpeg" or "bmp"; others as an opened file had them
+    std::string extension;  ///< "png", "jpeg" or "bmp"; others as an opened file had them
     std::int64_t widthEmu = 0;
     std::int64_t heightEmu = 0;
 };
@@ -105,20 +105,24 @@ struct FieldBegin {
     std::string formData;  ///< complete w:ffData, or empty
     bool dirty = false;
 };
-struct FieldInstruction { std::string text; };
+struct FieldInstruction {
+    std::string text;
+};
 struct FieldSeparator {};
 struct FieldEnd {};
 
 /// A form field of ours, kept apart from its XML so that its result can be set.
 struct FormFieldData {
-    std::string name;          ///< also its bookmark's; unique in the document, at most 20 characters
+    std::string name = {};  ///< also its bookmark's; unique in the document, at most 20 characters
     bool isCheckBox = false;
-    bool checked = false;      ///< check boxes
-    std::string result;        ///< text fields; empty shows five en spaces
+    bool checked = false;     ///< check boxes
+    std::string result = {};  ///< text fields; empty shows five en spaces
 };
 
 /// Inline XML taken over from an opened file; relationship ids in it name `Document::relations`.
-struct RawInline { std::string xml; };
+struct RawInline {
+    std::string xml;
+};
 
 using InlineObject =
     std::variant<Picture, FormFieldData, FieldBegin, FieldInstruction, FieldSeparator, FieldEnd, RawInline>;
@@ -128,7 +132,7 @@ struct Anchor {
     std::size_t offset = 0;  ///< bytes into Paragraph::text
     bool isStart = true;
     int id = 0;
-    std::string name;        ///< of a start
+    std::string name;  ///< of a start
 };
 
 /// Neighbouring characters of one format.
@@ -154,7 +158,9 @@ struct Paragraph {
 
 struct Table;
 /// Block-level XML of an opened file that the engine does not edit.
-struct RawBlock { std::string xml; };
+struct RawBlock {
+    std::string xml;
+};
 
 using Block = std::variant<Paragraph, std::unique_ptr<Table>, RawBlock>;
 /// Blocks keep their addresses while others come and go; a place in the text is a Place.
@@ -171,8 +177,8 @@ struct BorderLine {
 using Borders = std::array<std::optional<BorderLine>, 6>;
 
 struct TableCell {
-    Blocks blocks;            ///< ends with a paragraph, always
-    int span = 1;             ///< grid columns it covers
+    Blocks blocks;  ///< ends with a paragraph, always
+    int span = 1;   ///< grid columns it covers
     Merge vertical = Merge::None;
     std::optional<int> fill;  ///< the model's colour number
     std::optional<int> verticalAlignment;
@@ -182,13 +188,13 @@ struct TableCell {
 
 struct TableRow {
     std::vector<TableCell> cells;
-    std::optional<int> height;      ///< twips
-    std::string heightRule;         ///< "", "atLeast" or "exact"
+    std::optional<int> height;                               ///< twips
+    std::string heightRule;                                  ///< "", "atLeast" or "exact"
     std::vector<std::pair<std::string, std::string>> extra;  ///< further children of w:trPr and w:tblPrEx
 };
 
 struct Table {
-    std::vector<int> grid;    ///< column widths
+    std::vector<int> grid;  ///< column widths
     std::vector<TableRow> rows;
     Borders borders;
     std::string style;
@@ -197,7 +203,9 @@ struct Table {
 
 // ---- Sections ------------------------------------------------------------------------------------------
 
-/// A header or footer of its own; a section without one shows the one before it.
+/// A header or footer of its own; a section without one shows the one before it. An empty story of the first
+/// or even pages that no page shows (no `titlePage`, no `evenAndOddHeaders`) need not be written as long as
+/// no section before it has text there.
 struct Story {
     Blocks blocks;  ///< ends with a paragraph, always
 };
@@ -206,6 +214,9 @@ struct Story {
 enum class Pages { Primary = 0, First = 1, Even = 2 };
 
 struct SectionProperties {
+    /// Everything but the headers and footers.
+    SectionProperties CopyWithoutStories() const;
+
     int start = 2;  ///< the model's: 0 continuous, 1 new column, 2 new page, 3 even page, 4 odd page
     int pageWidth = 12240;
     int pageHeight = 15840;
@@ -241,9 +252,9 @@ struct AbstractList {
 };
 
 struct ListInstance {
-    int abstractIndex = 0;   ///< into Document::abstractLists
-    bool restarts = false;   ///< begins at one although the definition was used before
-    std::string overrides;   ///< w:lvlOverride elements of an opened file
+    int abstractIndex = 0;  ///< into Document::abstractLists
+    bool restarts = false;  ///< begins at one although the definition was used before
+    std::string overrides;  ///< w:lvlOverride elements of an opened file
 };
 
 /// A style as the XML it is written in.
@@ -256,35 +267,41 @@ struct StyleDefinition {
 
 /// What a relationship id in raw XML leads to.
 struct Relation {
-    std::string type;         ///< the relationship's type URI
-    std::string target;       ///< part name below word/, or the address of an outside one
+    std::string type;    ///< the relationship's type URI
+    std::string target;  ///< part name below word/, or the address of an outside one
     bool external = false;
     std::string contentType;
-    std::string bytes;        ///< of the part
+    std::string bytes;                          ///< of the part
     std::map<std::string, Relation> relations;  ///< the part's own
 };
 
 class Document {
-   public:
+ public:
     Document();
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
 
-    Blocks body;                     ///< ends with a paragraph, always
-    SectionProperties lastSection;
-    FormatTable<CharFormat> charFormats;   ///< id 0 is "no direct formatting"
+    Blocks body;                          ///< ends with a paragraph, always
+    SectionProperties lastSection;        ///< of what follows the last paragraph that ends a section
+    FormatTable<CharFormat> charFormats;  ///< id 0 is "no direct formatting"
     FormatTable<ParaFormat> paraFormats;
     std::vector<AbstractList> abstractLists;
-    std::vector<ListInstance> lists;       ///< numId n is entry n - 1
+    std::vector<ListInstance> lists;  ///< numId n is entry n - 1
     std::vector<StyleDefinition> styles;
-    std::string docDefaults;               ///< complete w:docDefaults
+    std::string docDefaults;                    ///< complete w:docDefaults
     std::map<std::string, Relation> relations;  ///< by the id that raw XML names
     int defaultTabStop = 720;
-    int protection = -1;                   ///< the model's: -1 none, 2 form fields only
+    int protection = -1;  ///< the model's: -1 none, 2 form fields only
     bool evenAndOddHeaders = false;
     int nextBookmarkId = 1;
-    int nextFormField[2] = {1, 1};         ///< next number of "Text" and of "Check"
+    int nextFormField[2] = {1, 1};  ///< next number of "Text" and of "Check"
+    int zoomPercent = 100;          ///< how the document is shown when it is opened
+    bool zoomToPageWidth = false;
 };
+
+/// A deep copy for another place of the same document. Bookmarks stay with the original, and so do the names
+/// of form fields and the section ends.
+Blocks CopyBlocks(const Blocks& blocks);
 
 /// A place in the text: a paragraph and a byte offset into its text.
 struct Place {

@@ -1,0 +1,134 @@
+#include "cli/command_line.h"
+
+#include <CLI/CLI.hpp>
+
+#include <charconv>
+#include <optional>
+#include <ostream>
+
+#include "cli/listings.h"
+#include "cli/make.h"
+#include "core/text_conversions.h"
+#include "platform/clock.h"
+#include "platform/paths.h"
+
+namespace quillmark::cli {
+
+namespace {
+
+std::optional<unsigned> Digits(std::string_view text) {
+    unsigned value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (error != std::errc{} || end != text.data() + text.size()) return {};
+    return value;
+}
+
+/// YYYY-MM-DD and nothing else.
+std::optional<std::chrono::year_month_day> IsoDate(std::string_view text) {
+    if (text.size() != 10 || text[4] != '-' || text[7] != '-') return {};
+    const auto year = Digits(text.substr(0, 4));
+    const auto month = Digits(text.substr(5, 2));
+    const auto day = Digits(text.substr(8, 2));
+    if (!year || !month || !day) return {};
+    const std::chrono::year_month_day date{std::chrono::year(static_cast<int>(*year)),
+                                           std::chrono::month(*month), std::chrono::day(*day)};
+    return date.ok() ? std::optional(date) : std::nullopt;
+}
+
+std::vector<std::string> Split(std::string_view text, char separator) {
+    std::vector<std::string> parts;
+    for (std::size_t begin = 0; begin <= text.size();) {
+        const std::size_t end = std::min(text.find(separator, begin), text.size());
+        parts.emplace_back(Trimmed(text.substr(begin, end - begin)));
+        begin = end + 1;
+    }
+    return parts;
+}
+
+/// The words of `make` as they were typed.
+struct MakeWords {
+    std::vector<std::string> jobs;
+    std::string folder = ".";
+    std::string out = ".";
+    std::string documents;
+    std::string today;
+    std::string answers;
+    std::string trace;
+    bool pdf = false;
+    bool quiet = false;
+};
+
+CLI::App* AddMake(CLI::App& app, MakeWords& words) {
+    CLI::App* make = app.add_subcommand("make", "Make the documents of jobs, one Word document per job");
+    make->add_option("JOB", words.jobs, "A job's name in the job folder, or the path of a .dat file")
+        ->required();
+    make->add_option("--folder", words.folder,
+                     "Program folder: settings, firm defaults, packages, data (default: .)")
+        ->type_name("DIR");
+    make->add_option("--out", words.out, "Where NAME_QMF.docx goes (default: .)")->type_name("DIR");
+    make->add_option("--documents", words.documents, "Documents to make in place of those that the job lists")
+        ->type_name("\"A;B\"");
+    make->add_option("--today", words.today, "The date that counts as today")->type_name("YYYY-MM-DD");
+    make->add_option("--answers", words.answers, "Answers to the questions, in the order in which they come")
+        ->type_name("Yes,No,...");
+    make->add_option("--trace", words.trace, "Also write every word-processor operation to this file")
+        ->type_name("FILE");
+    make->add_flag("--pdf", words.pdf, "Also write NAME_QMF.pdf beside each document (needs LibreOffice)");
+    make->add_flag("--quiet", words.quiet, "Write nothing but errors");
+    return make;
+}
+
+/// Throws CLI::ValidationError for what cannot be read.
+MakeOrder OrderOf(const MakeWords& words, const CLI::App& make) {
+    MakeOrder order;
+    order.jobs = words.jobs;
+    order.folder = PathOf(words.folder);
+    order.out = PathOf(words.out);
+    order.today = SystemClock().Today();
+    if (make.count("--today")) {
+        const auto today = IsoDate(words.today);
+        if (!today) throw CLI::ValidationError("--today", words.today + " is no date of the form YYYY-MM-DD");
+        order.today = *today;
+    }
+    if (make.count("--documents")) {
+        order.documents = Split(words.documents, ';');
+        std::erase(*order.documents, "");
+        if (order.documents->empty()) throw CLI::ValidationError("--documents", "names no document");
+    }
+    if (make.count("--answers"))
+        for (std::string& answer : Split(words.answers, ',')) order.answers.emplace_back(std::move(answer));
+    if (make.count("--trace")) order.trace = PathOf(words.trace);
+    order.pdf = words.pdf;
+    order.quiet = words.quiet;
+    return order;
+}
+
+int Parse(CLI::App& app, const std::vector<std::string>& words, const Streams& streams) {
+    try {
+        app.parse(std::vector<std::string>(words.rbegin(), words.rend()));
+        return kDone;
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error, streams.out, streams.err) == 0 ? kDone : kWrongCommandLine;
+    }
+}
+
+}  // namespace
+
+int RunCommandLine(const std::vector<std::string>& words, const Streams& streams) {
+    CLI::App app("Quillmark makes the documents of real-estate closings in Connecticut.", "quillmark-cli");
+    app.set_version_flag("--version", "quillmark-cli " QUILLMARK_VERSION);
+    app.require_subcommand(1);
+    int status = kDone;
+    MakeWords makeWords;
+    CLI::App* make = AddMake(app, makeWords);
+    make->callback([&] { status = Make(OrderOf(makeWords, *make), streams); });
+    app.add_subcommand("documents", "List the built-in documents in catalogue order")->callback([&] {
+        ListDocuments(streams.out);
+    });
+    app.add_subcommand("fields", "List the fields: number, marker, sort key, description, tab-separated")
+        ->callback([&] { ListFields(streams.out); });
+    const int parsed = Parse(app, words, streams);
+    return parsed == kDone ? status : parsed;
+}
+
+}  // namespace quillmark::cli

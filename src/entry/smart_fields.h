@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace quillmark {
+
+class Job;
+
+/// A value that a field's rule cannot take: in practice a date field that holds no date. The field keeps the
+/// text and its derived parts show their markers; what becomes of the field is the caller's decision.
+class BadFieldInput : public std::runtime_error {
+ public:
+    BadFieldInput(int field, const std::string& value);
+
+    int field() const { return field_; }
+
+ private:
+    int field_;
+};
+
+/// Gives the list of choices of a field, separated by ";"; empty for none.
+using ChoiceLists = std::function<std::string(int n)>;
+
+/// Installs the change rule that keeps the derived values of the job and the shown form of its values, and
+/// brings both up to date for the values that the job has. Gives the fields whose values their rules could
+/// not take, in ascending order; those values stay. From then on `Job::SetField` throws BadFieldInput for
+/// such a value.
+std::vector<int> AttachSmartFields(Job& job, ChoiceLists choices = {});
+
+/// The smart rule of field n over its present value. May set the field again in its shown form, which runs
+/// the rule once more; every rule gives the same when it runs twice. Throws BadFieldInput.
+void OnFieldChanged(Job& job, int n);
+
+/// Rebuilds last, given and joined names: the options 1 to 6 (number of sellers and buyers, person or entity)
+/// decide their form.
+void OnPartyOptionChanged(Job& job);
+
+}  // namespace quillmark

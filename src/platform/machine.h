@@ -1,0 +1,79 @@
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace quillmark {
+
+/// Something outside the program did not do what was asked of it.
+class MachineError : public std::runtime_error {
+ public:
+    using std::runtime_error::runtime_error;
+};
+
+enum class SpecialFolder {
+    Documents,         ///< the user's documents
+    LocalApplication,  ///< this computer's data of the user's programs
+};
+
+/// The system's own programs and folders.
+class Shell {
+ public:
+    virtual ~Shell() = default;
+
+    /// Throws MachineError("The folder path could not be detected") if there is none.
+    virtual std::filesystem::path FolderOf(SpecialFolder folder) = 0;
+    /// Opens a file, or an address such as "mailto:...", with the program that the user has chosen for it.
+    virtual void Open(const std::string& fileOrAddress) = 0;
+    /// Starts a program and does not wait for it. Throws MachineError if it cannot be started.
+    virtual void Start(const std::filesystem::path& program, const std::vector<std::string>& arguments) = 0;
+};
+
+/// The shell of the system that the program runs on.
+class SystemShell final : public Shell {
+ public:
+    std::filesystem::path FolderOf(SpecialFolder folder) override;
+    void Open(const std::string& fileOrAddress) override;
+    void Start(const std::filesystem::path& program, const std::vector<std::string>& arguments) override;
+};
+
+struct PrinterBin {
+    int number;
+    std::string name;  ///< empty where the driver gives none
+};
+
+/// The printers that the user can choose from.
+class Printers {
+ public:
+    virtual ~Printers() = default;
+    virtual std::vector<std::string> Names() = 0;
+    virtual std::string DefaultName() = 0;  ///< empty without printers
+    virtual std::vector<PrinterBin> BinsOf(const std::string& printer) = 0;
+};
+
+/// The network, as far as the upgrade notice needs it.
+class HttpClient {
+ public:
+    virtual ~HttpClient() = default;
+    /// The body of a successful answer; nothing after any failure, or when `limit` has passed.
+    virtual std::optional<std::string> Get(const std::string& address, std::chrono::milliseconds limit) = 0;
+};
+
+/// Fills the fields of a PDF form.
+class PdfForms {
+ public:
+    using Values = std::vector<std::pair<std::string, std::string>>;  ///< field name and value
+
+    virtual ~PdfForms() = default;
+    /// Writes a filled copy of `form`. Throws MachineError naming a field that the form lacks.
+    virtual void Fill(const std::filesystem::path& form, const Values& values,
+                      const std::filesystem::path& filled) = 0;
+};
+
+}  // namespace quillmark

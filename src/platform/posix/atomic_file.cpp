@@ -1,0 +1,135 @@
+#ifndef _WIN32
+
+#include "platform/atomic_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+#include "platform/temporary_name.h"
+
+namespace quillmark {
+namespace fs = std::filesystem;
+namespace {
+
+std::error_code LastError() {
+    return {errno, std::generic_category()};
+}
+
+/// An open file, closed with the object.
+class File {
+ public:
+    File(const fs::path& path, int flags, mode_t mode = 0)
+        : descriptor_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {}
+    ~File() { Close(); }
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+
+    bool IsOpen() const { return descriptor_ >= 0; }
+    int Descriptor() const { return descriptor_; }
+    bool Close() { return !IsOpen() || ::close(std::exchange(descriptor_, -1)) == 0; }
+
+ private:
+    int descriptor_;
+};
+
+/// A new file that is gone with the object unless it was kept under another name.
+class TemporaryFile {
+ public:
+    /// `target` is the file that it is meant to replace.
+    explicit TemporaryFile(const fs::path& target)
+        : target_(target),
+          path_(target.parent_path() / TemporaryName()),
+          file_(path_, O_WRONLY | O_CREAT | O_EXCL, 0666) {
+        if (!file_.IsOpen()) Fail();
+    }
+    ~TemporaryFile() {
+        if (!path_.empty() && file_.IsOpen()) ::unlink(path_.c_str());
+    }
+
+    void SetMode(mode_t mode) {
+        if (::fchmod(file_.Descriptor(), mode) != 0) Fail();
+    }
+
+    void Write(std::string_view bytes) {
+        while (!bytes.empty()) {
+            const ssize_t written = ::write(file_.Descriptor(), bytes.data(), bytes.size());
+            if (written < 0 && errno == EINTR) continue;
+            if (written < 0) Fail();
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+    }
+
+    void Replace() {
+        if (::fsync(file_.Descriptor()) != 0) Fail();
+        if (::rename(path_.c_str(), target_.c_str()) != 0) Fail();
+        path_.clear();
+    }
+
+ private:
+    [[noreturn]] void Fail() const { throw FileError(target_, LastError()); }
+
+    const fs::path target_;
+    fs::path path_;
+    File file_;
+};
+
+/// Where the bytes end up: behind a link, its target.
+fs::path TargetOf(const fs::path& file) {
+    std::error_code error;
+    if (!fs::is_symlink(file, error)) return file;
+    const fs::path target = fs::canonical(file, error);
+    return error ? file : target;
+}
+
+/// Makes the new name last through a power cut. The file itself is already safe, and not every file system
+/// can flush a folder, so a failure is none of the caller's.
+void FlushFolder(const fs::path& folder) {
+    const File file(folder.empty() ? fs::path(".") : folder, O_RDONLY | O_DIRECTORY);
+    if (file.IsOpen()) ::fsync(file.Descriptor());
+}
+
+}  // namespace
+
+void ReplaceFile(const fs::path& file, std::string_view bytes) {
+    const fs::path target = TargetOf(file);
+    struct stat old = {};
+    const bool exists = ::stat(target.c_str(), &old) == 0;
+    if (exists && !S_ISREG(old.st_mode))
+        throw FileError(target, FileError::Kind::Other, "is no ordinary file");
+    if (exists && ::access(target.c_str(), W_OK) != 0) throw FileError(target, LastError());
+
+    TemporaryFile temporary(target);
+    if (exists) temporary.SetMode(old.st_mode & 07777);
+    temporary.Write(bytes);
+    temporary.Replace();
+    FlushFolder(target.parent_path());
+}
+
+std::string ReadFile(const fs::path& file, std::size_t limit) {
+    const File in(file, O_RDONLY | O_NONBLOCK);  // a pipe must not hold the program up
+    struct stat status = {};
+    if (!in.IsOpen() || ::fstat(in.Descriptor(), &status) != 0) throw FileError(file, LastError());
+    if (!S_ISREG(status.st_mode)) throw FileError(file, FileError::Kind::Other, "is no ordinary file");
+
+    std::string bytes;
+    const std::size_t expected = static_cast<std::size_t>(status.st_size);
+    while (bytes.size() <= limit) {
+        const std::size_t before = bytes.size();
+        const std::size_t wanted = before < expected ? expected - before + 1 : 4096;
+        bytes.resize(before + std::min(wanted, limit + 1 - before));
+        const ssize_t done = ::read(in.Descriptor(), bytes.data() + before, bytes.size() - before);
+        if (done < 0 && errno != EINTR) throw FileError(file, LastError());
+        bytes.resize(before + static_cast<std::size_t>(std::max<ssize_t>(done, 0)));
+        if (done == 0) return bytes;
+    }
+    throw FileError(file, FileError::Kind::TooLarge, "is larger than any file of this kind");
+}
+
+}  // namespace quillmark
+
+#endif

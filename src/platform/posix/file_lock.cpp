@@ -1,0 +1,59 @@
+#ifndef _WIN32
+
+#include "platform/file_lock.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <thread>
+
+#include "platform/atomic_file.h"
+
+namespace quillmark {
+namespace {
+
+constexpr std::chrono::milliseconds kPause{50};
+
+std::error_code LastError() {
+    return {errno, std::generic_category()};
+}
+
+/// A lock of the open file description: unlike a lock of the process it also holds against this program's
+/// other locks, and is not lost when some other use of the file is closed.
+bool TryLock(int descriptor) {
+    struct flock whole = {};
+    whole.l_type = F_WRLCK;
+    whole.l_whence = SEEK_SET;
+    return ::fcntl(descriptor, F_OFD_SETLK, &whole) == 0;
+}
+
+}  // namespace
+
+struct FileLock::Handle {
+    int descriptor;
+    ~Handle() {
+        if (descriptor >= 0) ::close(descriptor);
+    }
+};
+
+FileLock::FileLock(const std::filesystem::path& file, const KeepWaiting& keepWaiting)
+    : handle_(new Handle{::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)}) {
+    if (handle_->descriptor < 0) throw FileError(file, LastError());
+    while (!TryLock(handle_->descriptor)) {
+        if (errno == EINTR) continue;
+        if (errno != EAGAIN && errno != EACCES) throw FileError(file, LastError());
+        if (keepWaiting && !keepWaiting())
+            throw FileError(file, FileError::Kind::InUse, "is locked by another user");
+        std::this_thread::sleep_for(kPause);
+    }
+}
+
+FileLock::~FileLock() = default;
+FileLock::FileLock(FileLock&&) noexcept = default;
+FileLock& FileLock::operator=(FileLock&&) noexcept = default;
+
+}  // namespace quillmark
+
+#endif

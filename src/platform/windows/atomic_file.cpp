@@ -1,0 +1,98 @@
+#ifdef _WIN32
+
+#include <windows.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/atomic_file.h"
+#include "platform/temporary_name.h"
+
+namespace quillmark {
+namespace fs = std::filesystem;
+namespace {
+
+std::error_code LastError() {
+    return {static_cast<int>(GetLastError()), std::system_category()};
+}
+
+/// An open file, closed with the object.
+class File {
+ public:
+    File(const fs::path& path, DWORD access, DWORD share, DWORD creation)
+        : handle_(
+              CreateFileW(path.c_str(), access, share, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr)) {}
+    ~File() { Close(); }
+    File(const File&) = delete;
+    File& operator=(const File&) = delete;
+
+    bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+    HANDLE Handle() const { return handle_; }
+    void Close() {
+        if (IsOpen()) CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE));
+    }
+
+ private:
+    HANDLE handle_;
+};
+
+bool WriteAll(const File& file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        DWORD done = 0;
+        const auto size = static_cast<DWORD>(std::min<std::size_t>(bytes.size(), 1u << 30));
+        if (!WriteFile(file.Handle(), bytes.data(), size, &done, nullptr)) return false;
+        bytes.remove_prefix(done);
+    }
+    return FlushFileBuffers(file.Handle()) != 0;
+}
+
+/// Keeps the old file's rights, attributes and streams where there is one.
+bool MoveOnto(const fs::path& temporary, const fs::path& target) {
+    if (ReplaceFileW(target.c_str(), temporary.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
+                     nullptr)) {
+        return true;
+    }
+    return GetLastError() == ERROR_FILE_NOT_FOUND &&
+           MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH);
+}
+
+}  // namespace
+
+void ReplaceFile(const fs::path& file, std::string_view bytes) {
+    const fs::path temporary = file.parent_path() / TemporaryName();
+    File out(temporary, GENERIC_WRITE, 0, CREATE_NEW);
+    if (!out.IsOpen()) throw FileError(file, LastError());
+    bool done = WriteAll(out, bytes);
+    std::error_code error = LastError();
+    out.Close();
+    if (done) {
+        done = MoveOnto(temporary, file);
+        error = LastError();
+    }
+    if (done) return;
+    DeleteFileW(temporary.c_str());
+    throw FileError(file, error);
+}
+
+std::string ReadFile(const fs::path& file, std::size_t limit) {
+    const File in(file, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, OPEN_EXISTING);
+    LARGE_INTEGER size = {};
+    if (!in.IsOpen() || !GetFileSizeEx(in.Handle(), &size)) throw FileError(file, LastError());
+    if (GetFileType(in.Handle()) != FILE_TYPE_DISK) {
+        throw FileError(file, FileError::Kind::Other, "is no ordinary file");
+    }
+    if (static_cast<std::uint64_t>(size.QuadPart) > limit) {
+        throw FileError(file, FileError::Kind::TooLarge, "is larger than any file of this kind");
+    }
+    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+    DWORD done = 0;
+    if (!::ReadFile(in.Handle(), bytes.data(), static_cast<DWORD>(bytes.size()), &done, nullptr)) {
+        throw FileError(file, LastError());
+    }
+    bytes.resize(done);
+    return bytes;
+}
+
+}  // namespace quillmark
+
+#endif

@@ -1,0 +1,42 @@
+#ifdef _WIN32
+
+#include "platform/file_lock.h"
+
+#include <windows.h>
+
+#include "platform/atomic_file.h"
+
+namespace quillmark {
+namespace {
+
+constexpr DWORD kPause = 50;  // milliseconds
+
+}  // namespace
+
+struct FileLock::Handle {
+    HANDLE file = INVALID_HANDLE_VALUE;
+    ~Handle() {
+        if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
+    }
+};
+
+// Opened for this program alone, the file is held as long as it is open.
+FileLock::FileLock(const std::filesystem::path& file, const KeepWaiting& keepWaiting) : handle_(new Handle) {
+    while (true) {
+        handle_->file = CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (handle_->file != INVALID_HANDLE_VALUE) return;
+        const std::error_code error(static_cast<int>(GetLastError()), std::system_category());
+        const FileError failure(file, error);
+        if (failure.kind != FileError::Kind::InUse || (keepWaiting && !keepWaiting())) throw failure;
+        Sleep(kPause);
+    }
+}
+
+FileLock::~FileLock() = default;
+FileLock::FileLock(FileLock&&) noexcept = default;
+FileLock& FileLock::operator=(FileLock&&) noexcept = default;
+
+}  // namespace quillmark
+
+#endif

@@ -1,0 +1,25 @@
+#include "production/passages.h"
+#include "production/passages_deed.h"
+#include "production/phrases.h"
+
+namespace quillmark {
+
+using namespace field;
+
+void TypeConservatorsDeed(const JobValues& job, Typist& type) {
+    TypeReturnTo(job, type, kBuyerAtty);
+    TypeTitle(type, "CONSERVATOR’S DEED - STATUTORY FORM");
+
+    TypeDeedOpening(type);
+    TypeFiduciary(job, type);
+    type.Text(", Conservator of the estate of ", job[ConservedParty], ", an incapable person");
+    TypeConsideration(job, type, "grants");
+    TypeGranteePhrase(job, type, "Bold-T");
+    TypePremises(job, type, "CONSERVATOR’S COVENANTS");
+    TypeUsualEncumbrances(type);
+    TypeGenderParagraph(type);
+
+    TypeFiduciaryExecution(job, type);
+}
+
+}  // namespace quillmark

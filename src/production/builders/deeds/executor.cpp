@@ -1,0 +1,26 @@
+#include "production/passages.h"
+#include "production/passages_deed.h"
+#include "production/phrases.h"
+
+namespace quillmark {
+
+using namespace field;
+
+void TypeExecutorsDeed(const JobValues& job, Typist& type) {
+    TypeReturnTo(job, type, kBuyerAtty);
+    TypeTitle(type, "EXECUTOR’S DEED - STATUTORY FORM");
+
+    TypeDeedOpening(type);
+    TypeFiduciary(job, type);
+    type.Text(", duly qualified and authorized Executor of the last will and testament of ", job[Decedent],
+              " late of ", job.Address(kDecedent));
+    TypeConsideration(job, type, "grants");
+    TypeGranteePhrase(job, type, "Bold-T");
+    TypePremises(job, type, "EXECUTOR’S COVENANTS");
+    TypeUsualEncumbrances(type);
+    TypeGenderParagraph(type);
+
+    TypeFiduciaryExecution(job, type);
+}
+
+}  // namespace quillmark

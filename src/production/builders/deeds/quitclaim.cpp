@@ -1,0 +1,25 @@
+#include "production/passages.h"
+#include "production/passages_deed.h"
+#include "production/phrases.h"
+
+namespace quillmark {
+
+/// The statutory form of C.G.S. Sec. 47-36c. Who gives up a claim promises nothing about encumbrances, so
+/// none are excepted.
+void TypeQuitclaimDeed(const JobValues& job, Typist& type) {
+    const SellersByPower power = FindSellersByPower(job);
+
+    TypeReturnTo(job, type, kBuyerAtty);
+    TypeTitle(type, "QUITCLAIM DEED - STATUTORY FORM");
+
+    TypeDeedOpening(type);
+    TypeGrantors(job, type, power);
+    TypeConsideration(job, type, job.Has(TwoSellers) ? "grant" : "grants");
+    TypeGranteePhrase(job, type, "Bold-T");
+    TypePremises(job, type, "QUITCLAIM COVENANTS");
+    TypeGenderParagraph(type);
+
+    TypeSellersExecution(job, type, power);
+}
+
+}  // namespace quillmark

@@ -1,0 +1,70 @@
+#include <string>
+#include <string_view>
+
+#include "core/text_conversions.h"
+#include "production/job_values.h"
+#include "production/typing.h"
+
+namespace quillmark {
+
+using namespace field;
+
+namespace {
+
+void ReplaceWhileFound(std::string& text, std::string_view found, std::string_view by) {
+    for (std::size_t at = text.find(found); at != std::string::npos; at = text.find(found, at)) {
+        text.replace(at, found.size(), by);
+    }
+}
+
+/// One paragraph to each line of the field, without the blank lines and indents between them, so that each
+/// becomes one numbered exception.
+std::string ExceptionParagraphs(std::string text) {
+    ReplaceWhileFound(text, "\n", "\r");
+    ReplaceWhileFound(text, "\r ", "\r");
+    ReplaceWhileFound(text, "\r\r", "\r");
+    if (!text.ends_with('\r')) text += '\r';
+    return text;
+}
+
+void TypeDescription(const JobValues& job, Typist& type) {
+    if (const std::string& picture = job.Picture(SchedADescription); !picture.empty()) {
+        type.Picture(picture);
+        return;
+    }
+    type.Align(word::AlignJustified);
+    type.Text(job[SchedADescription], RepeatReturn(3));
+}
+
+}  // namespace
+
+void TypeScheduleA(const JobValues& job, Typist& type) {
+    type.Indents(kDeedIndent);
+    type.Align(word::AlignCentre);
+    type.Font("Arial", 11);
+    type.Text("\r");
+    type.Underline(word::UnderlineSingle);
+    type.TypeBold("SCHEDULE \"A\"");
+    type.Underline(word::UnderlineNone);
+    type.Text(RepeatReturn(3));
+    type.FontSize(10);
+
+    TypeDescription(job, type);
+
+    type.Align(word::AlignLeft);
+    type.Underline(word::UnderlineSingle);
+    type.TypeBold("Subject to");
+    type.Underline(word::UnderlineNone);
+    type.Text(":", RepeatReturn(2));
+
+    type.Align(word::AlignJustified);
+    type.BeginList();
+    type.SpaceAfter(10);
+    type.Text(ExceptionParagraphs(job[SchedAEncumbrances]));
+    type.WordSel.ListFormat().RemoveNumbers();
+    type.SpaceAfter(0);
+    type.Text("\r");
+    type.Indents(0);
+}
+
+}  // namespace quillmark

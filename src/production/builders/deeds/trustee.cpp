@@ -1,0 +1,27 @@
+#include "production/passages.h"
+#include "production/passages_deed.h"
+#include "production/phrases.h"
+
+namespace quillmark {
+
+using namespace field;
+
+void TypeTrusteesDeed(const JobValues& job, Typist& type) {
+    TypeReturnTo(job, type, kBuyerAtty);
+    TypeTitle(type, "TRUSTEE’S DEED - STATUTORY FORM");
+
+    TypeDeedOpening(type);
+    TypeFiduciary(job, type);
+    type.Text(", Trustee under Article ", job[FiduciaryArticleNumber], " of the ");
+    type.TypeItalic(job[TrustInstrument]);
+    type.Text(", duly qualified as trustee");
+    TypeConsideration(job, type, "grants");
+    TypeGranteePhrase(job, type, "Bold-T");
+    TypePremises(job, type, "TRUSTEE’S COVENANTS");
+    TypeUsualEncumbrances(type);
+    TypeGenderParagraph(type);
+
+    TypeFiduciaryExecution(job, type);
+}
+
+}  // namespace quillmark

@@ -1,0 +1,27 @@
+#include "production/dispatch.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "production/builder_list.h"
+#include "production/document_catalogue.h"
+
+namespace quillmark {
+
+bool IsKnownDocument(std::string_view entry) {
+    const auto holds = [entry](auto names) { return std::ranges::find(names, entry) != names.end(); };
+    return holds(DocumentCatalogue()) || holds(OlderDocuments()) || entry == kNewDocument ||
+           IsCustomDocument(entry);
+}
+
+std::string TypeEntry(std::string_view entry, const Job& job, WordSession& session) {
+    if (const Builder* builder = FindBuilder(entry)) {
+        TypeDocument(*builder, job, session);
+        return NoticesOf(*builder, job);
+    }
+    if (!IsKnownDocument(entry))
+        throw std::invalid_argument("no document has the name \"" + std::string(entry) + "\"");
+    return {};
+}
+
+}  // namespace quillmark

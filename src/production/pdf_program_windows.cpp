@@ -1,0 +1,106 @@
+#ifdef _WIN32
+
+#include <windows.h>
+
+#include <system_error>
+
+#include "platform/paths.h"
+#include "platform/temporary_name.h"
+#include "production/pdf_program.h"
+
+namespace quillmark {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void Fail(const std::string& what) {
+    throw std::system_error(static_cast<int>(GetLastError()), std::system_category(), what);
+}
+
+/// `word` as one argument of a command line.
+std::wstring Quoted(const std::wstring& word) {
+    std::wstring quoted = L"\"";
+    std::size_t backslashes = 0;
+    for (const wchar_t c : word) {
+        if (c == L'"') quoted.append(backslashes + 1, L'\\');
+        backslashes = c == L'\\' ? backslashes + 1 : 0;
+        quoted += c;
+    }
+    return quoted.append(backslashes, L'\\') + L'"';
+}
+
+std::wstring CommandLine(const fs::path& program, const std::vector<std::string>& arguments) {
+    std::wstring line = Quoted(program.wstring());
+    for (const std::string& argument : arguments) line += L" " + Quoted(PathOf(argument).wstring());
+    return line;
+}
+
+/// A job that ends all of its processes with itself.
+HANDLE MakeProcessGroup(const std::string& what) {
+    HANDLE group = CreateJobObjectW(nullptr, nullptr);
+    JOBOBJECT_EXTENDED_LIMIT_INFORMATION limits = {};
+    limits.BasicLimitInformation.LimitFlags = JOB_OBJECT_LIMIT_KILL_ON_JOB_CLOSE;
+    if (!group || !SetInformationJobObject(group, JobObjectExtendedLimitInformation, &limits, sizeof limits))
+        Fail(what);
+    return group;
+}
+
+}  // namespace
+
+std::optional<fs::path> FindProgram(const std::vector<std::string>& names) {
+    for (const std::string& name : names) {
+        wchar_t found[MAX_PATH];
+        const DWORD length = SearchPathW(nullptr, PathOf(name).c_str(), L".exe", MAX_PATH, found, nullptr);
+        if (length > 0 && length < MAX_PATH) return fs::path(found);
+    }
+    return {};
+}
+
+ProgramEnd RunProgram(const fs::path& program, const std::vector<std::string>& arguments,
+                      std::chrono::seconds limit) {
+    const HANDLE group = MakeProcessGroup(TextOf(program));
+    STARTUPINFOW start = {};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION process = {};
+    std::wstring line = CommandLine(program, arguments);
+    if (!CreateProcessW(program.c_str(), line.data(), nullptr, nullptr, FALSE,
+                        CREATE_NO_WINDOW | CREATE_SUSPENDED, nullptr, nullptr, &start, &process)) {
+        CloseHandle(group);
+        Fail(TextOf(program));
+    }
+    AssignProcessToJobObject(group, process.hProcess);
+    ResumeThread(process.hThread);
+    const auto milliseconds = std::chrono::milliseconds(limit).count();
+    const bool ended =
+        WaitForSingleObject(process.hProcess, static_cast<DWORD>(milliseconds)) == WAIT_OBJECT_0;
+    DWORD status = 1;
+    if (ended) GetExitCodeProcess(process.hProcess, &status);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    CloseHandle(group);
+    if (!ended) return ProgramEnd::TimedOut;
+    return status == 0 ? ProgramEnd::Done : ProgramEnd::Failed;
+}
+
+fs::path MakePrivateFolder() {
+    const fs::path folder = fs::temp_directory_path() / TemporaryName();
+    fs::create_directory(folder);
+    return folder;
+}
+
+std::string FileAddress(const fs::path& path) {
+    std::string address = "file:///";
+    for (const char c : TextOf(path)) {
+        if (c == ' ') {
+            address += "%20";
+        } else {
+            address += c == '\\' ? '/' : c;
+        }
+    }
+    return address;
+}
+
+}  // namespace quillmark
+
+#endif

@@ -1,0 +1,74 @@
+#include "production/typing.h"
+
+#include "core/text_conversions.h"
+
+namespace quillmark {
+
+using word::InchesToPoints;
+
+namespace {
+
+// A value of several lines has CR LF between them; the word processor's paragraph end is the CR alone.
+void AppendLines(std::string& text, std::string_view part) {
+    if (part.find('\n') == std::string_view::npos) {
+        text += part;
+        return;
+    }
+    for (std::size_t i = 0; i < part.size(); ++i) {
+        if (part[i] != '\n') {
+            text += part[i];
+        } else if (i == 0 || part[i - 1] != '\r') {
+            text += '\r';
+        }
+    }
+}
+
+}  // namespace
+
+std::string SignatureRule() {
+    return RepeatUnderscore(41);
+}
+
+void Typist::TypeText(std::initializer_list<std::string_view> parts) {
+    std::string text;
+    for (const std::string_view part : parts) AppendLines(text, part);
+    WordSel.TypeText(text);
+}
+
+void Typist::Font(std::string_view name, double points) {
+    WordSel.Font.Name = name;
+    WordSel.Font.Size = points;
+}
+
+void Typist::Indents(double inches) {
+    indent_ = inches;
+    WordSel.Paragraphs.LeftIndent = InchesToPoints(inches);
+    WordSel.Paragraphs.RightIndent = InchesToPoints(inches);
+}
+
+void Typist::EndList() {
+    WordSel.ListFormat().RemoveNumbers();
+    Indents(indent_);
+}
+
+void Typist::NumberedList(std::initializer_list<std::string_view> items) {
+    BeginList();
+    for (const std::string_view item : items) Text(item, "\v\r");
+    EndList();
+}
+
+void Typist::CheckBox(bool ticked) {
+    session_.WordDoc.FormFields.Add(WordSel.Range(), word::FieldFormCheckBox).CheckBox.Value = ticked;
+}
+
+void Typist::TextField(std::string_view result) {
+    session_.WordDoc.FormFields.Add(WordSel.Range(), word::FieldFormTextInput).Result = result;
+}
+
+void Typist::Picture(std::string_view bytes) {
+    session_.clipboard->SetPicture(std::string(bytes));
+    WordSel.Paste();
+    session_.clipboard->Clear();
+}
+
+}  // namespace quillmark

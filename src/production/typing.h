@@ -1,0 +1,100 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "production/word_session.h"
+
+namespace quillmark {
+
+/// The indent on both sides of a deed and the place of its signatures and braces, in inches.
+inline constexpr double kDeedIndent = 0.1875;
+inline constexpr double kSignatureTab = 3.875;
+
+/// The line to sign on.
+std::string SignatureRule();
+
+/// The hand that builders type with: each method is one short sequence of word-processor operations at the
+/// insertion point. Texts are cut into as many parts as reads well (literals and values, in reading order)
+/// and typed as one; their line ends, of whatever kind a value brings, are paragraph marks. Every method
+/// throws word::AutomationError, which ends the whole run.
+class Typist {
+ public:
+    explicit Typist(WordSession& session) : WordSel(session.WordSel), session_(session) {}
+
+    // Text.
+    template <class... Parts>
+    void Text(const Parts&... parts) {
+        TypeText({std::string_view(parts)...});
+    }
+    /// Sets bold, types, and clears it, also within a bold run.
+    template <class... Parts>
+    void TypeBold(const Parts&... parts) {
+        Bold(true);
+        Text(parts...);
+        Bold(false);
+    }
+    /// As TypeBold, in italics.
+    template <class... Parts>
+    void TypeItalic(const Parts&... parts) {
+        Italic(true);
+        Text(parts...);
+        Italic(false);
+    }
+    /// As TypeBold, with a single underline.
+    template <class... Parts>
+    void TypeUnderlined(const Parts&... parts) {
+        Underline(word::UnderlineSingle);
+        Text(parts...);
+        Underline(word::UnderlineNone);
+    }
+
+    // Characters, from here on.
+    void Font(std::string_view name, double points);
+    void FontSize(double points) { WordSel.Font.Size = points; }
+    void Bold(bool on) { WordSel.Font.Bold = on; }
+    void Italic(bool on) { WordSel.Font.Italic = on; }
+    void Underline(word::Underline kind) { WordSel.Font.Underline = kind; }
+
+    // The paragraph in hand and those that follow it.
+    void Align(word::Alignment alignment) { WordSel.ParagraphFormat.Alignment = alignment; }
+    void SpaceAfter(double points) { WordSel.ParagraphFormat.SpaceAfter = points; }
+    /// Left and right alike.
+    void Indents(double inches);
+    /// A tab stop; whoever adds it clears it.
+    void AddTab(double inches) { WordSel.Paragraphs.TabStops.Add(word::InchesToPoints(inches)); }
+    void ClearTab(double inches) { WordSel.Paragraphs.TabStops.Clear(word::InchesToPoints(inches)); }
+
+    // Lists: 1. 2. 3., or 1. a. i. with the outline, where ListIn and ListOut change the level.
+    void BeginList() { WordSel.ListFormat().ApplyListTemplate(session_.ListTemplateSimple); }
+    void BeginOutline() { WordSel.ListFormat().ApplyListTemplate(session_.ListTemplateOutline); }
+    void ListIn() { WordSel.ListFormat().ListIndent(); }
+    void ListOut() { WordSel.ListFormat().ListOutdent(); }
+    /// The end of a list item, with a blank line that still belongs to it.
+    void EndItem() { Text("\v\r"); }
+    /// Ends the list and sets the indents that it has changed again.
+    void EndList();
+    /// A whole list of plain items.
+    void NumberedList(std::initializer_list<std::string_view> items);
+
+    // Things that are not text.
+    void PageBreak() { WordSel.InsertBreak(word::PageBreak); }
+    /// A box to tick.
+    void CheckBox(bool ticked);
+    /// A field to click and type over.
+    void TextField(std::string_view result);
+    /// A picture given as the bytes of its file, by way of the clipboard, which is empty afterwards.
+    void Picture(std::string_view bytes);
+
+    /// The insertion point itself, for what a single document asks of it.
+    const word::Selection& WordSel;
+
+ private:
+    void TypeText(std::initializer_list<std::string_view> parts);
+
+    WordSession& session_;
+    double indent_ = 0;  ///< as Indents set it last
+};
+
+}  // namespace quillmark

@@ -1,0 +1,285 @@
+#include "selection/relevant_fields.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "core/field_registry.h"
+#include "platform/atomic_file.h"
+#include "platform/code_page.h"
+#include "platform/paths.h"
+#include "platform/record_file.h"
+#include "selection/document_table.h"
+#include "selection/field_defaults.h"
+#include "selection/field_rows.h"
+
+namespace quillmark {
+
+namespace {
+
+constexpr int kCondominiumCharges = 175;
+constexpr int kFiduciaryType = 209;
+constexpr int kSeller1Name = 21;
+constexpr int kSeller2Name = 28;
+constexpr int kPrincipal = 156;
+constexpr int kForwardingAddress = 34;
+constexpr std::size_t kFormListLimit = 1024 * 1024;  ///< bytes of the largest list of markers
+constexpr std::string_view kNewDocument = "[ NEW DOCUMENT ]";
+
+// clang-format off
+constexpr int kOptionalFields[] = {
+      5,   9,  11,  14,  18,  24,  30,  35,  39,  43,  47,  51,  56,  61,  66,  71,  73,  87,  88,  97, 101,
+    110, 111, 112, 115, 119, 128, 129, 130, 142, 158, 163, 167, 171, 172, 173, 174, 176, 177, 178, 179, 180,
+    181, 182, 183, 184, 185, 189, 193, 194, 195, 196, 203, 204, 205, 210, 211, 212, 213,
+};
+// clang-format on
+
+bool IsAttorneyField(int n) {
+    return n >= 2 && n <= 9;
+}
+
+/// "D(1)_D(23)" for "1 23".
+std::string FieldString(std::string_view numbers) {
+    std::string fields;
+    while (!numbers.empty()) {
+        const std::string_view number = numbers.substr(0, numbers.find(' '));
+        numbers.remove_prefix(std::min(numbers.size(), number.size() + 1));
+        if (!fields.empty()) fields += '_';
+        fields.append("D(").append(number).append(")");
+    }
+    return fields;
+}
+
+int NumberAt(std::string_view text) {
+    int number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+/// One default or none: the field is filled silently, locked, and never seen.
+void FillSilently(int n, std::string_view value, SelectionState& screen) {
+    FieldHolder& holder = screen.job.txtField(n);
+    if (!screen.job.IsFilled(n)) {
+        screen.job.SetField(n, value);
+        holder.top = 0;
+    }
+    holder.locked = true;
+}
+
+void AddField(int n, SelectionState& screen, const Office& office) {
+    FieldHolder& holder = screen.job.txtField(n);
+    if (holder.relevant || holder.top == 0) return;
+    if (IsAttorneyField(n)) {
+        const std::string value = FieldDefault(FieldMarker(n), screen, office);
+        if (!IsChoiceList(value)) {
+            FillSilently(n, value, screen);
+            return;
+        }
+    }
+    holder.relevant = true;
+    ++screen.relevantFieldCount;
+    if (!holder.locked) screen.job.ClearField(n);
+}
+
+void StartAnew(SelectionState& screen) {
+    for (int n = 1; n <= kFields; ++n) {
+        FieldHolder& holder = screen.job.txtField(n);
+        if (!holder.locked) screen.job.SetField(n, "");
+        holder.relevant = false;
+        holder.tag.clear();
+    }
+    for (OptionButton& button : screen.options) button.enabled = false;
+    screen.lblJump.fill({});
+    screen.grid.clear();
+    screen.userMarkers.clear();
+    screen.relevantFieldCount = 0;
+}
+
+void EnableOptions(const DocumentFields& row, SelectionState& screen) {
+    std::string_view numbers = row.options;
+    while (!numbers.empty()) {
+        const std::string_view number = numbers.substr(0, numbers.find(' '));
+        numbers.remove_prefix(std::min(numbers.size(), number.size() + 1));
+        screen.options[static_cast<std::size_t>(NumberAt(number))].enabled = true;
+    }
+    const bool isClosingStatement = row.document.starts_with("Closing Statement");
+    if (isClosingStatement && !screen.job.optConf(Condo)) screen.options[LandMultiFamily].enabled = true;
+}
+
+void ApplyAddition(const Addition& addition, SelectionState& screen, const Office& office) {
+    if (screen.job.optConf(addition.option) == (addition.when == When::NotOption)) return;
+    AddFields(FieldString(addition.fields), screen, office);
+    if (addition.when != When::Principal) return;
+    if (screen.job.IsFilled(kSeller2Name))
+        AddField(kPrincipal, screen, office);
+    else
+        screen.job.ClearField(kPrincipal);
+}
+
+void ApplyDocument(const DocumentFields& row, SelectionState& screen, const Office& office) {
+    AddFields(FieldString(row.fields), screen, office);
+    EnableOptions(row, screen);
+    for (const Addition& addition : row.additions) ApplyAddition(addition, screen, office);
+    if (!row.capacity.empty()) screen.job.txtField(kSeller1Name).tag = row.capacity;
+}
+
+void AddUserMarker(std::string marker, SelectionState& screen) {
+    auto& markers = screen.userMarkers;
+    if (std::find(markers.begin(), markers.end(), marker) == markers.end())
+        markers.push_back(std::move(marker));
+}
+
+/// The markers that a custom document holds, as its list beside the document has them.
+void ApplyCustomDocument(std::string_view name, SelectionState& screen, const Office& office) {
+    const auto file = FindExisting(office.folders.CustomFormsFolder / PathOf(std::string(name) + ".inf"));
+    const std::string bytes = ReadFile(file, kFormListLimit);
+    RecordReader records(TextOf(file), bytes);
+    std::string fields = "D(1)";
+    while (records.Next()) {
+        const int n = static_cast<int>(records.Number(1));
+        if (n < 0 || n > kFields) records.Fail("there is no field " + std::to_string(n));
+        if (n == 0)
+            AddUserMarker(records.Text(0), screen);
+        else
+            fields += "_D(" + std::to_string(n) + ")";
+    }
+    AddFields(fields, screen, office);
+}
+
+bool ApplyEntry(const std::string& entry, SelectionState& screen, const Office& office) {
+    if (const DocumentFields* row = FieldsOfDocument(entry)) {
+        ApplyDocument(*row, screen, office);
+        return row->mailingAddress;
+    }
+    const std::string_view custom = CustomDocumentName(entry);
+    if (!custom.empty()) ApplyCustomDocument(custom, screen, office);
+    return false;
+}
+
+void ApplyJobList(SelectionState& screen, const Office& office) {
+    bool mailingAddress = false;
+    for (std::size_t i = 0; i < screen.List2.size(); ++i)
+        mailingAddress |= ApplyEntry(screen.List2[i].name, screen, office);
+    if (mailingAddress) {
+        const bool forwards = screen.job.IsFilled(kForwardingAddress);
+        AddFields(forwards ? "D(34)_D(35)_D(36)" : "D(23)_D(24)_D(25)", screen, office);
+    }
+    const std::string capacity = screen.job.txtField(kSeller1Name).tag;
+    if (!capacity.empty())
+        screen.job.SetField(kFiduciaryType, capacity);
+    else if (screen.job.optConf(EstateTrust))
+        AddField(kFiduciaryType, screen, office);
+}
+
+/// The first of several choices is what an attorney's field starts with.
+void StartWithFirstChoices(SelectionState& screen, const Office& office) {
+    for (int n = 2; n <= 8; ++n) {
+        if (screen.job.IsFilled(n)) continue;
+        screen.job.SetField(n, FirstChoice(FieldDefault(FieldMarker(n), screen, office)));
+    }
+}
+
+void ApplyExclusions(SelectionState& screen) {
+    const Job& job = screen.job;
+    const auto exclude = [&](int option, std::initializer_list<int> others) {
+        for (const int other : others)
+            if (job.optConf(other)) screen.options[static_cast<std::size_t>(option)].enabled = false;
+    };
+    exclude(TwoSellers, {EstateTrust, Entity});
+    exclude(Entity, {EstateTrust, PowerOfAttorney, TwoSellers});
+    exclude(PowerOfAttorney, {Entity});
+    exclude(EstateTrust, {Entity, TwoSellers});
+    if (screen.options[LandMultiFamily].enabled) screen.options[LandMultiFamily].visible = true;
+}
+
+/// In a template every user-defined field can be given a value.
+std::vector<std::string> AllUserMarkers(const Office& office) {
+    const auto file = FindExisting(office.folders.CustomFormsFolder / "userfields.lst");
+    std::vector<std::string> markers;
+    if (!std::filesystem::exists(file)) return markers;
+    const std::string names = FromWindows1252(ReadFile(file, kFormListLimit));
+    for (std::size_t at = 0; at < names.size();) {
+        const std::size_t end = std::min(names.find_first_of("\r\n", at), names.size());
+        if (end > at) markers.push_back("[" + names.substr(at, end - at) + "]");
+        at = end + 1;
+    }
+    return markers;
+}
+
+void ShowGuidance(SelectionState& screen) {
+    for (JumpLabel& label : screen.lblJump) label.current = false;
+    const auto first = std::find_if(screen.lblJump.begin(), screen.lblJump.end(),
+                                    [](const JumpLabel& label) { return label.enabled; });
+    if (first != screen.lblJump.end()) first->current = true;
+    screen.picInfo = " Click an item for edit";
+    if (screen.ScreenMode == screen_mode::kPresets) {
+        screen.picInfo += ".  Use scroll bar or jump labels to navigate";
+        return;
+    }
+    screen.picInfo += " (Double-Click if locked)";
+    if (screen.ScreenMode == screen_mode::kEdit)
+        screen.picInfo += ".  Use Enter, Tab, or Up/Down Arrow keys to navigate";
+}
+
+}  // namespace
+
+bool IsOptionalField(int n, const Job& job) {
+    if (n == kCondominiumCharges) return !job.optConf(Condo);
+    return std::binary_search(std::begin(kOptionalFields), std::end(kOptionalFields), n);
+}
+
+std::string_view CustomDocumentName(std::string_view entry) {
+    if (!entry.starts_with("[ ") || !entry.ends_with(" ]") || entry.size() < 5 || entry == kNewDocument)
+        return {};
+    return entry.substr(2, entry.size() - 4);
+}
+
+void AddFields(std::string_view fieldString, SelectionState& screen, const Office& office) {
+    constexpr std::size_t kMostDigits = 3;
+    for (std::size_t at = fieldString.find('('); at != std::string_view::npos;
+         at = fieldString.find('(', at + 1)) {
+        const int n = NumberAt(fieldString.substr(at + 1, kMostDigits));
+        if (n >= 1 && n <= kFields) AddField(n, screen, office);
+    }
+}
+
+void CountFields(SelectionState& screen) {
+    const Job& job = screen.job;
+    int open = 0;
+    int optional = 0;
+    for (int n = 1; n <= kFields; ++n) {
+        if (!job.txtField(n).relevant || job.txtField(n).text != FieldMarker(n)) continue;
+        ++open;
+        if (IsOptionalField(n, job)) ++optional;
+    }
+    std::array<int, 7> openInGroup = {};
+    for (std::size_t i = 0; i + 1 < screen.grid.size(); ++i) {
+        const GridRow& row = screen.grid[i];
+        if (row.label.ends_with('*'))
+            ++openInGroup[static_cast<std::size_t>(GroupOfKey(row.key))];
+        else if (row.kind == RowKind::User && row.value.empty())
+            ++open;
+    }
+    for (std::size_t group = 1; group < openInGroup.size(); ++group) {
+        JumpLabel& label = screen.lblJump[group];
+        label.complete = screen.ScreenMode == screen_mode::kJob && label.enabled && openInGroup[group] == 0;
+    }
+    screen.total = screen.relevantFieldCount;
+    screen.remaining = open - optional;
+}
+
+void RefreshFields(SelectionState& screen, const Office& office, bool headingsOnly) {
+    if (!headingsOnly) {
+        if (screen.ScreenMode == screen_mode::kJob) StartAnew(screen);
+        ApplyJobList(screen, office);
+        StartWithFirstChoices(screen, office);
+        ApplyExclusions(screen);
+        if (screen.ScreenMode == screen_mode::kPresets) screen.userMarkers = AllUserMarkers(office);
+        RebuildRows(screen);
+    }
+    PlaceHeadings(screen);
+    if (screen.ScreenMode == screen_mode::kJob) CountFields(screen);
+    ShowGuidance(screen);
+}
+
+}  // namespace quillmark

@@ -1,0 +1,280 @@
+#include "word/docx/editing.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "word/automation.h"
+#include "word/docx/editing_spans.h"
+
+namespace quillmark::word::docx {
+namespace {
+
+bool IsControl(char c) {
+    return static_cast<unsigned char>(c) < 0x20;
+}
+
+/// Control characters that are text of a paragraph.
+bool IsTextControl(char c) {
+    return c == character::kTab || c == character::kLineBreak || c == character::kPageBreak ||
+           c == character::kColumnBreak;
+}
+
+void ShiftAnchors(Paragraph& paragraph, std::size_t offset, std::size_t length) {
+    for (Anchor& anchor : paragraph.anchors)
+        if (anchor.offset > offset) anchor.offset += length;
+}
+
+/// Bookmarks that lay wholly in what was taken out go with it; of others the ends move to where it was.
+void EraseAnchors(Paragraph& paragraph, std::size_t from, std::size_t to) {
+    const auto isInside = [&](const Anchor& anchor) { return anchor.offset > from && anchor.offset < to; };
+    const auto goes = [&](const Anchor& anchor) {
+        return isInside(anchor) && std::count_if(paragraph.anchors.begin(), paragraph.anchors.end(),
+                                                 [&](const Anchor& other) {
+                                                     return other.id == anchor.id && isInside(other);
+                                                 }) == 2;
+    };
+    std::vector<Anchor> kept;
+    std::copy_if(paragraph.anchors.begin(), paragraph.anchors.end(), std::back_inserter(kept), std::not_fn(goes));
+    for (Anchor& anchor : kept)
+        if (anchor.offset > from) anchor.offset = anchor.offset <= to ? from : anchor.offset - (to - from);
+    paragraph.anchors = std::move(kept);
+}
+
+void CollectContainers(Block& block, std::vector<const Blocks*>& containers) {
+    const auto* table = std::get_if<std::unique_ptr<Table>>(&block);
+    if (!table) return;
+    for (TableRow& row : (*table)->rows)
+        for (TableCell& cell : row.cells) {
+            containers.push_back(&cell.blocks);
+            for (Block& inner : cell.blocks) CollectContainers(inner, containers);
+        }
+}
+
+void CollectStories(Block& block, std::vector<const Blocks*>& containers) {
+    auto* paragraph = std::get_if<Paragraph>(&block);
+    if (!paragraph || !paragraph->section) return;
+    for (auto* stories : {&paragraph->section->headers, &paragraph->section->footers})
+        for (auto& story : *stories) {
+            if (!story) continue;
+            containers.push_back(&story->blocks);
+            for (Block& inner : story->blocks) CollectContainers(inner, containers);
+        }
+}
+
+}  // namespace
+
+Editor::Editor(std::unique_ptr<Document> document) : document_(std::move(document)) {
+    CountFormFieldNames();
+}
+
+Place Editor::StartOf(Blocks& blocks) {
+    for (auto block = blocks.begin(); block != blocks.end(); ++block) {
+        if (std::holds_alternative<Paragraph>(*block)) return {&blocks, block, 0};
+        if (const auto* table = std::get_if<std::unique_ptr<Table>>(&*block))
+            return StartOf((*table)->rows.front().cells.front().blocks);
+    }
+    return EndOf(blocks);
+}
+
+Place Editor::EndOf(Blocks& blocks) {
+    const auto last = std::prev(blocks.end());
+    return {&blocks, last, std::get<Paragraph>(*last).text.size()};
+}
+
+FormatId Editor::FormatAt(const Place& place) {
+    const Paragraph& paragraph = ParagraphAt(place);
+    return paragraph.text.empty() ? paragraph.markFormat : SpanFormatBefore(paragraph.spans, place.offset);
+}
+
+// ---- Putting in ----
+
+Place Editor::InsertPlain(const Place& at, std::string_view text, FormatId format) {
+    Paragraph& paragraph = ParagraphAt(at);
+    if (at.offset == paragraph.text.size() && !paragraph.spans.empty() && paragraph.spans.back().format == format)
+        paragraph.spans.back().length += text.size();
+    else
+        InsertIntoSpans(paragraph.spans, at.offset, text.size(), format);
+    paragraph.text.insert(at.offset, text);
+    if (!paragraph.anchors.empty()) ShiftAnchors(paragraph, at.offset, text.size());
+    marks_.Inserted(at.block, at.offset, text.size());
+    return {at.blocks, at.block, at.offset + text.size()};
+}
+
+Place Editor::InsertText(const Place& at, std::string_view text, FormatId format) {
+    Touch();
+    Place place = at;
+    while (!text.empty()) {
+        const auto stop = std::find_if(text.begin(), text.end(),
+                                       [](char c) { return IsControl(c) && !IsTextControl(c); });
+        const auto length = static_cast<std::size_t>(stop - text.begin());
+        if (length > 0) place = InsertPlain(place, text.substr(0, length), format);
+        text.remove_prefix(length);
+        if (text.empty()) break;
+        if (text.front() == '\r' || text.front() == '\n') place = Split(place, format);
+        text.remove_prefix(text.substr(0, 2) == "\r\n" ? 2 : 1);
+    }
+    return place;
+}
+
+Place Editor::InsertObject(const Place& at, InlineObject object, FormatId format) {
+    Touch();
+    Paragraph& paragraph = ParagraphAt(at);
+    const std::size_t index = ObjectsBefore(paragraph.text, at.offset);
+    const bool isFormField = std::holds_alternative<FormFieldData>(object);
+    const bool isLast = at.blocks == &document_->body && std::next(at.block) == document_->body.end() &&
+                        index == paragraph.objects.size();
+    paragraph.objects.insert(paragraph.objects.begin() + index, std::move(object));
+    if (!isLast) ForgetObjectPlaces();
+    if (isLast && isFormField && formFieldsKnown_) formFields_.push_back({at, index});
+    return InsertPlain(at, std::string_view(&character::kObject, 1), format);
+}
+
+Blocks::iterator Editor::InsertParagraphBefore(Blocks& blocks, Blocks::iterator block, FormatId format,
+                                               FormatId markFormat) {
+    Touch();
+    Paragraph paragraph;
+    paragraph.format = format;
+    paragraph.markFormat = markFormat;
+    return blocks.emplace(block, std::move(paragraph));
+}
+
+Place Editor::Split(const Place& at, FormatId markFormat) {
+    Paragraph& first = ParagraphAt(at);
+    if (at.offset == 0 && !first.text.empty()) {
+        const auto before = InsertParagraphBefore(*at.blocks, at.block, first.format, markFormat);
+        marks_.ParagraphPutBefore(at.block, before);
+        return {at.blocks, at.block, 0};
+    }
+    const bool hasTail = at.offset < first.text.size();
+    const auto target = InsertParagraphBefore(*at.blocks, std::next(at.block), first.format,
+                                              hasTail ? first.markFormat : markFormat);
+    Paragraph& second = std::get<Paragraph>(*target);
+    second.section = std::move(first.section);
+    first.markFormat = markFormat;
+    if (second.section) sectionsKnown_ = false;
+    if (hasTail) {
+        const std::size_t objects = ObjectsBefore(first.text, at.offset);
+        if (objects < first.objects.size()) ForgetObjectPlaces();
+        second.objects.assign(std::make_move_iterator(first.objects.begin() + objects),
+                              std::make_move_iterator(first.objects.end()));
+        first.objects.erase(first.objects.begin() + objects, first.objects.end());
+        second.text = first.text.substr(at.offset);
+        first.text.erase(at.offset);
+        second.spans = CutSpans(first.spans, at.offset);
+    }
+    const auto moved = std::stable_partition(first.anchors.begin(), first.anchors.end(),
+                                             [&](const Anchor& anchor) { return anchor.offset <= at.offset; });
+    for (auto anchor = moved; anchor != first.anchors.end(); ++anchor) {
+        anchor->offset -= at.offset;
+        second.anchors.push_back(std::move(*anchor));
+    }
+    first.anchors.erase(moved, first.anchors.end());
+    marks_.TailMoved(at.block, at.offset, target);
+    return {at.blocks, target, 0};
+}
+
+Table& Editor::InsertTable(const Place& at, std::unique_ptr<Table> table) {
+    Touch();
+    ForgetObjectPlaces();
+    const Paragraph& paragraph = ParagraphAt(at);
+    const Place behind = at.offset > 0 ? Split(at, paragraph.markFormat) : at;
+    // Two tables without a paragraph between them would be shown as one.
+    if (behind.block != behind.blocks->begin() &&
+        std::holds_alternative<std::unique_ptr<Table>>(*std::prev(behind.block)))
+        InsertParagraphBefore(*behind.blocks, behind.block, ParagraphAt(behind).format,
+                              ParagraphAt(behind).markFormat);
+    const auto block = behind.blocks->emplace(behind.block, std::move(table));
+    Table& inserted = *std::get<std::unique_ptr<Table>>(*block);
+    const Place firstCell = StartOf(inserted.rows.front().cells.front().blocks);
+    marks_.ForEach([&](Mark& mark) {
+        const bool isHere = mark.place().block == at.block && mark.place().offset == at.offset;
+        const bool isBehind = mark.place().block == behind.block && mark.place().offset == 0;
+        if (isHere || isBehind) mark.MoveTo(firstCell);
+    });
+    return inserted;
+}
+
+// ---- Taking out ----
+
+void Editor::EraseInParagraph(Blocks::iterator block, std::size_t from, std::size_t to) {
+    if (from == to) return;
+    Paragraph& paragraph = std::get<Paragraph>(*block);
+    const std::size_t firstObject = ObjectsBefore(paragraph.text, from);
+    const std::size_t lastObject = ObjectsBefore(paragraph.text, to);
+    if (lastObject > firstObject) ForgetObjectPlaces();
+    paragraph.objects.erase(paragraph.objects.begin() + firstObject, paragraph.objects.begin() + lastObject);
+    EraseAnchors(paragraph, from, to);
+    EraseFromSpans(paragraph.spans, from, to);
+    paragraph.text.erase(from, to - from);
+    marks_.Removed(block, from, to);
+}
+
+void Editor::JoinWithNext(Blocks& blocks, Blocks::iterator block) {
+    const auto next = std::next(block);
+    Paragraph& first = std::get<Paragraph>(*block);
+    Paragraph& second = std::get<Paragraph>(*next);
+    const std::size_t length = first.text.size();
+    if (first.section) {
+        std::vector<const Blocks*> stories;
+        CollectStories(*block, stories);
+        marks_.Abandon({}, stories, StartOf(document_->body));
+    }
+    if (first.section || second.section) sectionsKnown_ = false;
+    if (!second.objects.empty()) ForgetObjectPlaces();
+    if (!second.text.empty() || first.text.empty()) {
+        first.format = second.format;
+        first.markFormat = second.markFormat;
+    }
+    first.section = std::move(second.section);
+    first.text += second.text;
+    AppendSpans(first.spans, second.spans);
+    std::move(second.objects.begin(), second.objects.end(), std::back_inserter(first.objects));
+    for (Anchor& anchor : second.anchors) {
+        anchor.offset += length;
+        first.anchors.push_back(std::move(anchor));
+    }
+    marks_.Appended(next, block, length);
+    blocks.erase(next);
+}
+
+void Editor::Erase(const Place& from, const Place& to) {
+    Touch();
+    if (from.block == to.block) return EraseInParagraph(from.block, from.offset, to.offset);
+    EraseInParagraph(to.block, 0, to.offset);
+    EraseInParagraph(from.block, from.offset, ParagraphAt(from).text.size());
+    std::vector<const Block*> gone;
+    std::vector<const Blocks*> containers;
+    for (auto block = std::next(from.block); block != to.block; ++block) {
+        gone.push_back(&*block);
+        CollectContainers(*block, containers);
+        CollectStories(*block, containers);
+    }
+    if (!gone.empty()) {
+        marks_.Abandon(gone, containers, from);
+        from.blocks->erase(std::next(from.block), to.block);
+        sectionsKnown_ = false;
+        ForgetObjectPlaces();
+    }
+    JoinWithNext(*from.blocks, from.block);
+}
+
+bool Editor::EraseBefore(const Place& at) {
+    if (at.offset > 0) {
+        Erase({at.blocks, at.block, CharacterBefore(ParagraphAt(at).text, at.offset)}, at);
+        return true;
+    }
+    if (at.block == at.blocks->begin() || !std::holds_alternative<Paragraph>(*std::prev(at.block))) return false;
+    Touch();
+    JoinWithNext(*at.blocks, std::prev(at.block));
+    return true;
+}
+
+void Editor::Abandon(Blocks& blocks, const Place& refuge) {
+    std::vector<const Blocks*> containers = {&blocks};
+    for (Block& block : blocks) CollectContainers(block, containers);
+    marks_.Abandon({}, containers, refuge);
+    ForgetObjectPlaces();
+    Touch();
+}
+
+}  // namespace quillmark::word::docx

@@ -1,0 +1,62 @@
+#include "word/docx/editing_spans.h"
+
+#include <algorithm>
+
+namespace quillmark::word::docx {
+
+void InsertIntoSpans(std::vector<Span>& spans, std::size_t offset, std::size_t length, FormatId format) {
+    if (length == 0) return;
+    std::vector<Span> tail = CutSpans(spans, offset);
+    AppendSpans(spans, {{length, format}});
+    AppendSpans(spans, tail);
+}
+
+void EraseFromSpans(std::vector<Span>& spans, std::size_t from, std::size_t to) {
+    const std::vector<Span> tail = CutSpans(spans, to);
+    CutSpans(spans, from);
+    AppendSpans(spans, tail);
+}
+
+std::vector<Span> CutSpans(std::vector<Span>& spans, std::size_t offset) {
+    std::size_t begin = 0;
+    for (auto span = spans.begin(); span != spans.end(); begin += span->length, ++span) {
+        if (begin + span->length <= offset) continue;
+        std::vector<Span> tail(span, spans.end());
+        const std::size_t kept = offset - begin;
+        tail.front().length -= kept;
+        span->length = kept;
+        spans.erase(kept ? span + 1 : span, spans.end());
+        return tail;
+    }
+    return {};
+}
+
+void AppendSpans(std::vector<Span>& spans, const std::vector<Span>& more) {
+    for (const Span& span : more) {
+        if (!spans.empty() && spans.back().format == span.format)
+            spans.back().length += span.length;
+        else
+            spans.push_back(span);
+    }
+}
+
+FormatId SpanFormatBefore(const std::vector<Span>& spans, std::size_t offset) {
+    std::size_t end = 0;
+    for (const Span& span : spans) {
+        end += span.length;
+        if (end >= offset && end > 0) return span.format;
+    }
+    return spans.back().format;
+}
+
+std::size_t ObjectsBefore(std::string_view text, std::size_t offset) {
+    return static_cast<std::size_t>(std::count(text.begin(), text.begin() + offset, character::kObject));
+}
+
+std::size_t CharacterBefore(std::string_view text, std::size_t offset) {
+    do --offset;
+    while (offset > 0 && (static_cast<unsigned char>(text[offset]) & 0xC0) == 0x80);
+    return offset;
+}
+
+}  // namespace quillmark::word::docx

@@ -1,0 +1,39 @@
+#include "word/docx/reader_context.h"
+
+namespace quillmark::word::docx {
+
+namespace {
+
+constexpr std::string_view kRelationPrefix = "r:";
+
+/// False when a relationship is missing.
+bool RenameReferences(const ReadPart& part, pugi::xml_node element) {
+    for (pugi::xml_attribute attribute : element.attributes()) {
+        if (!std::string_view(attribute.name()).starts_with(kRelationPrefix)) continue;
+        const std::string_view id = attribute.value();
+        // An empty id is how drawings say that there is none.
+        if (id.empty()) continue;
+        const auto newId = part.context.relations.Take(part.name, id);
+        if (!newId) return false;
+        attribute.set_value(newId->c_str());
+    }
+    if (IsNamed(element, "w:numId")) {
+        const int number = NumberAttribute(element, "w:val").value_or(0);
+        element.attribute("w:val").set_value(part.context.ListNumber(number));
+    }
+    if (IsNamed(element, "w:footnoteReference") || IsNamed(element, "w:endnoteReference")) {
+        part.context.usesNotes = true;
+    }
+    for (const pugi::xml_node child : element.children()) {
+        if (child.type() == pugi::node_element && !RenameReferences(part, child)) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+std::string ReadPart::Keep(pugi::xml_node element) const {
+    return RenameReferences(*this, element) ? tree.Fragment(element) : std::string();
+}
+
+}  // namespace quillmark::word::docx

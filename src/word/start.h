@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+
+#include "word/automation.h"
+#include "word/clipboard.h"
+#include "word/docx/engine.h"
+
+namespace quillmark::word {
+
+/// Which word processor makes the documents. Automatic is Word where there is one and it starts, the embedded
+/// engine everywhere else.
+enum class WordProcessor { Automatic, Word, Embedded };
+
+struct StartedWordProcessor {
+    ObjectPtr application;
+    std::shared_ptr<Clipboard> clipboard;  ///< the one that this application pastes from
+    bool isEmbedded = false;
+};
+
+/// Starts the word processor of choice. `options` are the embedded engine's and mean nothing to Word.
+/// Throws AutomationError kCannotCreate when Word is asked for by name and is not on this machine.
+StartedWordProcessor StartWordProcessor(WordProcessor choice, docx::EngineOptions options = {});
+
+}  // namespace quillmark::word

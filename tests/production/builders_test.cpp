@@ -1,0 +1,187 @@
+#include "production/builder_list.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <random>
+#include <regex>
+#include <set>
+
+#include "production/fields.h"
+#include "production/job_values.h"
+#include "production/recording_word.h"
+#include "production/sample_deal.h"
+#include "production/typing.h"
+#include "support/scratch.h"
+
+namespace quillmark::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A random choice of the options, the radio groups among them kept as the screen keeps them.
+std::string ChooseOptions(Job& job, std::mt19937& random) {
+    const auto chosen = [&](int on, int off) {
+        const bool first = random() % 2 == 0;
+        job.SetOption(on, first);
+        job.SetOption(off, !first);
+    };
+    chosen(OneSeller, TwoSellers);
+    chosen(Person, Entity);
+    chosen(OneBuyer, TwoBuyers);
+    chosen(OnePayoff, TwoPayoffs);
+    for (const int n : {Condo, Commercial, Letterhead, LandMultiFamily, PowerOfAttorney, EstateTrust}) {
+        job.SetOption(n, random() % 2 == 0);
+    }
+    std::string options;
+    for (int n = 1; n <= kOptions; ++n) options += job.optConf(n) ? std::to_string(n) + " " : "";
+    return options;
+}
+
+/// The sample deal with every other field filled too.
+Job FilledDeal() {
+    Job job = SampleDeal();
+    SellersApart(job);
+    BuyersApart(job);
+    job.SetField(field::ClosingDate, "May 2, 2024");
+    for (int n = 1; n <= kFields; ++n) {
+        if (FieldMarker(n).size() > 2 && !job.IsFilled(n)) job.SetField(n, "12");
+    }
+    return job;
+}
+
+TEST(Builders, LeaveTheInsertionPointAsTheyFoundIt) {
+    std::mt19937 random(20240502);
+    for (int round = 0; round < 100; ++round) {
+        Job job = FilledDeal();
+        const std::string options = ChooseOptions(job, random);
+        const char* const principals[] = {"Walter B. Hollis", "June Hollis", "nobody"};
+        job.SetField(field::PrincipalOfPower, principals[random() % 3]);
+        RecordingWord recorder;
+        WordSession session(recorder.Application(), recorder.clipboard());
+        SetUpWordSession(session);
+        for (const Builder& builder : Builders()) {
+            SCOPED_TRACE(std::string(builder.document) + " with options " + options);
+            TypeDocument(builder, job, session);
+            EXPECT_FALSE(recorder.characters().bold);
+            EXPECT_FALSE(recorder.characters().italic);
+            EXPECT_EQ(recorder.characters().underline, 0);
+            EXPECT_EQ(recorder.paragraph().left, 0);
+            EXPECT_EQ(recorder.paragraph().right, 0);
+            EXPECT_EQ(recorder.paragraph().spaceAfter, 0);
+            EXPECT_TRUE(recorder.paragraph().tabs.empty());
+            EXPECT_TRUE(recorder.paragraph().list.empty());
+        }
+    }
+}
+
+std::string TextOf(const Builder& builder, const Job& job) {
+    RecordingWord recorder;
+    WordSession session(recorder.Application(), recorder.clipboard());
+    SetUpWordSession(session);
+    TypeDocument(builder, job, session);
+    return recorder.Text();
+}
+
+TEST(Builders, FilledJobShowsNoHole) {
+    std::mt19937 random(7);
+    for (int round = 0; round < 40; ++round) {
+        Job job = FilledDeal();
+        const std::string options = ChooseOptions(job, random);
+        for (const Builder& builder : Builders()) {
+            const std::string text = TextOf(builder, job);
+            const std::size_t hole = text.find('[');
+            EXPECT_EQ(hole, std::string::npos)
+                << builder.document << " with options " << options << ": " << text.substr(hole, 60);
+        }
+    }
+}
+
+// Custom documents and the user look for a marker by its text, so a mangled one is a hole that nobody finds.
+TEST(Builders, UnfilledJobShowsMarkersOnly) {
+    std::set<std::string> markers = {"[tenancy type]"};
+    const Job blank = UnfilledDeal();
+    for (int n = 1; n <= kFields; ++n) {
+        for (int part = 0; part <= 4; ++part) markers.insert(blank.D(part * 1000 + n));
+    }
+    std::mt19937 random(11);
+    const std::regex bracketed(R"(\[[^\]\n]*\])");
+    for (int round = 0; round < 40; ++round) {
+        Job job = UnfilledDeal();
+        const std::string options = ChooseOptions(job, random);
+        for (const Builder& builder : Builders()) {
+            const std::string text = TextOf(builder, job);
+            EXPECT_NE(text.find('['), std::string::npos) << builder.document;
+            for (std::sregex_iterator match(text.begin(), text.end(), bracketed), end; match != end;
+                 ++match) {
+                const std::string marker = match->str();
+                EXPECT_TRUE(markers.count(marker) || markers.count(LowerCase(marker)))
+                    << builder.document << " with options " << options << ": " << marker;
+            }
+        }
+    }
+}
+
+TEST(Builders, RunAgainForTheSecondSellerOrPayoff) {
+    static std::string calls;
+    const Builder letter{"Letter",
+                         [](const JobValues&, Typist&, const Variant& variant) {
+                             calls += std::string(variant.tag) + std::to_string(variant.number) + " ";
+                         },
+                         {"SMS", 1},
+                         RunsAgain::WithTwoPayoffs,
+                         ""};
+    RecordingWord recorder;
+    WordSession session(recorder.Application(), recorder.clipboard());
+    SetUpWordSession(session);
+    Job job;
+    job.SetOption(TwoSellers, true);
+    TypeDocument(letter, job, session);
+    EXPECT_EQ(calls, "SMS1 ");
+    job.SetOption(TwoPayoffs, true);
+    TypeDocument(letter, job, session);
+    EXPECT_EQ(calls, "SMS1 SMS1 SMS2 ");
+}
+
+TEST(Builders, EveryFileIsOnTheList) {
+    const fs::path folder = fs::path(QUILLMARK_SOURCE_DIR) / "src" / "production" / "builders";
+    const std::string list = ReadBytes(folder / "builders.inc");
+    const std::regex definition(R"(\nvoid (Type\w+)\(const JobValues& job, Typist& type)");
+    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
+        if (entry.path().extension() != ".cpp") continue;
+        const std::string source = ReadBytes(entry.path());
+        std::smatch name;
+        bool listed = false;
+        for (auto at = source.cbegin(); std::regex_search(at, source.cend(), name, definition);
+             at = name.suffix().first) {
+            listed = listed || std::regex_search(list, std::regex("\\b" + name[1].str() + "\\b"));
+        }
+        EXPECT_TRUE(listed) << entry.path() << " has no builder on the list";
+    }
+}
+
+// Every golden text of a document begins with the name of the document that it shows.
+TEST(Builders, EveryEntryHasAGolden) {
+    std::set<std::string, std::less<>> shown;
+    for (const auto& entry :
+         fs::recursive_directory_iterator(fs::path(QUILLMARK_SOURCE_DIR) / "tests" / "goldens")) {
+        if (entry.path().extension() != ".txt") continue;
+        const std::string text = ReadBytes(entry.path());
+        shown.insert(text.substr(0, text.find('\n')));
+    }
+    for (const Builder& builder : Builders()) {
+        EXPECT_TRUE(shown.contains(builder.document)) << builder.document << " has no golden text";
+    }
+}
+
+TEST(Builders, ListNamesEachEntryOnce) {
+    std::set<std::string_view> names;
+    for (const Builder& builder : Builders()) {
+        EXPECT_TRUE(names.insert(builder.document).second) << builder.document;
+        EXPECT_EQ(FindBuilder(builder.document), &builder);
+    }
+    EXPECT_EQ(FindBuilder("[ NEW DOCUMENT ]"), nullptr);
+}
+
+}  // namespace
+}  // namespace quillmark::test

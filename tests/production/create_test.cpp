@@ -1,0 +1,148 @@
+#include "production/create.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+#include "production/fields.h"
+#include "production/recording_word.h"
+#include "production/sample_deal.h"
+#include "word/trace.h"
+
+namespace quillmark::test {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
+using namespace std::chrono;
+
+class Creating : public ::testing::Test {
+ protected:
+    Creating() {
+        job.name = "Hollis";
+        order.DocumentNames = {"Schedule A", "Privacy Policy"};
+        order.today = 2025y / April / 6;
+        order.saveAs = "/tmp/Hollis_QMF.docx";
+        order.startWord = [this] { return StartedWord{Traced(), word.clipboard()}; };
+        word.SetValue("Version", std::string("16.0"));
+        Sections({word::SectionNewPage, word::SectionNewPage});
+    }
+
+    word::ObjectPtr Traced() {
+        return word::Trace(word.Application(), [this](std::string_view line) { trace.emplace_back(line); });
+    }
+
+    /// A document with these sections, each with its three footers.
+    void Sections(std::vector<int> starts) {
+        word.SetValue("ActiveDocument.Sections.Count", static_cast<std::int32_t>(starts.size()));
+        for (std::size_t n = 0; n < starts.size(); ++n) {
+            const std::string section = "ActiveDocument.Sections(" + std::to_string(n + 1) + ")";
+            word.SetValue(section + ".PageSetup.SectionStart", starts[n]);
+            word.SetValue(section + ".Footers.Count", 3);
+            const int stories[] = {word::PrimaryFooterStory, word::FirstPageFooterStory,
+                                   word::EvenPagesFooterStory};
+            for (int f = 0; f < 3; ++f) {
+                const std::string range = section + ".Footers(" + std::to_string(f + 1) + ").Range";
+                word.SetValue(range + ".StoryType", stories[f]);
+                word.SetValue(range + ".StoryLength", 50);
+            }
+        }
+    }
+
+    void Run() {
+        CreateRun run(job, order);
+        run.Run();
+        notices = run.CreateNotices();
+    }
+
+    /// Where the line stands in the trace; fails when it is not there.
+    std::size_t Place(const std::string& line) const {
+        const auto found = std::ranges::find(trace, line);
+        EXPECT_NE(found, trace.end()) << line;
+        return static_cast<std::size_t>(found - trace.begin());
+    }
+
+    Job job = SampleDeal();
+    CreateOrder order;
+    RecordingWord word;
+    std::vector<std::string> trace;
+    std::string notices;
+};
+
+TEST_F(Creating, StepsComeInOrder) {
+    word.SetValue("Application.Options.CheckSpellingAsYouType", true);
+    Run();
+    const std::vector<std::string> steps = {
+        "Application.Options.CheckSpellingAsYouType = False",
+        "Documents.Add",
+        "Range(2).InsertBreak 2",
+        "ActiveDocument.Sections(1).Footers(1).LinkToPrevious = False",
+        "ActiveDocument.Protect 2, True",
+        "ActiveDocument.Sections(1).ProtectedForForms = False",
+        "ActiveDocument.Sections(2).ProtectedForForms = False",
+        "Selection.GoTo 3, 1",
+        "ActiveDocument.SaveAs \"/tmp/Hollis_QMF.docx\"",
+        "Application.Options.CheckSpellingAsYouType = True",
+        "Application.Visible = True",
+    };
+    for (std::size_t i = 1; i < steps.size(); ++i)
+        EXPECT_LT(Place(steps[i - 1]), Place(steps[i])) << steps[i];
+    EXPECT_THAT(trace, Not(Contains(HasSubstr("CheckGrammarAsYouType ="))));
+    EXPECT_THAT(trace, Not(Contains(HasSubstr("Range(1).InsertBreak"))))
+        << "nothing stands in front of the first";
+}
+
+TEST_F(Creating, ProgressGoesFromAQuarterToTheEnd) {
+    std::vector<double> values;
+    order.onProgress = [&](const CreateProgress& progress) {
+        EXPECT_EQ(progress.documents, 2u);
+        EXPECT_LE(progress.value, progress.maximum);
+        values.push_back(progress.value);
+    };
+    Run();
+    EXPECT_THAT(values, ElementsAre(0.25, 0.5, 1, 1.5, 2, 2));
+}
+
+TEST_F(Creating, AFailureRestoresWordAndTheJobAndTellsTheNumber) {
+    word.SetValue("Application.Options.CheckGrammarAsYouType", true);
+    word.Refuse("ActiveDocument.Sections", 4605);
+    try {
+        Run();
+        FAIL() << "the refusal was lost";
+    } catch (const CreateError& failure) {
+        EXPECT_EQ(failure.number(), 4605);
+        EXPECT_EQ(failure.Message(), "CREATE error 4605");
+        EXPECT_THAT(failure.what(), HasSubstr("ActiveDocument.Sections"));
+    }
+    EXPECT_LT(Place("Application.Options.CheckGrammarAsYouType = True"), trace.size());
+    EXPECT_THAT(trace.back(), HasSubstr("Quit"));
+    EXPECT_THAT(trace, Not(Contains(HasSubstr("SaveAs"))));
+    EXPECT_EQ(job.D(field::ClosingTime), "[closing time]");
+}
+
+TEST_F(Creating, AnUnknownEntryStopsBeforeWordStarts) {
+    order.DocumentNames.push_back("Deed / Waranty");
+    EXPECT_THROW(Run(), std::invalid_argument);
+    EXPECT_TRUE(trace.empty());
+}
+
+TEST_F(Creating, AWordThatCannotStartIsReportedAsSuch) {
+    order.startWord = []() -> StartedWord { throw word::AutomationError(429, "no object"); };
+    try {
+        Run();
+        FAIL() << "no failure";
+    } catch (const CreateError& failure) {
+        EXPECT_EQ(failure.Message(), "Full-Version MS Word required");
+    }
+}
+
+TEST_F(Creating, DeedsAddTheirNotices) {
+    order.DocumentNames = {"Deed / Warranty", "Schedule A"};
+    Run();
+    EXPECT_EQ(notices, "C");
+}
+
+}  // namespace
+}  // namespace quillmark::test

@@ -1,0 +1,164 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <sstream>
+
+#include "core/text_conversions.h"
+#include "production/builder_list.h"
+#include "production/fields.h"
+#include "production/recording_word.h"
+#include "production/sample_deal.h"
+#include "support/scratch.h"
+
+namespace quillmark::test {
+namespace {
+
+using namespace field;
+
+std::string Reading(const std::string& document, const Job& job) {
+    RecordingWord recorder;
+    WordSession session(recorder.Application(), recorder.clipboard());
+    SetUpWordSession(session);
+    TypeDocument(*FindBuilder(document), job, session);
+    return recorder.Reading();
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) lines.push_back(line);
+    return lines;
+}
+
+/// What was struck out of `before` (-) and written into `after` (+), line by line, with the places where the
+/// two agree as an ellipsis.
+std::string Redline(const std::string& before, const std::string& after) {
+    const std::vector<std::string> a = Lines(before), b = Lines(after);
+    std::vector<std::vector<int>> common(a.size() + 1, std::vector<int>(b.size() + 1));
+    for (std::size_t i = a.size(); i-- > 0;) {
+        for (std::size_t j = b.size(); j-- > 0;) {
+            common[i][j] =
+                a[i] == b[j] ? common[i + 1][j + 1] + 1 : std::max(common[i + 1][j], common[i][j + 1]);
+        }
+    }
+    std::string redline;
+    for (std::size_t i = 0, j = 0; i < a.size() || j < b.size();) {
+        if (i < a.size() && j < b.size() && a[i] == b[j]) {
+            if (!redline.ends_with("...\n")) redline += "...\n";
+            ++i, ++j;
+        } else if (i < a.size() && (j == b.size() || common[i + 1][j] >= common[i][j + 1])) {
+            redline += "- " + a[i++] + "\n";
+        } else {
+            redline += "+ " + b[j++] + "\n";
+        }
+    }
+    return redline;
+}
+
+void ExpectReading(const std::string& golden, const std::string& document, const std::string& facts,
+                   const Job& job) {
+    ExpectGolden("deeds/" + golden + ".txt", document + "\n" + facts + "\n\n" + Reading(document, job));
+}
+
+/// The deed of a changed deal as a redline against the warranty deed of the sample deal.
+void ExpectRedline(const std::string& golden, const std::string& document, const std::string& facts,
+                   const std::function<void(Job&)>& change) {
+    Job job = SampleDeal();
+    change(job);
+    ExpectGolden("deeds/" + golden + ".txt",
+                 document + "\n" + facts +
+                     "; redlined against the warranty deed of one seller to one buyer\n\n" +
+                     Redline(Reading("Deed / Warranty", SampleDeal()), Reading(document, job)));
+}
+
+TEST(Deeds, WarrantyInFull) {
+    ExpectReading("warranty", "Deed / Warranty", "one person sells to one buyer", SampleDeal());
+    ExpectReading("warranty_unfilled", "Deed / Warranty", "a job without any entry", UnfilledDeal());
+}
+
+TEST(Deeds, WarrantyByItsParties) {
+    const std::string deed = "Deed / Warranty";
+    ExpectRedline("warranty_two_sellers", deed, "a couple at one address sells to a couple", [](Job& job) {
+        SellersAtOneAddress(job);
+        BuyersAtOneAddress(job);
+    });
+    ExpectRedline("warranty_parties_apart", deed, "sellers and buyers at two addresses each", [](Job& job) {
+        SellersApart(job);
+        BuyersApart(job);
+        job.SetField(TenancyType, "tenants in common");
+    });
+    ExpectRedline("warranty_entity", deed, "a company sells to one buyer", SellerIsEntity);
+    ExpectRedline("warranty_entity_two_buyers", deed, "a company sells to two buyers", [](Job& job) {
+        SellerIsEntity(job);
+        BuyersAtOneAddress(job);
+    });
+    ExpectRedline("warranty_fiduciary", deed, "an executor sells with warranty",
+                  [](Job& job) { SellerIsFiduciary(job, "Executor"); });
+}
+
+TEST(Deeds, WarrantyByPowerOfAttorney) {
+    const std::string deed = "Deed / Warranty";
+    ExpectRedline("warranty_power_one_seller", deed, "the only seller acts by an attorney in fact",
+                  [](Job& job) { SellsByPower(job, "Walter B. Hollis", "Nora Feld"); });
+    ExpectRedline("warranty_power_seller_1", deed, "the first of two sellers acts by a third person",
+                  [](Job& job) {
+                      SellersApart(job);
+                      SellsByPower(job, "Walter B. Hollis", "Nora Feld");
+                  });
+    ExpectRedline("warranty_power_seller_2", deed, "the second of two sellers acts by the first",
+                  [](Job& job) {
+                      SellersAtOneAddress(job);
+                      SellsByPower(job, "June Hollis", "Walter B. Hollis");
+                  });
+}
+
+TEST(Deeds, PrincipalWhoIsNoSellerLeavesThePlainDeed) {
+    Job job = SampleDeal();
+    SellersApart(job);
+    const std::string plain = Reading("Deed / Warranty", job);
+    SellsByPower(job, "Somebody Else", "Nora Feld");
+    EXPECT_EQ(Reading("Deed / Warranty", job), plain);
+}
+
+TEST(Deeds, TheOtherKinds) {
+    const auto unchanged = [](Job&) {};
+    ExpectRedline("quitclaim", "Deed / Quitclaim", "one person sells to one buyer", unchanged);
+    ExpectRedline("administrator", "Deed / Administrator", "to one buyer", unchanged);
+    ExpectRedline("conservator", "Deed / Conservator", "to one buyer", unchanged);
+    ExpectRedline("executor", "Deed / Executor", "to a couple", BuyersAtOneAddress);
+    ExpectRedline("testamentary_trustee", "Deed / Testamentary Trustee", "to one buyer", unchanged);
+    ExpectRedline("trustee", "Deed / Trustee", "to one buyer", unchanged);
+}
+
+// A fiduciary gives the deed alone and in person, whatever the options say of sellers.
+TEST(Deeds, FiduciaryDeedKnowsOneGrantorOnly) {
+    Job job = SampleDeal();
+    const std::string plain = Reading("Deed / Executor", job);
+    SellersAtOneAddress(job);
+    SellerIsFiduciary(job, "Executor");
+    SellsByPower(job, "Walter B. Hollis", "Nora Feld");
+    EXPECT_EQ(Reading("Deed / Executor", job), plain);
+}
+
+TEST(Deeds, ScheduleA) {
+    ExpectReading("schedule_a", "Schedule A", "a description of two paragraphs, three encumbrances",
+                  SampleDeal());
+    Job job = SampleDeal();
+    job.SetField(SchedAEncumbrances, "");
+    EXPECT_NE(Reading("Schedule A", job).find("\n1. \n[justified, indents 0 and 13.5]\n\n"),
+              std::string::npos)
+        << "no encumbrance is one empty numbered item\n"
+        << Reading("Schedule A", job);
+}
+
+TEST(Deeds, NoticeOfJointTenantsOnlyForTheBareWords) {
+    Job job = SampleDeal();
+    const Builder& deed = *FindBuilder("Deed / Warranty");
+    EXPECT_EQ(NoticesOf(deed, job), "C") << "with rights of survivorship said, nobody is surprised";
+    job.SetField(TenancyType, "Joint Tenants");
+    EXPECT_EQ(NoticesOf(deed, job), "CD");
+    EXPECT_EQ(NoticesOf(*FindBuilder("Schedule A"), job), "");
+}
+
+}  // namespace
+}  // namespace quillmark::test

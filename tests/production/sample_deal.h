@@ -1,0 +1,23 @@
+#pragma once
+
+#include "core/job.h"
+
+/// Jobs to type documents of, told as a closing is: who sells what to whom.
+namespace quillmark::test {
+
+/// One person sells a house to one buyer; every field that the recorded documents read is filled.
+Job SampleDeal();
+/// A job as it is before the first entry, with its derived values.
+Job UnfilledDeal();
+
+// Changes to such a job.
+void SellersAtOneAddress(Job& job);  ///< Walter and June Hollis of 14 Chestnut Lane
+void SellersApart(Job& job);         ///< the same couple, June in Guilford
+void BuyersAtOneAddress(Job& job);   ///< Priya and Omar Castellan of 8 Harbor View
+void BuyersApart(Job& job);
+void SellerIsEntity(Job& job);
+void SellerIsFiduciary(Job& job, std::string_view capacity);
+/// The principal acts by this attorney in fact.
+void SellsByPower(Job& job, std::string_view principal, std::string_view attorney);
+
+}  // namespace quillmark::test

@@ -1,0 +1,175 @@
+#include "production/typing.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <regex>
+
+#include "production/builder_list.h"
+#include "production/job_values.h"
+#include "production/phrases.h"
+#include "production/recording_word.h"
+#include "production/sample_deal.h"
+#include "support/scratch.h"
+
+namespace quillmark::test {
+namespace {
+
+using namespace field;
+using testing::ElementsAre;
+
+struct Desk {
+    Desk() {
+        SetUpWordSession(session);
+        before = recorder.operations().size();
+    }
+    std::vector<std::string> Operations() const {
+        return {recorder.operations().begin() + static_cast<std::ptrdiff_t>(before),
+                recorder.operations().end()};
+    }
+    RecordingWord recorder;
+    WordSession session{recorder.Application(), recorder.clipboard()};
+    Typist type{session};
+    std::size_t before = 0;
+};
+
+TEST(WordSession, SetsTheDefaultPageInOrder) {
+    RecordingWord recorder;
+    WordSession session(recorder.Application(), recorder.clipboard());
+    SetUpWordSession(session);
+    EXPECT_THAT(
+        recorder.operations(),
+        ElementsAre("Application.Options.CheckSpellingAsYouType -> False",  //
+                    "Application.Options.CheckGrammarAsYouType -> False",   //
+                    "Application.Documents.Add",                            //
+                    "ActiveDocument.DefaultTabStop = 18",                   //
+                    "ActiveDocument.PageSetup.LeftMargin = 45",             //
+                    "ActiveDocument.PageSetup.RightMargin = 45",            //
+                    "ActiveDocument.PageSetup.TopMargin = 45",              //
+                    "ActiveDocument.PageSetup.BottomMargin = 45",           //
+                    "ActiveDocument.PageSetup.HeaderDistance = 36",         //
+                    "ActiveDocument.PageSetup.FooterDistance = 18",         //
+                    "Selection.Paragraphs.SpaceAfter = 0",                  //
+                    "Selection.Paragraphs.LineSpacing = 12",                //
+                    "ActiveDocument.Styles(\"List Paragraph\").NoSpaceBetweenParagraphsOfSameStyle = False",
+                    "ActiveDocument.ListTemplates.Add OutlineNumbered:=False",               //
+                    "ActiveDocument.ListTemplates(1).ListLevels(1).NumberStyle = 0",         //
+                    "ActiveDocument.ListTemplates(1).ListLevels(1).NumberFormat = \"%1.\"",  //
+                    "ActiveDocument.ListTemplates.Add OutlineNumbered:=True",                //
+                    "ActiveDocument.ListTemplates(2).ListLevels(1).NumberStyle = 0",         //
+                    "ActiveDocument.ListTemplates(2).ListLevels(2).NumberStyle = 4",         //
+                    "ActiveDocument.ListTemplates(2).ListLevels(3).NumberStyle = 2",         //
+                    "ActiveDocument.ListTemplates(2).ListLevels(1).NumberFormat = \"%1.\"",  //
+                    "ActiveDocument.ListTemplates(2).ListLevels(2).NumberFormat = \"%2.\"",  //
+                    "ActiveDocument.ListTemplates(2).ListLevels(3).NumberFormat = \"%3.\""));
+}
+
+TEST(WordSession, PutsBackTheCheckersThatWereOn) {
+    RecordingWord recorder;
+    recorder.SetValue("Application.Options.CheckSpellingAsYouType", true);
+    WordSession session(recorder.Application(), recorder.clipboard());
+    SetUpWordSession(session);
+    EXPECT_TRUE(session.SpellingWasOn);
+    EXPECT_FALSE(session.GrammarWasOn);
+    EXPECT_FALSE(session.WordApp.Options.CheckSpellingAsYouType);
+    RestoreCheckers(session);
+    EXPECT_TRUE(session.WordApp.Options.CheckSpellingAsYouType);
+    EXPECT_FALSE(session.WordApp.Options.CheckGrammarAsYouType);
+}
+
+TEST(WordSession, GoesOnWithoutTheStyleThatAnOldWordLacks) {
+    RecordingWord recorder;
+    recorder.Refuse("ActiveDocument.Styles(\"List Paragraph\")", word::error::kNoSuchElement);
+    WordSession session(recorder.Application(), recorder.clipboard());
+    SetUpWordSession(session);
+    EXPECT_TRUE(session.ListTemplateOutline);
+
+    recorder.Refuse("ActiveDocument.Styles(\"List Paragraph\")", word::error::kServerGone);
+    EXPECT_THROW(SetUpWordSession(session), word::AutomationError);
+}
+
+TEST(Typist, BoldInsideABoldRunEndsIt) {
+    Desk desk;
+    desk.type.Bold(true);
+    desk.type.TypeBold("a");
+    desk.type.Text("b");
+    EXPECT_EQ(desk.recorder.Reading().find("*a*b") == std::string::npos, false) << desk.recorder.Reading();
+}
+
+TEST(Typist, LineEndsOfAValueAreParagraphs) {
+    Desk desk;
+    desk.type.Text("a\r\nb\nc\rd\n\ne", "\r");
+    EXPECT_EQ(desk.recorder.Text(), "a\nb\nc\nd\n\ne\n\n");
+}
+
+TEST(Typist, ListEndsWithTheIndentsOfTheText) {
+    Desk desk;
+    desk.type.Indents(0.5);
+    desk.before = desk.recorder.operations().size();
+    desk.type.NumberedList({"First", "Second"});
+    EXPECT_THAT(desk.Operations(),
+                ElementsAre("Selection.Range.ListFormat.ApplyListTemplate ActiveDocument.ListTemplates(1)",
+                            "Selection.TypeText \"First\\v\\r\"", "Selection.TypeText \"Second\\v\\r\"",
+                            "Selection.Range.ListFormat.RemoveNumbers",
+                            "Selection.Paragraphs.LeftIndent = 36", "Selection.Paragraphs.RightIndent = 36"));
+}
+
+std::string Grantors(const Job& job, std::string_view style) {
+    Desk desk;
+    TypeGrantorPhrase(JobValues(job), desk.type, style);
+    return desk.recorder.Reading();
+}
+
+std::string Grantees(const Job& job, std::string_view style) {
+    Desk desk;
+    TypeGranteePhrase(JobValues(job), desk.type, style);
+    return desk.recorder.Text();
+}
+
+TEST(Phrases, NamesAreBoldOnRequest) {
+    Job job = SampleDeal();
+    SellersAtOneAddress(job);
+    EXPECT_NE(
+        Grantors(job, "Bold").find("*Walter B. Hollis and June Hollis* both of 14 Chestnut Lane, Branford"),
+        std::string::npos);
+    EXPECT_EQ(Grantors(job, "").find('*'), std::string::npos);
+}
+
+TEST(Phrases, CapacityOfOneFiduciarySeller) {
+    Job job = SampleDeal();
+    SellerIsFiduciary(job, "Testamentary Trustee");
+    EXPECT_NE(Grantors(job, "").find(
+                  "06405, duly qualified and authorized Trustee of the Hollis Family 2005 Trust\n"),
+              std::string::npos);
+    job.SetField(FiduciaryType, "Conservator");
+    EXPECT_NE(Grantors(job, "").find("Conservator of the Estate of Lionel Hollis, an incapable person\n"),
+              std::string::npos);
+    SellersAtOneAddress(job);
+    EXPECT_EQ(Grantors(job, "").find("qualified"), std::string::npos) << "two sellers act for themselves";
+}
+
+TEST(Phrases, TenancyOfTwoBuyersOnly) {
+    Job job = SampleDeal();
+    EXPECT_EQ(Grantees(job, "Bold-T").find(" AS "), std::string::npos);
+    BuyersApart(job);
+    EXPECT_EQ(Grantees(job, "Bold").find(" AS "), std::string::npos);
+    EXPECT_EQ(
+        Grantees(job, "T"),
+        "Priya Castellan of 8 Harbor View, Unit 3, Clinton, CT 06413 and Omar Castellan of 8 Harborview, Unit "
+        "3, Clinton, CT 06413 AS JOINT TENANTS WITH RIGHTS OF SURVIVORSHIP\n");
+    job.SetField(TenancyType, "as partners");
+    EXPECT_TRUE(Grantees(job, "T").ends_with(" AS [tenancy type]\n"));
+}
+
+TEST(Fields, BearTheNumbersOfTheirMarkers) {
+    const std::string header = ReadBytes(QUILLMARK_SOURCE_DIR "/src/production/fields.h");
+    const std::regex row(R"(= (\d+), +// (\[.*\])\n)");
+    int rows = 0;
+    for (std::sregex_iterator match(header.begin(), header.end(), row), end; match != end; ++match, ++rows) {
+        EXPECT_EQ(FieldMarker(std::stoi((*match)[1])), (*match)[2].str());
+    }
+    EXPECT_EQ(rows, 212) << "every field but the retired one";
+}
+
+}  // namespace
+}  // namespace quillmark::test
