@@ -12,7 +12,7 @@
 #include "production/create.h"
 #include "production/document_catalogue.h"
 #include "production/pdf.h"
-#include "word/docx/engine.h"
+#include "word/start.h"
 #include "word/trace.h"
 
 namespace quillmark::cli {
@@ -121,12 +121,12 @@ class MakeRun {
         return order;
     }
 
-    StartedWord StartWord() {
-        auto clipboard = std::make_shared<word::MemoryClipboard>();
-        word::ObjectPtr engine = word::docx::StartEngine({.folder = {}, .clipboard = clipboard});
+    word::StartedWordProcessor StartWord() {
+        auto started = word::StartWordProcessor(word::WordProcessor::Embedded);
         if (order_.trace)
-            engine = word::Trace(engine, [this](std::string_view line) { trace_.append(line).append("\n"); });
-        return {engine, clipboard};
+            started.application = word::Trace(
+                started.application, [this](std::string_view line) { trace_.append(line).append("\n"); });
+        return started;
     }
 
     std::string JobProgress(const std::string& word) const {

@@ -127,7 +127,9 @@ void CheckName(std::string_view name) {
     std::string_view inside = name;
     if (IsTemplateName(name) && name.ends_with('}') && name.size() > 1)
         inside = name.substr(1, name.size() - 2);
-    if (inside.empty() || HoldsIllegalNameCharacter(inside)) {
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' '; };
+    if (inside.empty() || HoldsIllegalNameCharacter(inside) ||
+        std::any_of(name.begin(), name.end(), isControl)) {
         throw JobFileError(fmt::format("\"{}\" is no name for a job", name));
     }
 }
@@ -147,11 +149,22 @@ std::map<int, fs::path> PicturesOnDisk(const Folders& folders, std::string_view 
         const std::string entry = UpperCase(TextOf(it->path().filename()));
         if (!entry.starts_with(prefix) || !entry.ends_with(kSuffix)) continue;
         if (entry.size() <= prefix.size() + kSuffix.size()) continue;
-        const auto digits = entry.size() - prefix.size() - kSuffix.size();
-        const int n = WholeNumber(std::string_view(entry).substr(prefix.size(), digits));
-        if (n >= 1 && n <= kFields) pictures.emplace(n, it->path());
+        const std::string digits = entry.substr(prefix.size(), entry.size() - prefix.size() - kSuffix.size());
+        const int n = WholeNumber(digits);
+        if (n >= 1 && n <= kFields && digits == std::to_string(n)) pictures.emplace(n, it->path());
     }
     return pictures;
+}
+
+bool Exists(const fs::path& file) {
+    std::error_code error;
+    return fs::exists(file, error);
+}
+
+void CreateFolder(const fs::path& folder) {
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) throw FileError(folder, error);
 }
 
 void Remove(const fs::path& file) {
@@ -199,7 +212,11 @@ std::string JobFileRecords(const Job& job) {
         if (IsSaved(job, n)) Write(writer, fmt::format("{:03}", n), job.D(n), FieldMarker(n));
     }
     for (auto row = job.userFields.rbegin(); row != job.userFields.rend(); ++row) {
-        if (!row->second.empty()) Write(writer, row->first, row->second, row->first);
+        if (row->second.empty()) continue;
+        if (!row->first.starts_with('[')) {  // it could not be told from the other records
+            throw JobFileError(fmt::format("\"{}\" is no marker of a user-defined field", row->first));
+        }
+        Write(writer, row->first, row->second, row->first);
     }
     return writer.Bytes();
 }
@@ -224,7 +241,7 @@ void ReadJobFile(const Folders& folders, const fs::path& file, Job& job, bool as
     for (const auto& [n, value] : contents.fields) {
         if (value != kImageLiteral) continue;
         const fs::path picture = FindExisting(PicturePath(folders, TextOf(file.stem()), n));
-        if (fs::exists(picture)) pictures[n] = ReadFile(picture, kPictureLimit);
+        if (Exists(picture)) pictures[n] = ReadFile(picture, kPictureLimit);
     }
     ApplyJobFile(contents, job, asTemplate);
     for (auto& [n, bytes] : pictures) job.FieldPictures[static_cast<std::size_t>(n)] = std::move(bytes);
@@ -237,7 +254,7 @@ void SaveJobFiles(const Folders& folders, const Job& job) {
     for (int n = kFirstSavedField; n <= kFields; ++n) {
         const std::string& picture = job.FieldPictures[static_cast<std::size_t>(n)];
         if (picture.empty()) continue;
-        fs::create_directories(folders.ImagesFolder);
+        CreateFolder(folders.ImagesFolder);
         const auto found = onDisk.find(n);
         ReplaceFile(found == onDisk.end() ? PicturePath(folders, job.name, n) : found->second, picture);
         onDisk.erase(n);
@@ -253,7 +270,7 @@ bool RenameJobFiles(const Folders& folders, std::string_view name, std::string_v
     const fs::path file = JobFilePath(folders, name);
     const fs::path taken = JobFilePath(folders, newName);
     std::error_code missing;
-    if (fs::exists(taken) && !fs::equivalent(taken, file, missing)) return false;
+    if (Exists(taken) && !fs::equivalent(taken, file, missing)) return false;
     Rename(file, folders.JobFolder / PathOf(std::string(newName) + ".dat"));
     for (const auto& [n, picture] : PicturesOnDisk(folders, name)) {
         Rename(picture, PicturePath(folders, newName, n));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/text_conversions.h"
 #include "production/fields.h"
 #include "production/job_values.h"
 #include "production/typing.h"
@@ -55,7 +56,7 @@ const Builder* FindBuilder(std::string_view document) {
 
 std::string NoticesOf(const Builder& builder, const Job& job) {
     std::string notices(builder.notices);
-    if (LowerCase(JobValues(job)[field::TenancyType]) != "joint tenants") std::erase(notices, 'D');
+    if (Lowered(JobValues(job)[field::TenancyType]) != "joint tenants") std::erase(notices, 'D');
     return notices;
 }
 

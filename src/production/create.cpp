@@ -70,7 +70,7 @@ void CreateRun::CheckEntries() const {
 }
 
 void CreateRun::Produce() {
-    const StartedWord started = order_.startWord();
+    const word::StartedWordProcessor started = order_.startWord();
     session_.emplace(started.application, started.clipboard);
     SetUpWordSession(*session_);
     TypeDocuments();

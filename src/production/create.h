@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -11,6 +10,7 @@
 #include "core/job.h"
 #include "core/settings.h"
 #include "production/word_session.h"
+#include "word/start.h"
 
 namespace quillmark {
 
@@ -23,12 +23,6 @@ struct CreateProgress {
     std::size_t documents = 0;  ///< entries of the job list
 };
 
-/// A word processor that has just been started, and the clipboard that it pastes from.
-struct StartedWord {
-    word::ObjectPtr application;
-    std::shared_ptr<word::Clipboard> clipboard;
-};
-
 /// What a run makes, and how.
 struct CreateOrder {
     std::vector<std::string> DocumentNames;  ///< the job list, in order
@@ -37,7 +31,7 @@ struct CreateOrder {
     std::chrono::year_month_day today;
     bool nameUsable = true;  ///< the job's name may stand in the footers
     std::string saveAs;      ///< the document's file; empty to leave it unsaved
-    std::function<StartedWord()> startWord;
+    std::function<word::StartedWordProcessor()> startWord;
     std::function<void(const CreateProgress&)> onProgress = {};
 };
 

@@ -12,8 +12,8 @@ namespace quillmark {
 
 /// What the footer pass needs to know of a run.
 struct FooterPlan {
-    std::span<const std::string> documents;  ///< the job list's entries, one for each section in order
-    std::string_view LegalList;              ///< names of the entries on legal-size paper, joined by commas
+    std::span<const std::string> documents = {};  ///< the job list's entries, one for each section in order
+    std::string_view LegalList = {};  ///< names of the entries on legal-size paper, joined by commas
     Footers footers = Footers::Description;
     bool nameUsable = true;  ///< the job has a name that can be shown
 };

@@ -1,7 +1,5 @@
 #include "production/job_values.h"
 
-#include <algorithm>
-
 namespace quillmark {
 
 namespace {
@@ -27,22 +25,6 @@ std::string JobValues::Property() const {
 
 std::string JobValues::DayMonthYear(Field date) const {
     return OrdinalDay(date) + " day of " + Month(date) + ", " + Year(date);
-}
-
-std::string LowerCase(std::string_view text) {
-    std::string lower(text);
-    for (char& letter : lower) {
-        if (letter >= 'A' && letter <= 'Z') letter = static_cast<char>(letter - 'A' + 'a');
-    }
-    return lower;
-}
-
-std::string UpperCase(std::string_view text) {
-    std::string upper(text);
-    for (char& letter : upper) {
-        if (letter >= 'a' && letter <= 'z') letter = static_cast<char>(letter - 'a' + 'A');
-    }
-    return upper;
 }
 
 }  // namespace quillmark

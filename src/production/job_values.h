@@ -69,8 +69,4 @@ class JobValues {
     const Job& job_;
 };
 
-/// The text with its letters A to Z small, or capital; other characters stay.
-std::string LowerCase(std::string_view text);
-std::string UpperCase(std::string_view text);
-
 }  // namespace quillmark

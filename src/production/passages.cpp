@@ -1,6 +1,7 @@
 #include "production/passages.h"
 
 #include "core/text_conversions.h"
+#include "platform/code_page.h"
 
 namespace quillmark {
 

@@ -1,5 +1,7 @@
 #include "production/phrases.h"
 
+#include "core/text_conversions.h"
+
 namespace quillmark {
 
 using namespace field;
@@ -44,7 +46,7 @@ void TypeFiduciaryCapacity(const JobValues& job, Typist& type) {
 }
 
 void TypeTenancy(const JobValues& job, Typist& type) {
-    const std::string tenancy = LowerCase(job[TenancyType]);
+    const std::string tenancy = Lowered(job[TenancyType]);
     if (tenancy == "joint tenants wros") {
         type.Text(" AS JOINT TENANTS WITH RIGHTS OF SURVIVORSHIP");
     } else if (tenancy == "tenants in common") {

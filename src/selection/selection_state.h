@@ -46,6 +46,13 @@ struct JobListLine {
     bool selected = false;
 };
 
+/// Where the frame of options 9, 10 and 13 stands, so that option 13 can be reached when documents need it.
+enum class PropertyTypeFrame {
+    Start,        ///< as after a reset
+    OverPayoffs,  ///< centred over the payoff frame, option 13 to the right of option 10
+    Wide,
+};
+
 enum class RowKind { Field, User, Heading };
 
 /// A row of the field grid `grdField`.
@@ -86,6 +93,7 @@ struct SelectionState {
 
     std::array<OptionButton, kOptions + 1> options;  ///< by number, entry 0 unused
     bool optionChangesSuppressed = false;
+    PropertyTypeFrame propertyTypeFrame = PropertyTypeFrame::Start;
 
     std::vector<std::string> List1;
     bool List1Enabled = true;

@@ -209,6 +209,12 @@ TEST(JobFile, WhatCannotBeWrittenIsNamed) {
     }
 }
 
+TEST(JobFile, AUserFieldThatWouldNotBeReadBackIsNotWritten) {
+    Job job;
+    job.userFields = {{"C01", "x"}};
+    EXPECT_THROW(JobFileRecords(job), JobFileError);
+}
+
 TEST(JobFile, NamesAreCheckedAndTemplatesKnown) {
     for (const char c : std::string_view("\\/:*?<>|{}\""))
         EXPECT_TRUE(HoldsIllegalNameCharacter({&c, 1})) << c;
@@ -229,10 +235,12 @@ TEST_F(JobFileOnDisk, ASavedJobIsReadWithItsPicture) {
 
     job.FieldPictures[kScheduleA].clear();
     WriteBytes(Picture("Smith - 1 Any Street_241.bmp"), "no field's");
+    WriteBytes(Picture("Smith - 1 Any Street_0201.bmp"), "no field's");
     WriteBytes(Picture("Smith - 1 Any Street_x_201.bmp"), "another job's");
     SaveJobFiles(folders, job);
     EXPECT_FALSE(fs::exists(Picture("Smith - 1 Any Street_201.bmp"))) << "a picture removed from its field";
     EXPECT_TRUE(fs::exists(Picture("Smith - 1 Any Street_241.bmp")));
+    EXPECT_TRUE(fs::exists(Picture("Smith - 1 Any Street_0201.bmp")));
     EXPECT_TRUE(fs::exists(Picture("Smith - 1 Any Street_x_201.bmp")));
 
     Job without;
@@ -259,7 +267,7 @@ TEST_F(JobFileOnDisk, AFailedSaveLeavesTheOldFile) {
     EXPECT_THROW(SaveJobFiles(folders, job), JobFileError);
     EXPECT_EQ(ReadBytes(JobFilePath(folders, job.name)), before);
     EXPECT_TRUE(fs::exists(Picture("Smith - 1 Any Street_201.bmp")));
-    for (const char* name : {"", "a/b", "..\\x", "{}", "{ a:b }", "a\"b", "{", "a{b}"}) {
+    for (const char* name : {"", "a/b", "..\\x", "{}", "{ a:b }", "a\"b", "{", "a{b}", "a\nb"}) {
         Job unnamed;
         unnamed.name = name;
         EXPECT_THROW(SaveJobFiles(folders, unnamed), JobFileError) << name;

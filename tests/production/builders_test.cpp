@@ -7,6 +7,7 @@
 #include <regex>
 #include <set>
 
+#include "core/text_conversions.h"
 #include "production/fields.h"
 #include "production/job_values.h"
 #include "production/recording_word.h"
@@ -115,7 +116,7 @@ TEST(Builders, UnfilledJobShowsMarkersOnly) {
             for (std::sregex_iterator match(text.begin(), text.end(), bracketed), end; match != end;
                  ++match) {
                 const std::string marker = match->str();
-                EXPECT_TRUE(markers.count(marker) || markers.count(LowerCase(marker)))
+                EXPECT_TRUE(markers.count(marker) || markers.count(Lowered(marker)))
                     << builder.document << " with options " << options << ": " << marker;
             }
         }

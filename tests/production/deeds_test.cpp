@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
-#include <sstream>
+#include <string>
+#include <vector>
 
 #include "core/text_conversions.h"
 #include "production/builder_list.h"
@@ -23,17 +25,23 @@ std::string Reading(const std::string& document, const Job& job) {
     return recorder.Reading();
 }
 
-std::vector<std::string> Lines(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);) lines.push_back(line);
-    return lines;
+/// Words with the blanks behind them; each paragraph end is a word of its own.
+std::vector<std::string> Words(const std::string& text) {
+    std::vector<std::string> words(1);
+    for (const char c : text) {
+        std::string& last = words.back();
+        if (c == '\n' || last.ends_with('\n') || (last.ends_with(' ') && c != ' ')) words.emplace_back();
+        words.back() += c;
+    }
+    return words;
 }
 
-/// What was struck out of `before` (-) and written into `after` (+), line by line, with the places where the
-/// two agree as an ellipsis.
-std::string Redline(const std::string& before, const std::string& after) {
-    const std::vector<std::string> a = Lines(before), b = Lines(after);
+struct Edit {
+    char kind;  ///< '=' kept, '-' struck, '+' written in
+    std::string word;
+};
+
+std::vector<Edit> Compare(const std::vector<std::string>& a, const std::vector<std::string>& b) {
     std::vector<std::vector<int>> common(a.size() + 1, std::vector<int>(b.size() + 1));
     for (std::size_t i = a.size(); i-- > 0;) {
         for (std::size_t j = b.size(); j-- > 0;) {
@@ -41,18 +49,47 @@ std::string Redline(const std::string& before, const std::string& after) {
                 a[i] == b[j] ? common[i + 1][j + 1] + 1 : std::max(common[i + 1][j], common[i][j + 1]);
         }
     }
-    std::string redline;
+    std::vector<Edit> edits;
     for (std::size_t i = 0, j = 0; i < a.size() || j < b.size();) {
         if (i < a.size() && j < b.size() && a[i] == b[j]) {
-            if (!redline.ends_with("...\n")) redline += "...\n";
-            ++i, ++j;
+            edits.push_back({'=', a[i++]});
+            ++j;
         } else if (i < a.size() && (j == b.size() || common[i + 1][j] >= common[i][j + 1])) {
-            redline += "- " + a[i++] + "\n";
+            edits.push_back({'-', a[i++]});
         } else {
-            redline += "+ " + b[j++] + "\n";
+            edits.push_back({'+', b[j++]});
         }
     }
-    return redline;
+    return edits;
+}
+
+/// The changes from one reading to another as a lawyer redlines them, one place to a line, with some words
+/// around it: [-struck-] and [+written in+], paragraph ends as ¶.
+std::string Redline(const std::string& before, const std::string& after) {
+    constexpr std::size_t kAround = 5;
+    const std::vector<Edit> edits = Compare(Words(before), Words(after));
+    const auto isNearChange = [&](std::size_t i) {
+        const std::size_t end = std::min(edits.size(), i + kAround + 1);
+        for (std::size_t k = i < kAround ? 0 : i - kAround; k < end; ++k) {
+            if (edits[k].kind != '=') return true;
+        }
+        return false;
+    };
+    std::string redline;
+    char kind = '=';
+    for (std::size_t i = 0; i < edits.size(); ++i) {
+        if (!isNearChange(i)) {
+            if (!redline.empty() && !redline.ends_with('\n')) redline += "...\n";
+            continue;
+        }
+        if (edits[i].kind != kind && kind != '=') redline += std::string(1, kind) + "]";
+        if (edits[i].kind != kind && edits[i].kind != '=') redline += "[" + std::string(1, edits[i].kind);
+        if (redline.empty() || redline.ends_with('\n')) redline += "... ";
+        kind = edits[i].kind;
+        redline += edits[i].word == "\n" ? "¶" : edits[i].word;
+    }
+    if (kind != '=') redline += std::string(1, kind) + "]";
+    return redline.ends_with('\n') ? redline : redline + "\n";
 }
 
 void ExpectReading(const std::string& golden, const std::string& document, const std::string& facts,
@@ -149,6 +186,15 @@ TEST(Deeds, ScheduleA) {
               std::string::npos)
         << "no encumbrance is one empty numbered item\n"
         << Reading("Schedule A", job);
+}
+
+TEST(Deeds, ScheduleAOfAPicture) {
+    Job job = SampleDeal();
+    job.SetField(SchedADescription, kImageLiteral);
+    job.FieldPictures[SchedADescription] = "BM picture";
+    const std::string reading = Reading("Schedule A", job);
+    EXPECT_NE(reading.find("{BM picture}"), std::string::npos) << reading;
+    EXPECT_EQ(reading.find("IMAGE"), std::string::npos) << reading;
 }
 
 TEST(Deeds, NoticeOfJointTenantsOnlyForTheBareWords) {

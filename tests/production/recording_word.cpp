@@ -133,6 +133,8 @@ Value RecordingWord::Call(const std::string& path, const std::string& member, Ar
     Paragraph& paragraph = paragraphs_.back();
     if (full == "Selection.TypeText") {
         TypeText(std::get<std::string>(arguments.front().value));
+    } else if (full == "Selection.Paste") {
+        TypeText("{" + clipboard_->picture() + "}");
     } else if (full == "Selection.Paragraphs.TabStops.Add") {
         paragraph.tabs.insert(Number(arguments.front().value));
     } else if (full.starts_with("Selection.Paragraphs.TabStops(") && member == "Clear") {

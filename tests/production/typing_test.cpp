@@ -7,6 +7,7 @@
 
 #include "production/builder_list.h"
 #include "production/job_values.h"
+#include "production/passages.h"
 #include "production/phrases.h"
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
@@ -93,7 +94,7 @@ TEST(Typist, BoldInsideABoldRunEndsIt) {
     desk.type.Bold(true);
     desk.type.TypeBold("a");
     desk.type.Text("b");
-    EXPECT_EQ(desk.recorder.Reading().find("*a*b") == std::string::npos, false) << desk.recorder.Reading();
+    EXPECT_TRUE(desk.recorder.Reading().ends_with("*a*b\n")) << desk.recorder.Reading();
 }
 
 TEST(Typist, LineEndsOfAValueAreParagraphs) {
@@ -112,6 +113,47 @@ TEST(Typist, ListEndsWithTheIndentsOfTheText) {
                             "Selection.TypeText \"First\\v\\r\"", "Selection.TypeText \"Second\\v\\r\"",
                             "Selection.Range.ListFormat.RemoveNumbers",
                             "Selection.Paragraphs.LeftIndent = 36", "Selection.Paragraphs.RightIndent = 36"));
+}
+
+TEST(Typist, OutlineGoesInAndOut) {
+    Desk desk;
+    desk.type.BeginOutline();
+    desk.type.Text("AFFIDAVITS.");
+    desk.type.EndItem();
+    desk.type.ListIn();
+    desk.type.Text("Verifying");
+    desk.type.EndItem();
+    desk.type.ListOut();
+    desk.type.EndList();
+    EXPECT_THAT(
+        desk.Operations(),
+        ElementsAre("Selection.Range.ListFormat.ApplyListTemplate ActiveDocument.ListTemplates(2)",
+                    "Selection.TypeText \"AFFIDAVITS.\"", "Selection.TypeText \"\\v\\r\"",
+                    "Selection.Range.ListFormat.ListIndent",  //
+                    "Selection.TypeText \"Verifying\"", "Selection.TypeText \"\\v\\r\"",
+                    "Selection.Range.ListFormat.ListOutdent", "Selection.Range.ListFormat.RemoveNumbers",
+                    "Selection.Paragraphs.LeftIndent = 0", "Selection.Paragraphs.RightIndent = 0"));
+}
+
+TEST(Typist, FormFieldsStandAtTheInsertionPoint) {
+    Desk desk;
+    desk.type.CheckBox(true);
+    desk.type.TextField("(click here & enter text)");
+    EXPECT_THAT(desk.Operations(),
+                ElementsAre("ActiveDocument.FormFields.Add Selection.Range, 71",
+                            "ActiveDocument.FormFields(1).CheckBox.Value = True",
+                            "ActiveDocument.FormFields.Add Selection.Range, 70",
+                            "ActiveDocument.FormFields(2).Result = \"(click here & enter text)\""));
+}
+
+TEST(Passages, JuratIsSwornBeforeTheSellersAttorney) {
+    Desk desk;
+    const Job job = SampleDeal();
+    TypeJurat(JobValues(job), desk.type);
+    TypeNotary(JobValues(job), desk.type);
+    EXPECT_EQ(desk.recorder.Text(),
+              "Subscribed and sworn to before me this 2nd day of May, 2024.\n\n\n\t" + SignatureRule() +
+                  "\n\tRuth Ann Penfield\n\tNotary Public/Commissioner of the Superior Court\n\n");
 }
 
 std::string Grantors(const Job& job, std::string_view style) {
@@ -157,6 +199,8 @@ TEST(Phrases, TenancyOfTwoBuyersOnly) {
         Grantees(job, "T"),
         "Priya Castellan of 8 Harbor View, Unit 3, Clinton, CT 06413 and Omar Castellan of 8 Harborview, Unit "
         "3, Clinton, CT 06413 AS JOINT TENANTS WITH RIGHTS OF SURVIVORSHIP\n");
+    job.SetField(TenancyType, "JOINT TENANTS");
+    EXPECT_TRUE(Grantees(job, "T").ends_with(" AS JOINT TENANTS\n"));
     job.SetField(TenancyType, "as partners");
     EXPECT_TRUE(Grantees(job, "T").ends_with(" AS [tenancy type]\n"));
 }

@@ -267,12 +267,12 @@ struct StyleDefinition {
 
 /// What a relationship id in raw XML leads to.
 struct Relation {
-    std::string type;    ///< the relationship's type URI
-    std::string target;  ///< part name below word/, or the address of an outside one
+    std::string type = {};    ///< the relationship's type URI
+    std::string target = {};  ///< part name below word/, or the address of an outside one
     bool external = false;
-    std::string contentType;
-    std::string bytes;                          ///< of the part
-    std::map<std::string, Relation> relations;  ///< the part's own
+    std::string contentType = {};
+    std::string bytes = {};                          ///< of the part
+    std::map<std::string, Relation> relations = {};  ///< the part's own
 };
 
 class Document {

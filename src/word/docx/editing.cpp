@@ -68,7 +68,11 @@ Editor::Editor(std::unique_ptr<Document> document) : document_(std::move(documen
 }
 
 Place Editor::StartOf(Blocks& blocks) {
-    for (auto block = blocks.begin(); block != blocks.end(); ++block) {
+    return FrontOf(blocks, blocks.begin());
+}
+
+Place Editor::FrontOf(Blocks& blocks, Blocks::iterator block) {
+    for (; block != blocks.end(); ++block) {
         if (std::holds_alternative<Paragraph>(*block)) return {&blocks, block, 0};
         if (const auto* table = std::get_if<std::unique_ptr<Table>>(&*block))
             return StartOf((*table)->rows.front().cells.front().blocks);
@@ -84,6 +88,11 @@ Place Editor::EndOf(Blocks& blocks) {
 FormatId Editor::FormatAt(const Place& place) {
     const Paragraph& paragraph = ParagraphAt(place);
     return paragraph.text.empty() ? paragraph.markFormat : SpanFormatBefore(paragraph.spans, place.offset);
+}
+
+Place Editor::InParagraph(const Place& place) {
+    if (std::holds_alternative<Paragraph>(*place.block)) return place;
+    return {place.blocks, InsertParagraphBefore(*place.blocks, place.block, 0, 0), 0};
 }
 
 // ---- Putting in ----

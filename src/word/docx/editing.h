@@ -31,6 +31,8 @@ class Editor {
     // ---- Places ----
 
     static Place StartOf(Blocks& blocks);
+    /// The first place in a block or behind it: of a table the first cell's start.
+    static Place FrontOf(Blocks& blocks, Blocks::iterator block);
     /// Before the last paragraph's mark.
     static Place EndOf(Blocks& blocks);
     static Paragraph& ParagraphAt(const Place& place) { return std::get<Paragraph>(*place.block); }
@@ -39,6 +41,9 @@ class Editor {
     static FormatId FormatAt(const Place& place);
     /// The block of the body that the place is in or below; the body's end for a place in a header or footer.
     Blocks::iterator TopLevelBlock(const Place& place);
+
+    /// The place itself, or in an empty paragraph put in front of the block when that is no paragraph.
+    Place InParagraph(const Place& place);
 
     // ---- Text. Each gives the place behind what was put in. ----
 

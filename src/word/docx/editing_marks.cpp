@@ -61,6 +61,12 @@ void MarkList::Appended(Blocks::iterator block, Blocks::iterator target, std::si
     });
 }
 
+void MarkList::Rehomed(const Blocks& from, Blocks& to) {
+    ForEach([&](Mark& mark) {
+        if (mark.place_.blocks == &from) mark.place_.blocks = &to;
+    });
+}
+
 void MarkList::Abandon(const std::vector<const Block*>& blocks, const std::vector<const Blocks*>& containers,
                        const Place& refuge) {
     ForEach([&](Mark& mark) {

@@ -2,7 +2,7 @@
 
 #include "word/docx/text_target.h"
 
-/// `Range.ListFormat`, and the list templates that it applies.
+/// `Range.ListFormat`.
 ///
 /// A list item has the list's own indents: applying a template, changing the level and taking the number away
 /// drop a left or first-line indent that was set on the paragraph, and never the right one. The paragraph's
@@ -30,25 +30,6 @@ class ListFormatObject final : public LateBound<ListFormatObject> {
     int BulletList();
 
     TextTarget& target_;
-};
-
-/// A list template of a document: `ListTemplates.Add`.
-class ListTemplateObject final : public Shared, public LateBound<ListTemplateObject> {
- public:
-    static constexpr const char* kName = "ListTemplate";
-    static const MemberTable<ListTemplateObject>& Members();
-
-    ListTemplateObject(std::shared_ptr<OpenDocument> document, int abstractIndex);
-    ~ListTemplateObject() override;
-    void CheckAlive() const;
-    OpenDocument& document() { return *document_; }
-    int abstractIndex() const { return abstractIndex_; }
-
- private:
-    class Levels;
-    std::shared_ptr<OpenDocument> document_;
-    int abstractIndex_;
-    std::unique_ptr<Levels> levels_;
 };
 
 /// Takes a paragraph out of its list.

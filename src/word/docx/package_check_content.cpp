@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include "word/docx/parts.h"
+#include "word/docx/reader_namespaces.h"
 
 namespace quillmark::word::docx {
 
@@ -15,11 +16,6 @@ constexpr int kDeepest = 200;
 constexpr int kLargestHalfPoints = 2 * 1638;
 constexpr std::size_t kLongestBookmarkName = 40;
 constexpr std::size_t kLongestFieldName = 20;
-
-std::string_view PrefixOf(std::string_view name) {
-    const std::size_t colon = name.find(':');
-    return colon == std::string_view::npos ? std::string_view() : name.substr(0, colon);
-}
 
 bool MayHoldText(std::string_view element) {
     constexpr std::string_view kHolders[] = {"w:t", "w:delText", "w:instrText", "w:delInstrText",

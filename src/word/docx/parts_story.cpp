@@ -15,20 +15,23 @@ std::size_t FindControl(std::string_view text, std::size_t from) {
     return std::string_view::npos;
 }
 
-/// The drawing's id in raw XML, as the range of its digits.
-struct Digits {
-    std::size_t start = std::string_view::npos;
+struct Range {
+    std::size_t start = 0;
     std::size_t end = 0;
 };
 
-Digits FindDrawingId(std::string_view xml, std::size_t from) {
-    const std::size_t drawing = xml.find(":docPr ", from);
-    if (drawing == std::string_view::npos) return {};
-    const std::size_t tagEnd = xml.find('>', drawing);
-    const std::size_t id = xml.find(" id=", drawing);
-    if (id == std::string_view::npos || id > tagEnd) return FindDrawingId(xml, drawing + 1);
-    const std::size_t start = id + 5;
-    return {start, xml.find(xml[start - 1], start)};
+/// The value of the next drawing's id in raw XML.
+std::optional<Range> FindDrawingId(std::string_view xml, std::size_t from) {
+    constexpr std::string_view kId = " id=";
+    for (std::size_t at = xml.find(":docPr ", from); at != std::string_view::npos;
+         at = xml.find(":docPr ", at + 1)) {
+        const std::size_t id = xml.find(kId, at);
+        const std::size_t start = id + kId.size() + 1;
+        if (id > xml.find('>', at) || start >= xml.size()) continue;
+        const std::size_t end = xml.find(xml[start - 1], start);
+        if (end != std::string_view::npos) return Range{start, end};
+    }
+    return std::nullopt;
 }
 
 }  // namespace
@@ -73,10 +76,10 @@ void StoryWriter::WriteRaw(std::string_view xml) {
         start = xml.find('"', end + 1);
     }
     std::size_t done = 0;
-    for (Digits id = FindDrawingId(xml, 0); id.end < xml.size(); id = FindDrawingId(xml, id.end)) {
-        xml_.Raw(xml.substr(done, id.start - done));
+    while (const std::optional<Range> id = FindDrawingId(xml, done)) {
+        xml_.Raw(xml.substr(done, id->start - done));
         xml_.Raw(std::to_string(state_.nextDrawing++));
-        done = id.end;
+        done = id->end;
     }
     xml_.Raw(xml.substr(done));
 }

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "word/docx/editing_marks.h"
+#include "word/docx/find_replace.h"
 #include "word/docx/font.h"
 #include "word/docx/list_format.h"
 #include "word/docx/open_document.h"
@@ -31,8 +32,14 @@ class RangeObject final : public Shared, public LateBound<RangeObject>, public T
     const Place& start() const { return start_.place(); }
     const Place& end() const { return end_.place(); }
     bool IsEmpty() const { return start().block == end().block && start().offset == end().offset; }
+    /// Makes this the range's text, without marks of its ends.
+    void MoveTo(const Place& start, const Place& end);
+    /// Looks for a text as `Find` (find_replace.h) says, from the range on.
+    FindResult FindIn(const FindRequest& request);
     /// Takes out the text between the ends and gives the place that is left. Throws where it is protected.
     Place BeginInsertion();
+    /// The font for what is put in here: the insertion point's when that is the place.
+    FormatId InsertionFormat();
 
     OpenDocument& document() override { return *document_; }
     ObjectPtr Keep(Object& part) override { return Share(part); }

@@ -17,10 +17,6 @@ bool RenameReferences(const ReadPart& part, pugi::xml_node element) {
         if (!newId) return false;
         attribute.set_value(newId->c_str());
     }
-    if (IsNamed(element, "w:numId")) {
-        const int number = NumberAttribute(element, "w:val").value_or(0);
-        element.attribute("w:val").set_value(part.context.ListNumber(number));
-    }
     if (IsNamed(element, "w:footnoteReference") || IsNamed(element, "w:endnoteReference")) {
         part.context.usesNotes = true;
     }
@@ -32,7 +28,18 @@ bool RenameReferences(const ReadPart& part, pugi::xml_node element) {
 
 }  // namespace
 
+void RenumberLists(const ReadContext& context, pugi::xml_node element) {
+    if (IsNamed(element, "w:numId")) {
+        const int number = NumberAttribute(element, "w:val").value_or(0);
+        element.attribute("w:val").set_value(context.ListNumber(number));
+    }
+    for (const pugi::xml_node child : element.children()) {
+        if (child.type() == pugi::node_element) RenumberLists(context, child);
+    }
+}
+
 std::string ReadPart::Keep(pugi::xml_node element) const {
+    RenumberLists(context, element);
     return RenameReferences(*this, element) ? tree.Fragment(element) : std::string();
 }
 

@@ -33,6 +33,9 @@ struct ReadContext {
     }
 };
 
+/// Puts the model's numbers of lists in for the file's, in the element and below.
+void RenumberLists(const ReadContext& context, pugi::xml_node element);
+
 /// One part of the package whose text is being read.
 struct ReadPart {
     ReadContext& context;

@@ -154,7 +154,7 @@ std::optional<Rewrite> FormFieldFinder::At(std::size_t first) {
     constexpr std::string_view kEmptyResult = "\u2002\u2002\u2002\u2002\u2002";
     field->result = paragraph_.text.substr(marks->resultStart, resultEnd - marks->resultStart);
     if (field->result == kEmptyResult) field->result.clear();
-    return Rewrite{offsets_[first], resultEnd + 1, InlineObject{std::move(*field)}, paragraph_.spans[look].format};
+    return Rewrite{offsets_[first], resultEnd + 1, {InlineObject{std::move(*field)}}, paragraph_.spans[look].format};
 }
 
 }  // namespace

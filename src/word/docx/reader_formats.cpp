@@ -22,7 +22,9 @@ constexpr NumberedName kAlignments[] = {
 constexpr std::string_view kTabLeaders[] = {"dot", "hyphen", "underscore", "heavy", "middleDot"};
 constexpr std::string_view kTabAlignments[] = {"left", "center", "right", "decimal", "bar", "clear", "num"};
 /// Marks of review, and a cell's place in a table style, which the layout finds by itself.
-constexpr std::string_view kDroppedProperties[] = {"ins", "del", "moveFrom", "moveTo", "cnfStyle", "divId"};
+constexpr std::string_view kDroppedProperties[] = {
+    "ins", "del", "moveFrom", "moveTo", "cnfStyle", "divId", "cellIns", "cellDel", "cellMerge",
+};
 // clang-format on
 
 constexpr double kHalfPoints = 2.0;

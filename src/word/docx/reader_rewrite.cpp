@@ -17,16 +17,17 @@ class Copier {
         while (at_ < offset) {
             const Span& span = source_.spans[span_];
             const std::size_t length = std::min(offset - at_, span.length - inSpan_);
-            Put(std::string_view(source_.text).substr(at_, length), span.format);
+            PutText(std::string_view(source_.text).substr(at_, length), span.format);
             Skip(length, true);
         }
     }
     void SkipTo(std::size_t offset) {
         while (at_ < offset) Skip(std::min(offset - at_, source_.spans[span_].length - inSpan_), false);
     }
-    void PutObject(InlineObject object, FormatId format) {
-        objects_.push_back(std::move(object));
-        Put({&character::kObject, 1}, format);
+    void Put(NewContent&& content, FormatId format) {
+        if (const auto* text = std::get_if<std::string>(&content)) return PutText(*text, format);
+        objects_.push_back(std::get<InlineObject>(std::move(content)));
+        PutText({&character::kObject, 1}, format);
     }
     std::size_t size() const { return text_.size(); }
     void Finish() {
@@ -36,7 +37,8 @@ class Copier {
     }
 
    private:
-    void Put(std::string_view text, FormatId format) {
+    void PutText(std::string_view text, FormatId format) {
+        if (text.empty()) return;
         text_ += text;
         AppendSpans(spans_, {{text.size(), format}});
     }
@@ -61,6 +63,30 @@ class Copier {
 
 }  // namespace
 
+void GrowingParagraph::Text(std::string_view text, FormatId format) {
+    if (text.empty()) return;
+    paragraph.text += text;
+    AppendSpans(paragraph.spans, {{text.size(), format}});
+}
+
+void GrowingParagraph::Object(InlineObject object, FormatId format) {
+    paragraph.objects.push_back(std::move(object));
+    Text({&character::kObject, 1}, format);
+}
+
+void GrowingParagraph::Append(Paragraph&& next) {
+    for (Anchor& anchor : next.anchors) {
+        anchor.offset += paragraph.text.size();
+        paragraph.anchors.push_back(std::move(anchor));
+    }
+    paragraph.text += next.text;
+    AppendSpans(paragraph.spans, next.spans);
+    std::ranges::move(next.objects, std::back_inserter(paragraph.objects));
+    paragraph.format = next.format;
+    paragraph.markFormat = next.markFormat;
+    paragraph.section = std::move(next.section);
+}
+
 void Apply(Paragraph& paragraph, std::vector<Rewrite> rewrites) {
     Copier copier(paragraph);
     auto anchor = paragraph.anchors.begin();
@@ -75,12 +101,62 @@ void Apply(Paragraph& paragraph, std::vector<Rewrite> rewrites) {
         copier.CopyTo(rewrite.begin);
         moveAnchors(rewrite.end, 0, copier.size(), true);
         copier.SkipTo(rewrite.end);
-        if (rewrite.replacement) copier.PutObject(std::move(*rewrite.replacement), rewrite.format);
+        for (NewContent& content : rewrite.content) copier.Put(std::move(content), rewrite.format);
         done = rewrite.end;
     }
     moveAnchors(paragraph.text.size() + 1, done, copier.size(), false);
     copier.CopyTo(paragraph.text.size());
     copier.Finish();
+}
+
+std::size_t LengthOf(const std::vector<NewContent>& content) {
+    std::size_t length = 0;
+    for (const NewContent& piece : content) {
+        const auto* text = std::get_if<std::string>(&piece);
+        length += text ? text->size() : 1;
+    }
+    return length;
+}
+
+std::vector<Paragraph> SplitAtReturns(Paragraph& paragraph) {
+    std::vector<Paragraph> before;
+    if (paragraph.text.find('\r') == std::string::npos) return before;
+    GrowingParagraph piece;
+    std::size_t start = 0;
+    std::size_t at = 0;
+    auto object = paragraph.objects.begin();
+    auto anchor = paragraph.anchors.begin();
+    const auto takeAnchors = [&](std::size_t end) {
+        for (; anchor != paragraph.anchors.end() && anchor->offset <= end; ++anchor) {
+            anchor->offset -= start;
+            piece.paragraph.anchors.push_back(std::move(*anchor));
+        }
+    };
+    for (const Span& span : paragraph.spans) {
+        const std::size_t spanEnd = at + span.length;
+        while (at < spanEnd) {
+            const std::size_t end = std::min(spanEnd, paragraph.text.find('\r', at));
+            const std::string_view text = std::string_view(paragraph.text).substr(at, end - at);
+            for (auto n = std::ranges::count(text, character::kObject); n > 0; --n) {
+                piece.paragraph.objects.push_back(std::move(*object++));
+            }
+            piece.Text(text, span.format);
+            at = end;
+            if (at == spanEnd) continue;
+            takeAnchors(at);
+            piece.paragraph.format = paragraph.format;
+            piece.paragraph.markFormat = paragraph.markFormat;
+            before.push_back(std::move(piece.paragraph));
+            piece = {};
+            start = ++at;
+        }
+    }
+    takeAnchors(at);
+    paragraph.text = std::move(piece.paragraph.text);
+    paragraph.spans = std::move(piece.paragraph.spans);
+    paragraph.objects = std::move(piece.paragraph.objects);
+    paragraph.anchors = std::move(piece.paragraph.anchors);
+    return before;
 }
 
 void RemoveObjects(Paragraph& paragraph, const std::set<std::size_t>& objects) {

@@ -1,25 +1,46 @@
 #pragma once
 
-#include <optional>
 #include <set>
+#include <string>
+#include <string_view>
+#include <variant>
 #include <vector>
 
 #include "word/docx/document.h"
 
-/// Many changes of one paragraph in one pass: paragraphs of opened files may be as long as the file.
+/// Changes of one paragraph, each in one pass: paragraphs of opened files may be as long as the file.
 namespace quillmark::word::docx {
 
-/// Takes the bytes from `begin` to `end` out, with the objects among them, and puts an object in for them.
+/// A paragraph as it grows at its end.
+struct GrowingParagraph {
+    Paragraph paragraph;
+
+    void Text(std::string_view text, FormatId format);
+    void Object(InlineObject object, FormatId format);
+    /// Puts another paragraph's content behind this one's, and takes over its format.
+    void Append(Paragraph&& next);
+};
+
+/// What is put in: a text or an object.
+using NewContent = std::variant<std::string, InlineObject>;
+
+/// Takes the bytes from `begin` to `end` out, with the objects among them, and puts content in for them.
 struct Rewrite {
     std::size_t begin = 0;
     std::size_t end = 0;
-    std::optional<InlineObject> replacement;
+    std::vector<NewContent> content;
     FormatId format = 0;
 };
 
 /// The changes are in the order of the text and apart from each other. A bookmark's mark inside of one goes
 /// to its beginning.
 void Apply(Paragraph& paragraph, std::vector<Rewrite> rewrites);
+/// How many bytes of text the content takes.
+std::size_t LengthOf(const std::vector<NewContent>& content);
+
+/// Cuts the paragraph at each "\r" of its text. Gives the paragraphs before the last, which have its format
+/// and the look of its mark; the last keeps the mark and the section.
+std::vector<Paragraph> SplitAtReturns(Paragraph& paragraph);
 
 /// Takes out the objects of these numbers.
 void RemoveObjects(Paragraph& paragraph, const std::set<std::size_t>& objects);

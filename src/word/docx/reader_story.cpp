@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "word/docx/editing_spans.h"
 #include "word/docx/reader_fields.h"
 #include "word/docx/reader_formats.h"
 
@@ -37,30 +36,6 @@ void ForParagraphs(Blocks& blocks, const Function& function) {
 }
 
 }  // namespace
-
-void GrowingParagraph::Text(std::string_view text, FormatId format) {
-    if (text.empty()) return;
-    paragraph.text += text;
-    AppendSpans(paragraph.spans, {{text.size(), format}});
-}
-
-void GrowingParagraph::Object(InlineObject object, FormatId format) {
-    paragraph.objects.push_back(std::move(object));
-    Text({&character::kObject, 1}, format);
-}
-
-void GrowingParagraph::Append(Paragraph&& next) {
-    for (Anchor& anchor : next.anchors) {
-        anchor.offset += paragraph.text.size();
-        paragraph.anchors.push_back(std::move(anchor));
-    }
-    paragraph.text += next.text;
-    AppendSpans(paragraph.spans, next.spans);
-    std::ranges::move(next.objects, std::back_inserter(paragraph.objects));
-    paragraph.format = next.format;
-    paragraph.markFormat = next.markFormat;
-    paragraph.section = std::move(next.section);
-}
 
 Blocks StoryReader::Read(pugi::xml_node container) {
     Blocks blocks = ReadContainer(container);

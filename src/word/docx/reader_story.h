@@ -8,19 +8,10 @@
 #include <vector>
 
 #include "word/docx/reader_context.h"
+#include "word/docx/reader_rewrite.h"
 
 /// Reading text: the body, a header or a footer.
 namespace quillmark::word::docx {
-
-/// A paragraph as it grows at its end.
-struct GrowingParagraph {
-    Paragraph paragraph;
-
-    void Text(std::string_view text, FormatId format);
-    void Object(InlineObject object, FormatId format);
-    /// Puts another paragraph's content behind this one's, and takes over its format.
-    void Append(Paragraph&& next);
-};
 
 class StoryReader {
    public:

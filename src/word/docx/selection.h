@@ -23,6 +23,7 @@ class SelectionObject final : public LateBound<SelectionObject>, public TextTarg
     void CheckAlive() const { document_.CheckAlive(); }
 
     const Place& place() const { return start_.place(); }
+    bool IsInsertionPoint() const { return !selectsAll_; }
     /// Puts the insertion point here.
     void MoveTo(const Place& place);
     /// Selects all of the blocks: a cell, or the document.
@@ -43,14 +44,12 @@ class SelectionObject final : public LateBound<SelectionObject>, public TextTarg
     struct Parts;
     friend struct SelectionMembers;
 
-    bool IsInsertionPoint() const { return !selectsAll_; }
     void TypeText(const std::string& text);
     void TypeBackspace();
     void InsertBreak(int kind);
     void GoTo(Arguments arguments);
     void Copy();
     void Paste(bool keepSourceFormatting);
-    void PasteDocument();
     void PasteCopied(bool keepSourceFormatting);
     void TakeFontFromText();
 

@@ -1,0 +1,116 @@
+#include "word/docx/find_replace_search.h"
+
+#include <algorithm>
+
+#include "word/docx/find_replace_codes.h"
+#include "word/docx/reader_text_codes.h"
+
+namespace quillmark::word::docx {
+
+namespace {
+
+void Collect(Blocks& blocks, std::vector<Stop>& stops) {
+    for (auto block = blocks.begin(); block != blocks.end(); ++block) {
+        if (std::holds_alternative<Paragraph>(*block)) stops.push_back({&blocks, block});
+        const auto* table = std::get_if<std::unique_ptr<Table>>(&*block);
+        if (!table) continue;
+        for (TableRow& row : (*table)->rows) {
+            for (TableCell& cell : row.cells) Collect(cell.blocks, stops);
+        }
+    }
+}
+
+bool IsMark(char32_t unit) { return unit == kParagraphMark || unit == kSectionMark; }
+
+char32_t MarkOf(const Paragraph& paragraph) { return paragraph.section ? kSectionMark : kParagraphMark; }
+
+/// A character of the text in the form of patterns; broken bytes stand for nothing.
+CodePoint Folded(std::string_view text, std::size_t offset) {
+    const auto byte = static_cast<unsigned char>(text[offset]);
+    if (byte < 0x80) return {FoldForSearch(byte), 1};
+    CodePoint c = DecodeFirst(text.substr(offset));
+    c.value = FoldForSearch(c.value);
+    return {c.value, std::max<std::size_t>(c.length, 1)};
+}
+
+std::optional<MarkMatch> MatchAcross(const Stop& start, std::size_t offset, const Pattern& pattern) {
+    MarkMatch match{.begin = offset};
+    Stop stop = start;
+    std::size_t at = offset;
+    for (std::size_t unit = 0; unit < pattern.size(); ++unit) {
+        const std::string_view text = stop.paragraph().text;
+        if (at < text.size()) {
+            const CodePoint c = Folded(text, at);
+            if (c.value != pattern[unit]) return {};
+            at += c.length;
+            continue;
+        }
+        if (pattern[unit] != MarkOf(stop.paragraph())) return {};
+        if (!stop.HasNext()) {
+            if (unit + 1 != pattern.size()) return {};
+            match.takesLastMark = true;
+            break;
+        }
+        ++stop.block;
+        ++match.paragraphs;
+        at = 0;
+    }
+    match.end = at;
+    match.isSectionBreak = pattern.size() == 1 && pattern[0] == kSectionMark;
+    return match;
+}
+
+}  // namespace
+
+std::vector<Stop> CollectStops(Blocks& story) {
+    std::vector<Stop> stops;
+    Collect(story, stops);
+    return stops;
+}
+
+bool HasMarks(const Pattern& pattern) { return std::ranges::any_of(pattern, IsMark); }
+
+std::optional<std::size_t> MatchAt(std::string_view text, std::size_t offset, const Pattern& pattern) {
+    for (const char32_t unit : pattern) {
+        if (offset >= text.size()) return {};
+        const CodePoint c = Folded(text, offset);
+        if (c.value != unit) return {};
+        offset += c.length;
+    }
+    return offset;
+}
+
+std::optional<PlainMatch> FindPlain(std::string_view text, std::size_t from, std::size_t until,
+                                    const Pattern& pattern) {
+    for (std::size_t at = from; at < until;) {
+        const auto end = MatchAt(text, at, pattern);
+        if (end && *end <= until) return PlainMatch{at, *end};
+        at += Folded(text, at).length;
+    }
+    return {};
+}
+
+std::optional<MarkMatch> FindAcross(const Stop& stop, std::size_t from, const Pattern& pattern) {
+    const std::string_view text = stop.paragraph().text;
+    // Each mark in the pattern is the end of a paragraph, so only what stands as far before it can match.
+    const auto beforeMark = std::ranges::find_if(pattern, IsMark) - pattern.begin();
+    for (std::size_t at = from; at <= text.size();) {
+        const bool mayMatch = (text.size() - at) <= static_cast<std::size_t>(beforeMark) * 4;
+        if (mayMatch) {
+            if (const auto match = MatchAcross(stop, at, pattern)) return match;
+        }
+        at += at < text.size() ? Folded(text, at).length : 1;
+    }
+    return {};
+}
+
+FormatId FormatFrom(const Paragraph& paragraph, std::size_t offset) {
+    std::size_t end = 0;
+    for (const Span& span : paragraph.spans) {
+        end += span.length;
+        if (offset < end) return span.format;
+    }
+    return paragraph.markFormat;
+}
+
+}  // namespace quillmark::word::docx

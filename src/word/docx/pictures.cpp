@@ -1,0 +1,87 @@
+#include "word/docx/pictures.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+#include "word/docx/engine_state.h"
+#include "word/docx/picture_size.h"
+#include "word/docx/range.h"
+#include "word/docx/section_objects.h"
+#include "word/docx/selection.h"
+#include "word/docx/table_objects.h"
+
+namespace quillmark::word::docx {
+namespace {
+
+constexpr std::int64_t kEmuPerTwip = 635;
+
+struct Room {
+    int width;
+    int height;
+};
+
+Room RoomAt(OpenDocument& document, const Place& place) {
+    const SectionProperties* section = document.editor().SectionAt(place);
+    if (!section) section = &document.model().lastSection;
+    const int cellWidth = CellTextWidth(document, place);
+    return {cellWidth > 0 ? cellWidth : ColumnWidth(*section), TextHeight(*section)};
+}
+
+}  // namespace
+
+Picture MakePicture(std::string bytes) {
+    const PictureSize size = ReadPictureSize(bytes);
+    return {std::move(bytes), size.extension, size.WidthEmu(), size.HeightEmu()};
+}
+
+Picture LoadPicture(const std::filesystem::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    std::string bytes{std::istreambuf_iterator<char>(in), {}};
+    if (!in.is_open() || in.bad() || bytes.empty())
+        throw AutomationError(error::kNoSuchPicture, "This is not a valid file name: " + file.string());
+    return MakePicture(std::move(bytes));
+}
+
+void FitPicture(Picture& picture, int width, int height) {
+    const double across = static_cast<double>(std::max(width, 1) * kEmuPerTwip) / picture.widthEmu;
+    const double down = static_cast<double>(std::max(height, 1) * kEmuPerTwip) / picture.heightEmu;
+    const double scale = std::min({across, down, 1.0});
+    picture.widthEmu = std::max<std::int64_t>(std::llround(scale * picture.widthEmu), 1);
+    picture.heightEmu = std::max<std::int64_t>(std::llround(scale * picture.heightEmu), 1);
+}
+
+Place InsertPicture(OpenDocument& document, const Place& place, Picture picture, FormatId format) {
+    const Room room = RoomAt(document, place);
+    FitPicture(picture, room.width, room.height);
+    const Place behind = document.editor().InsertObject(place, std::move(picture), format);
+    document.Changed();
+    return behind;
+}
+
+const MemberTable<InlineShapesObject>& InlineShapesObject::Members() {
+    static const MemberTable<InlineShapesObject> members = {
+        {"AddPicture", nullptr, nullptr,
+         [](InlineShapesObject& shapes, Arguments arguments) {
+             shapes.AddPicture(arguments);
+             return Value();
+         }},
+    };
+    return members;
+}
+
+void InlineShapesObject::AddPicture(Arguments arguments) {
+    const ArgumentReader reader(arguments, {"FileName", "LinkToFile", "SaveWithDocument", "Range"});
+    Picture picture = LoadPicture(document_.engine().PathOf(TextOf(reader["FileName"])));
+    if (const Value* given = reader.Find("Range")) {
+        const auto range = ObjectOf<RangeObject>(*given);
+        const Place place = range->BeginInsertion();
+        InsertPicture(document_, place, std::move(picture), range->InsertionFormat());
+    } else {
+        SelectionObject& selection = document_.selection();
+        const Place place = selection.BeginInsertion();
+        InsertPicture(document_, place, std::move(picture), selection.InsertionFormat());
+    }
+}
+
+}  // namespace quillmark::word::docx

@@ -1,0 +1,281 @@
+#include "word/docx/selection.h"
+
+#include "word/docx/engine_state.h"
+#include "word/docx/list_format.h"
+#include "word/docx/pictures.h"
+#include "word/docx/range.h"
+#include "word/docx/range_find.h"
+#include "word/docx/section_objects.h"
+#include "word/docx/style_look.h"
+
+namespace quillmark::word::docx {
+namespace {
+
+constexpr int kGoToLast = -1;
+
+/// The section that the insertion point is in.
+class SelectedSection final : public SectionTarget {
+ public:
+    explicit SelectedSection(SelectionObject& selection) : selection_(selection) {}
+    OpenDocument& document() override { return selection_.document(); }
+    ObjectPtr Keep(Object& part) override { return selection_.Keep(part); }
+    std::vector<SectionProperties*> TargetSections() override {
+        return {document().editor().SectionAt(selection_.place())};
+    }
+
+ private:
+    SelectionObject& selection_;
+};
+
+}  // namespace
+
+struct SelectionObject::Parts {
+    explicit Parts(SelectionObject& selection)
+        : font(selection),
+          paragraphFormat(selection),
+          paragraphs(selection),
+          section(selection),
+          pageSetup(section),
+          inlineShapes(selection.document_) {}
+    FontObject font;
+    ParagraphFormatObject paragraphFormat;
+    ParagraphsObject paragraphs;
+    SelectedSection section;
+    PageSetupObject pageSetup;
+    InlineShapesObject inlineShapes;
+};
+
+SelectionObject::SelectionObject(OpenDocument& document)
+    : document_(document),
+      start_(document.editor().marks(), Editor::StartOf(document.model().body), Gravity::Behind),
+      end_(document.editor().marks(), start_.place(), Gravity::Behind),
+      parts_(std::make_unique<Parts>(*this)) {
+    TakeFontFromText();
+}
+
+SelectionObject::~SelectionObject() = default;
+
+// ---- Members ----
+
+struct SelectionMembers {
+    template <auto part>
+    static Value Part(SelectionObject& selection, Arguments) {
+        return selection.Keep(selection.parts_.get()->*part);
+    }
+    template <auto method>
+    static Value CallPlain(SelectionObject& selection, Arguments arguments) {
+        ExpectNoArguments(arguments);
+        (selection.*method)();
+        return Value();
+    }
+    static Value Range(SelectionObject& selection, Arguments) {
+        using Extent = RangeObject::Extent;
+        if (!selection.selectsAll_)
+            return ObjectPtr(std::make_shared<RangeObject>(selection.document_.Self(), selection.place(),
+                                                           selection.place(), Extent::Text));
+        Blocks& blocks = *selection.place().blocks;
+        const bool isBody = &blocks == &selection.document_.model().body;
+        return ObjectPtr(RangeOver(selection.document_, blocks, isBody ? Extent::Story : Extent::Cell));
+    }
+};
+
+const MemberTable<SelectionObject>& SelectionObject::Members() {
+    using Own = SelectionMembers;
+    static const MemberTable<SelectionObject> members = {
+        {"Font", Own::Part<&Parts::font>},
+        {"ParagraphFormat", Own::Part<&Parts::paragraphFormat>},
+        {"Paragraphs", Own::Part<&Parts::paragraphs>},
+        {"PageSetup", Own::Part<&Parts::pageSetup>},
+        {"InlineShapes", Own::Part<&Parts::inlineShapes>},
+        {"Range", Own::Range},
+        {"TypeText", nullptr, nullptr,
+         [](SelectionObject& selection, Arguments arguments) {
+             selection.TypeText(TextOf(ArgumentReader(arguments, {"Text"})["Text"]));
+             return Value();
+         }},
+        {"TypeBackspace", nullptr, nullptr, Own::CallPlain<&SelectionObject::TypeBackspace>},
+        {"InsertBreak", nullptr, nullptr,
+         [](SelectionObject& selection, Arguments arguments) {
+             selection.InsertBreak(ArgumentReader(arguments, {"Type"}).Whole("Type", PageBreak));
+             return Value();
+         }},
+        {"GoTo", nullptr, nullptr,
+         [](SelectionObject& selection, Arguments arguments) {
+             selection.GoTo(arguments);
+             return Value();
+         }},
+        {"Copy", nullptr, nullptr, Own::CallPlain<&SelectionObject::Copy>},
+        {"Paste", nullptr, nullptr,
+         [](SelectionObject& selection, Arguments arguments) {
+             ExpectNoArguments(arguments);
+             selection.Paste(false);
+             return Value();
+         }},
+        {"PasteAndFormat", nullptr, nullptr,
+         [](SelectionObject& selection, Arguments arguments) {
+             const int type = WholeOf(ArgumentReader(arguments, {"Type"})["Type"]);
+             if (type != FormatOriginalFormatting) throw AutomationError(error::kBadValue, "No such way of pasting");
+             selection.Paste(true);
+             return Value();
+         }},
+    };
+    return members;
+}
+
+// ---- The insertion point ----
+
+void SelectionObject::TakeFontFromText() {
+    fontId_ = Editor::FormatAt(Editor::FrontOf(*place().blocks, place().block));
+    font_ = document_.model().charFormats[fontId_];
+    isFontInterned_ = true;
+}
+
+FormatId SelectionObject::InsertionFormat() {
+    if (!isFontInterned_) fontId_ = document_.model().charFormats.Intern(font_);
+    isFontInterned_ = true;
+    return fontId_;
+}
+
+void SelectionObject::MoveTo(const Place& place) {
+    start_.MoveTo(place);
+    start_.SetGravity(Gravity::Behind);
+    end_.MoveTo(place);
+    selectsAll_ = false;
+    TakeFontFromText();
+}
+
+void SelectionObject::SelectAll(Blocks& blocks) {
+    MoveTo({&blocks, blocks.begin(), 0});
+    start_.SetGravity(Gravity::Before);
+    end_.MoveTo(Editor::EndOf(blocks));
+    selectsAll_ = true;
+}
+
+Place SelectionObject::BeginInsertion() {
+    RequireEditable();
+    if (!selectsAll_) return place();
+    selectsAll_ = false;
+    const Place start = document_.editor().InParagraph(place());
+    document_.editor().Erase(start, end_.place());
+    start_.MoveTo(start);
+    start_.SetGravity(Gravity::Behind);
+    end_.MoveTo(start);
+    return start;
+}
+
+// ---- Typing ----
+
+void SelectionObject::TypeText(const std::string& text) {
+    const Place at = BeginInsertion();
+    document_.editor().InsertText(at, text, InsertionFormat());
+    document_.Changed();
+}
+
+void SelectionObject::TypeBackspace() {
+    if (selectsAll_) {
+        BeginInsertion();
+        return document_.Changed();
+    }
+    RequireEditable();
+    Paragraph& paragraph = Editor::ParagraphAt(place());
+    const ParaFormat& format = document_.model().paraFormats[paragraph.format];
+    if (place().offset == 0 && format.numId.value_or(0) != 0)
+        RemoveFromList(document_.model(), paragraph);
+    else
+        document_.editor().EraseBefore(place());
+    document_.Changed();
+}
+
+void SelectionObject::InsertBreak(int kind) {
+    const Place at = BeginInsertion();
+    InsertBreakAt(document_, at, kind, InsertionFormat());
+}
+
+void SelectionObject::GoTo(Arguments arguments) {
+    const ArgumentReader reader(arguments, {"What", "Which"});
+    const int which = WholeOf(reader["Which"]);
+    if (WholeOf(reader["What"]) != GoToLine || (which != GoToFirst && which != kGoToLast))
+        throw AutomationError(error::kBadValue, "Only the first and the last line can be gone to");
+    Blocks& body = document_.model().body;
+    if (which == GoToFirst) return MoveTo(Editor::StartOf(body));
+    Place last = Editor::EndOf(body);
+    last.offset = 0;
+    MoveTo(last);
+}
+
+// ---- The clipboard ----
+
+void SelectionObject::Copy() {
+    if (!selectsAll_ || place().blocks != &document_.model().body)
+        throw AutomationError(error::kNotAvailable, "Only a whole document can be copied");
+    document_.engine().SetCopied(CopyAll(document_.model()));
+}
+
+void SelectionObject::Paste(bool keepSourceFormatting) {
+    const ClipboardContent content = document_.engine().clipboardContent();
+    if (document_.engine().copied()) {
+        PasteCopied(keepSourceFormatting);
+    } else if (const auto* picture = std::get_if<Picture>(&content)) {
+        const Place at = BeginInsertion();
+        InsertPicture(document_, at, *picture, InsertionFormat());
+    } else if (const auto* text = std::get_if<std::string>(&content)) {
+        TypeText(*text);
+    } else {
+        throw AutomationError(error::kNotAvailable, "There is nothing on the clipboard");
+    }
+}
+
+void SelectionObject::PasteCopied(bool keepSourceFormatting) {
+    const Place here = BeginInsertion();
+    Editor& editor = document_.editor();
+    // Ranges kept at this place stay in front of what is pasted.
+    std::vector<Mark*> kept;
+    editor.marks().ForEach([&](Mark& mark) {
+        const bool isHere = mark.place().block == here.block && mark.place().offset == here.offset;
+        if (isHere && mark.gravity() == Gravity::Before) kept.push_back(&mark);
+    });
+    Blocks& blocks = *here.blocks;
+    const Place at = here.offset > 0 ? editor.Split(here, Editor::ParagraphAt(here).markFormat) : here;
+    const bool isFirst = at.block == blocks.begin();
+    const auto before = isFirst ? blocks.begin() : std::prev(at.block);
+    const Place behind = PasteAt(document_.model(), at, document_.engine().copied(), keepSourceFormatting);
+    editor.Reattach();
+    const auto firstPasted = isFirst ? blocks.begin() : std::next(before);
+    for (Mark* mark : kept) mark->MoveTo(Editor::FrontOf(blocks, firstPasted));
+    MoveTo(behind);
+    document_.Changed();
+}
+
+// ---- Its looks ----
+
+void SelectionObject::ChangeFont(const CharFormat& patch) {
+    RequireEditable();
+    if (selectsAll_) {
+        ForEachStretch(start_.place(), end_.place(), true,
+                       [&](const Stretch& stretch) { ChangeFontOf(document_.model(), stretch, patch); });
+        TakeFontFromText();
+        return document_.Changed();
+    }
+    Overlay(font_, patch);
+    isFontInterned_ = false;
+    Paragraph& paragraph = Editor::ParagraphAt(place());
+    if (!paragraph.text.empty()) return;
+    paragraph.markFormat = InsertionFormat();
+    document_.Changed();
+}
+
+void SelectionObject::ForEachFont(const std::function<void(const CharFormat&)>& look) {
+    const Document& model = document_.model();
+    if (selectsAll_)
+        return ForEachStretch(start_.place(), end_.place(), true,
+                              [&](const Stretch& stretch) { LookAtFontsOf(model, stretch, look); });
+    look(EffectiveFont(model, model.paraFormats[Editor::ParagraphAt(place()).format], font_));
+}
+
+void SelectionObject::ForEachParagraph(const std::function<void(Paragraph&)>& visit) {
+    if (!selectsAll_) return visit(Editor::ParagraphAt(place()));
+    ForEachStretch(start_.place(), end_.place(), true,
+                   [&](const Stretch& stretch) { visit(stretch.paragraph); });
+}
+
+}  // namespace quillmark::word::docx

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <memory>
+
+#include "word/docx/font.h"
+#include "word/docx/open_document.h"
+#include "word/docx/paragraphs.h"
+#include "word/docx/table_borders.h"
+
+/// Tables. Rows and columns count from 1; a cell's column counts the cells of its row, so that cells joined
+/// side by side count once and one joined to the cell above keeps its number but cannot be reached.
+///
+/// `Tables.Add` puts the table in front of the text behind the range. An insertion point that stood exactly
+/// there stands in the first cell; one further on stays behind the table. So text that is to follow a table
+/// is typed first, and the table added at a range kept from before it.
+namespace quillmark::word::docx {
+
+/// How wide text can be in the cell that a place is in, in twips; 0 outside of tables.
+int CellTextWidth(OpenDocument& document, const Place& place);
+
+/// `Document.Tables`: the tables of the body.
+class TablesObject final : public DocumentPart<TablesObject> {
+ public:
+    static constexpr const char* kName = "Tables";
+    static const MemberTable<TablesObject>& Members();
+    using DocumentPart::DocumentPart;
+
+ private:
+    /// Columns of one width over the whole text, without borders.
+    Value Add(Arguments arguments);
+    Value Item(Arguments arguments);
+    std::vector<Table*> All();
+};
+
+class TableObject final : public Shared, public LateBound<TableObject>, public BorderTarget {
+ public:
+    static constexpr const char* kName = "Table";
+    static const MemberTable<TableObject>& Members();
+
+    TableObject(std::shared_ptr<OpenDocument> document, Table& table);
+    ~TableObject() override;
+    /// Throws kObjectDeleted also when the table's text was taken out.
+    void CheckAlive() const override;
+
+    OpenDocument& document() override { return *document_; }
+    Table& table() { return *table_; }
+    std::shared_ptr<TableObject> Self() { return std::static_pointer_cast<TableObject>(shared_from_this()); }
+    std::optional<int> LineStyle(Edges edges) override;
+    void SetLineStyle(Edges edges, int style) override;
+
+ private:
+    struct Parts;
+    Value Cell(Arguments arguments);
+    Value Row(Arguments arguments);
+    Value Column(Arguments arguments);
+
+    std::shared_ptr<OpenDocument> document_;
+    Table* table_;
+    mutable std::uint64_t checkedAt_ = 0;
+    std::unique_ptr<Parts> parts_;
+};
+
+/// One cell, known by its row and its place in the row.
+class CellObject final : public Shared, public LateBound<CellObject> {
+ public:
+    static constexpr const char* kName = "Cell";
+    static const MemberTable<CellObject>& Members();
+
+    CellObject(std::shared_ptr<TableObject> table, std::size_t row, std::size_t column);
+    void CheckAlive() const;
+
+ private:
+    TableCell& Data() const;
+    Value Range();
+    void SetVerticalAlignment(const Value& value);
+    void Select();
+    void Merge(Arguments arguments);
+
+    std::shared_ptr<TableObject> table_;
+    std::size_t row_;
+    std::size_t column_;
+};
+
+/// One row: its height (at least so much), shading, borders and the looks of its text.
+class RowObject final : public Shared, public LateBound<RowObject>, public BorderTarget, public TextTarget {
+ public:
+    static constexpr const char* kName = "Row";
+    static const MemberTable<RowObject>& Members();
+
+    RowObject(std::shared_ptr<TableObject> table, std::size_t row);
+    ~RowObject() override;
+    void CheckAlive() const override;
+
+    OpenDocument& document() override { return table_->document(); }
+    std::optional<int> LineStyle(Edges edges) override;
+    void SetLineStyle(Edges edges, int style) override;
+
+    ObjectPtr Keep(Object& part) override { return Share(part); }
+    void RequireEditable() override;
+    void ChangeFont(const CharFormat& patch) override;
+    void ForEachFont(const std::function<void(const CharFormat&)>& look) override;
+    void ForEachParagraph(const std::function<void(Paragraph&)>& visit) override;
+
+ private:
+    struct Parts;
+    class Text;
+    class Shading;
+    TableRow& Data() const;
+    void ForEachStretchOfRow(const std::function<void(const Stretch&)>& function);
+    void SetHeight(const Value& value);
+
+    std::shared_ptr<TableObject> table_;
+    std::size_t row_;
+    std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace quillmark::word::docx

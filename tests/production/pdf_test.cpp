@@ -1,0 +1,77 @@
+#include "production/pdf.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+
+#include "platform/paths.h"
+#include "support/scratch.h"
+
+#ifndef _WIN32
+
+namespace quillmark::test {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::HasSubstr;
+
+/// Puts a program of the test's own in LibreOffice's place.
+class Pdf : public ::testing::Test {
+ protected:
+    Pdf() : path_(std::getenv("PATH")) { WriteBytes(folder / "Hollis.docx", "document"); }
+    ~Pdf() override { setenv("PATH", path_.c_str(), 1); }
+
+    void Install(const std::string& script) {
+        fs::create_directory(folder / "bin");
+        WriteBytes(folder / "bin/soffice", "#!/bin/sh\n" + script);
+        fs::permissions(folder / "bin/soffice", fs::perms::owner_all);
+        setenv("PATH", (TextOf(folder / "bin") + ":" + path_).c_str(), 1);
+    }
+
+    std::string Failure(std::chrono::seconds limit = std::chrono::seconds(60)) {
+        try {
+            PdfConverter().Convert(folder / "Hollis.docx", folder / "Hollis.pdf", limit);
+        } catch (const PdfError& failure) {
+            return failure.what();
+        }
+        return "";
+    }
+
+    ScratchFolder folder;
+
+ private:
+    std::string path_;
+};
+
+TEST_F(Pdf, TheProgramsOutputBecomesTheFile) {
+    Install(
+        "for last; do :; done\n"
+        "while [ \"$1\" != --outdir ]; do case $1 in -env:*) profile=$1;; esac; shift; done\n"
+        "mkdir -p \"$2\"; { cat \"$last\"; echo \" $profile\"; } > \"$2/Hollis.pdf\"\n");
+    ASSERT_EQ(Failure(), "");
+    EXPECT_THAT(ReadBytes(folder / "Hollis.pdf"), HasSubstr("document -env:UserInstallation=file:///"));
+}
+
+TEST_F(Pdf, AFailureLeavesTheOldFile) {
+    WriteBytes(folder / "Hollis.pdf", "old");
+    Install("exit 0\n");
+    EXPECT_THAT(Failure(), HasSubstr("Hollis.docx: LibreOffice could not make a PDF"));
+    EXPECT_EQ(ReadBytes(folder / "Hollis.pdf"), "old");
+}
+
+TEST_F(Pdf, AProgramThatHangsIsEndedWithAllThatItStarted) {
+    Install("sleep 30 & sleep 30\n");
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_THAT(Failure(std::chrono::seconds(1)), HasSubstr("within 1 seconds"));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+TEST_F(Pdf, WithoutLibreOfficeThereIsNoConverter) {
+    setenv("PATH", "/nowhere", 1);
+    EXPECT_THROW(PdfConverter(), PdfError);
+}
+
+}  // namespace
+}  // namespace quillmark::test
+
+#endif
