@@ -19,7 +19,9 @@ set(QUILLMARK_WINDOWS_PREFIX ${quillmark_root}/build/windows-dependencies
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES QUILLMARK_WINDOWS_PREFIX)
 
 if(QUILLMARK_WINDOWS_PREFIX STREQUAL "${quillmark_root}/build/windows-dependencies"
-   AND NOT EXISTS ${QUILLMARK_WINDOWS_PREFIX}/complete)
+   AND NOT EXISTS ${QUILLMARK_WINDOWS_PREFIX}/complete
+   AND NOT DEFINED ENV{QUILLMARK_WINDOWS_DEPENDENCIES_RUN})
+  message(STATUS "Building the libraries for Windows in ${QUILLMARK_WINDOWS_PREFIX}")
   execute_process(COMMAND ${CMAKE_CURRENT_LIST_DIR}/windows_dependencies.sh ${QUILLMARK_WINDOWS_PREFIX}
                   COMMAND_ERROR_IS_FATAL ANY)
 endif()

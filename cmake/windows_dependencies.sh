@@ -24,6 +24,9 @@ if [ -n "$missing" ]; then
     exit 1
 fi
 
+# The toolchain file starts this script where it finds no libraries; not from within the script itself.
+export QUILLMARK_WINDOWS_DEPENDENCIES_RUN=1
+
 # apt with lists of its own: the source packages of every distribution archive that this machine uses.
 apt-get indextargets 'Created-By: Packages' --format '$(ORIGIN)|deb-src $(REPO_URI) $(RELEASE) $(COMPONENT)' |
     sed -nE 's/^(Debian|Ubuntu)\|//p' | sort -u >"$work/sources.list"
@@ -45,9 +48,8 @@ install_with_cmake() {
     package=$1
     shift
     unpack "$package"
-    # The dot keeps the toolchain from taking this for its own prefix and starting this script again.
     cmake -S "$work/$package" -B "$work/$package-build" -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
-        -DQUILLMARK_WINDOWS_PREFIX="$prefix/." -DCMAKE_INSTALL_PREFIX="$prefix" -DCMAKE_INSTALL_LIBDIR=lib \
+        -DQUILLMARK_WINDOWS_PREFIX="$prefix" -DCMAKE_INSTALL_PREFIX="$prefix" -DCMAKE_INSTALL_LIBDIR=lib \
         -DCMAKE_BUILD_TYPE=Release -DCMAKE_C_FLAGS=-w -DBUILD_SHARED_LIBS=OFF "$@"
     cmake --build "$work/$package-build" --parallel
     cmake --install "$work/$package-build"

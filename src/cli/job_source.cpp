@@ -65,6 +65,8 @@ std::vector<std::string> ReadJob(const JobSource& source, Folders folders, const
     ReadJobFile(folders, source.file, job, IsTemplateName(source.name));
     job.name = source.name;
     FillFirmFields(defaults, job);
+    // Nobody has chosen fields in a grid here, so every one of them counts.
+    for (int n = 1; n <= kFields; ++n) job.txtField(n).relevant = true;
     std::vector<std::string> refused;
     for (int n : AttachSmartFields(job))
         refused.push_back(std::string(FieldMarker(n)) + " holds \"" + job.D(n) + "\", which is not a date");

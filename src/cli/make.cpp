@@ -69,7 +69,9 @@ class MakeRun {
         settings_ = ReadSettings(order_.folder);
         folders_ = FoldersOf(fs::absolute(order_.folder), settings_);
         defaults_ = ReadFirmDefaults(folders_.firmDefaultsFile);
-        fs::create_directories(order_.out);
+        std::error_code error;
+        fs::create_directories(order_.out, error);
+        if (error) throw FileError(order_.out, error);
         if (order_.pdf) pdf_.emplace();
     }
 

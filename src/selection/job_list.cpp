@@ -30,8 +30,8 @@ void OpenJobList(SelectionState& screen) {
 /// Position 0 counts as none, so what drives out the first line goes to the end.
 void AddDocument(std::string_view picked, std::size_t position, SelectionState& screen,
                  const Office& office) {
-    const auto at = position == 0 ? screen.List2.end()
-                                  : screen.List2.begin() + static_cast<std::ptrdiff_t>(position);
+    const auto at =
+        position == 0 ? screen.List2.end() : screen.List2.begin() + static_cast<std::ptrdiff_t>(position);
     screen.List2.insert(at, {std::string(picked), false});
     AddCompanions(picked, screen, office);
     screen.List2.back().selected = false;
@@ -106,9 +106,9 @@ void ListIsEmpty(SelectionState& screen) {
 
 /// Without a typed name the options stay hidden, and only their frame follows the list.
 void AdjustFrame(SelectionState& screen) {
-    const bool statement =
-        std::any_of(screen.List2.begin(), screen.List2.end(),
-                    [](const JobListLine& line) { return line.name.starts_with(kClosingStatement); });
+    const bool statement = std::any_of(screen.List2.begin(), screen.List2.end(), [](const JobListLine& line) {
+        return line.name.starts_with(kClosingStatement);
+    });
     const bool contract = HoldsLine(kBridgeportContract, screen) || HoldsLine(kValleyContract, screen);
     if (statement && contract) return;
     if (!statement) screen.job.SetOption(LandMultiFamily, false);
@@ -176,9 +176,8 @@ ListAction SelectLegalSize(const std::vector<std::string>& names, SelectionState
     std::vector<JobListLine> lines = screen.List2;
     for (JobListLine& line : lines) line.selected = false;
     for (const std::string& name : names) {
-        const auto line = std::find_if(lines.begin(), lines.end(), [&](const JobListLine& l) {
-            return l.name == name && !l.selected;
-        });
+        const auto line = std::find_if(lines.begin(), lines.end(),
+                                       [&](const JobListLine& l) { return l.name == name && !l.selected; });
         if (line == lines.end()) return ListAction::NoSuchLine;
         line->selected = true;
     }

@@ -10,8 +10,8 @@
 #include "selection/office.h"
 #include "selection/selection_state.h"
 
-/// The job list `List2`: what a double-click in the document list adds, with the documents that the law or the
-/// trade wants beside it, and what a double-click in the job list takes off.
+/// The job list `List2`: what a double-click in the document list adds, with the documents that the law or
+/// the trade wants beside it, and what a double-click in the job list takes off.
 namespace quillmark {
 
 /// What came of a request; all but Done leave everything as it was.
@@ -25,9 +25,9 @@ enum class ListAction {
 inline constexpr std::string_view kNoSaveText = "<< NO SAVE >>";
 
 /// Double-click on a line of `List1`: a document goes on the job list with its companions, or a package takes
-/// the list's place; the fields and option buttons follow. Throws FileError and PackageError for a package that
-/// cannot be read, with nothing changed, and FileError and RecordError for a custom document whose list of
-/// markers cannot be read, with the document on the list.
+/// the list's place; the fields and option buttons follow. Throws FileError and PackageError for a package
+/// that cannot be read, with nothing changed, and FileError and RecordError for a custom document whose list
+/// of markers cannot be read, with the document on the list.
 ListAction PickLine(std::string_view line, SelectionState& screen, const Office& office);
 
 /// Double-click on a line of `List2`: this line alone goes, documents that came with it stay.

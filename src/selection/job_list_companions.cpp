@@ -10,7 +10,8 @@ namespace {
 
 using std::chrono::October;
 using std::chrono::year;
-constexpr auto kClosingDisclosureRule = year(2015) / October / 2;  ///< contracts of later days need the addendum
+constexpr auto kClosingDisclosureRule =
+    year(2015) / October / 2;  ///< contracts of later days need the addendum
 
 /// `reminder` is what the history must not hold: the document was chosen before and its companion is known.
 void AddCompanion(std::string_view companion, std::string_view reminder, std::string_view reason,
@@ -40,8 +41,7 @@ void AddCompanions(std::string_view picked, SelectionState& screen, const Office
 
 void AlertAdded(std::string_view reason, const Office& office) {
     if (!office.settings.documentAlerts) return;
-    office.dialogs.Tell("  ALERT",
-                        std::string(reason) + " and has been automatically added to the job list.",
+    office.dialogs.Tell("  ALERT", std::string(reason) + " and has been automatically added to the job list.",
                         DialogIcon::Information);
 }
 

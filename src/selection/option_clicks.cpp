@@ -46,8 +46,8 @@ constexpr Effect kEffects[] = {
 // clang-format on
 
 const Effect* EffectOf(int n) {
-    const auto row =
-        std::find_if(std::begin(kEffects), std::end(kEffects), [n](const Effect& e) { return e.option == n; });
+    const auto row = std::find_if(std::begin(kEffects), std::end(kEffects),
+                                  [n](const Effect& e) { return e.option == n; });
     return row == std::end(kEffects) ? nullptr : &*row;
 }
 
@@ -82,7 +82,8 @@ void ReformTaxId(int n, int clicked, Job& job) {
     std::string value = job.D(n);
     if (value.size() <= hyphen || value[hyphen] != '-') return;
     std::erase(value, '-');
-    const bool digits = std::all_of(value.begin(), value.end(), [](unsigned char c) { return std::isdigit(c); });
+    const bool digits =
+        std::all_of(value.begin(), value.end(), [](unsigned char c) { return std::isdigit(c); });
     if (digits && value.size() == kDigits) job.SetField(n, value);
 }
 
@@ -101,7 +102,7 @@ void AskForFairHousing(SelectionState& screen, const Office& office) {
                                 "Is this sale for a Multi-Family Rental property ?", DialogButton::No))
         return;
     AppendLine(kChroNotice, screen);
-    screen.job.txtField(kPropertyAddress).tag = kMultiFamilyTag;
+    screen.job.txtField(kPropertyAddress).tag = std::string(kMultiFamilyTag);
     AlertAdded("A CHRO Fair Housing Notice must accompany the contract", office);
 }
 

@@ -5,6 +5,7 @@
 
 #include "entry/smart_fields.h"
 #include "selection/field_defaults.h"
+#include "selection/job_list.h"
 #include "selection/relevant_fields.h"
 
 namespace quillmark {
@@ -37,6 +38,10 @@ const Button* FindButton(const SelectionState& screen, std::string_view name) {
     const auto found = std::find_if(std::begin(kButtons), std::end(kButtons),
                                     [&](const NamedButton& button) { return button.name == name; });
     return found == std::end(kButtons) ? nullptr : &(screen.*(found->button));
+}
+
+bool Lists(const std::vector<std::string>& lines, std::string_view line) {
+    return std::find(lines.begin(), lines.end(), line) != lines.end();
 }
 
 }  // namespace
@@ -75,9 +80,36 @@ void MainScreen::Close() {
 
 void MainScreen::PickDocument(std::string_view line) {
     Require(screen_.List1Enabled, "the choice of documents is closed");
-    Require(std::find(screen_.List1.begin(), screen_.List1.end(), line) != screen_.List1.end(),
-            "List1 has no line \"" + std::string(line) + "\"");
-    AddPickedLine(line, screen_, office_);
+    Require(Lists(screen_.List1, line), "List1 has no line \"" + std::string(line) + "\"");
+    PickLine(line, screen_, office_);
+}
+
+void MainScreen::DropDocument(std::string_view line) {
+    Require(screen_.List2Enabled, "the job list is closed");
+    const auto found = std::find_if(screen_.List2.begin(), screen_.List2.end(),
+                                    [&](const JobListLine& listed) { return listed.name == line; });
+    Require(found != screen_.List2.end(), "List2 has no line \"" + std::string(line) + "\"");
+    DropLine(static_cast<std::size_t>(found - screen_.List2.begin()), screen_, office_);
+}
+
+void MainScreen::SelectLegal(const std::vector<std::string>& lines) {
+    const ListAction action = SelectLegalSize(lines, screen_);
+    Require(action != ListAction::ListDisabled, "the job list is closed");
+    Require(action != ListAction::NoSuchLine, "the job list does not hold all of these lines");
+}
+
+void MainScreen::ClickOption(int n) {
+    RequireOption(n, quillmark::ClickOption(n, screen_, office_));
+}
+
+void MainScreen::DoubleClickOption(int n) {
+    RequireOption(n, quillmark::DoubleClickOption(n, screen_, office_));
+}
+
+void MainScreen::RequireOption(int n, OptionAction action) const {
+    Require(action != OptionAction::NoSuchOption, "there is no option " + std::to_string(n));
+    Require(action != OptionAction::Disabled, "option " + std::to_string(n) + " is disabled");
+    Require(action != OptionAction::Hidden, "option " + std::to_string(n) + " is hidden");
 }
 
 void MainScreen::Require(bool condition, const std::string& otherwise) const {

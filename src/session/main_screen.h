@@ -17,6 +17,7 @@
 #include "platform/machine.h"
 #include "production/create.h"
 #include "selection/office.h"
+#include "selection/option_clicks.h"
 #include "selection/selection_state.h"
 
 /// The main screen without a toolkit: a window shows its state and passes keys and clicks to it; it decides
@@ -36,17 +37,21 @@ struct Machine {
     Dialogs& dialogs;
     Shell& shell;
     HttpClient* http = nullptr;
-    std::function<StartedWord()> startWord;
-    /// Whether another copy of the program runs on this computer and has been brought to the front; null where
-    /// several may run.
+    std::function<word::StartedWordProcessor()> startWord;
+    /// Whether another copy of the program runs on this computer and has been brought to the front; null
+    /// where several may run.
     std::function<bool()> handOver;
     std::filesystem::path programFile;  ///< whose date upgrades are measured by; empty for none
 };
 
+/// The first entry of the template browser: a template that is yet to be made.
+inline constexpr std::string_view kNewTemplateEntry = "* NEW CLIENT-INFO TEMPLATE *";
+
 /// A row of `List3`, the settings list that replaces the grid while the firm's defaults are being set.
 struct SettingsRow {
-    int field = 0;       ///< of a firm default; 0 for settings and blank rows
+    int field = 0;  ///< of a firm default; 0 for settings and blank rows
     std::string text;
+    std::string value;  ///< of a firm default; empty while the firm has set none
 };
 
 /// How a text gets into a field's editor.
@@ -71,13 +76,13 @@ class MainScreen {
 
     // The name box.
     void FocusName();
-    void TypeName(std::string_view text);   ///< key by key, into the empty or selected box
-    void EnterName();                       ///< the Enter key
+    void TypeName(std::string_view text);  ///< key by key, into the empty or selected box
+    void EnterName();                      ///< the Enter key
 
     // The lists and the options.
-    void PickDocument(std::string_view line);                    ///< double click in List1
-    void DropDocument(std::string_view line);                    ///< double click in List2, the first such line
-    void SelectLegal(const std::vector<std::string>& lines);     ///< makes exactly these lines selected
+    void PickDocument(std::string_view line);                 ///< double click in List1
+    void DropDocument(std::string_view line);                 ///< double click in List2, the first such line
+    void SelectLegal(const std::vector<std::string>& lines);  ///< makes exactly these lines selected
     void ClickOption(int n);
     void DoubleClickOption(int n);
 
@@ -149,6 +154,8 @@ class MainScreen {
     std::optional<std::string> AskForName(bool rename);
     bool Rename(const std::string& name);
     void CountAsSaved();
+    void FillList2FromHistory();
+    void ShowAsOpened();
 
     // The settings list (settings_list.cpp).
     void ShowSettings();
@@ -170,6 +177,7 @@ class MainScreen {
     void Mail();
     void Templates();
 
+    void RequireOption(int n, OptionAction action) const;
     void Require(bool condition, const std::string& otherwise) const;
     void Refresh(bool headingsOnly = false);
 

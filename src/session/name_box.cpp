@@ -2,6 +2,7 @@
 
 #include "core/job_file.h"
 #include "core/text_conversions.h"
+#include "platform/code_page.h"
 #include "platform/paths.h"
 #include "session/main_screen.h"
 #include "session/upkeep.h"
@@ -53,7 +54,8 @@ void MainScreen::TypeName(std::string_view text) {
     // The focus has selected an earlier name, which the first key replaces; an incomplete one is completed.
     std::string typed = box.text.ends_with(" - ") ? box.text : std::string();
     for (const char key : text) {
-        if (kIllegalNameCharacters.find(key) != std::string_view::npos || key == '\r' || key == '\n') continue;
+        if (kIllegalNameCharacters.find(key) != std::string_view::npos || key == '\r' || key == '\n')
+            continue;
         typed += key;
         box.text = typed;
         NameChanged();

@@ -103,14 +103,15 @@ void MainScreen::UseFolders(std::string_view client) {
 }
 
 void MainScreen::FillList1() {
-    screen_.List1.clear();
+    PackageFile packages;
     try {
-        screen_.List1 = PackageLines(ReadPackages(folders_));
-    } catch (const std::exception& failure) {
+        packages = ReadPackages(programFolder_);
+        for (const std::string& fault : packages.faults)
+            machine_.dialogs.Tell("", fault, DialogIcon::Warning);
+    } catch (const FileError& failure) {
         machine_.dialogs.Tell("", failure.what(), DialogIcon::Warning);
     }
-    const std::vector<std::string> documents = OfferedDocuments(folders_);
-    screen_.List1.insert(screen_.List1.end(), documents.begin(), documents.end());
+    quillmark::FillList1(packages, folders_, screen_);
 }
 
 void MainScreen::WarnOfEmptyDefaults() {
@@ -178,12 +179,12 @@ void MainScreen::DeleteClient(std::string_view name) {
     Require(choosingClient_, "no client is being chosen");
     const auto client = std::find(clients_.begin() + 1, clients_.end(), name);
     Require(client != clients_.end(), "there is no client \"" + std::string(name) + "\"");
-    const auto answer = machine_.dialogs.Show({" Warning",
-                                               "You are about to permanently delete  " + UpperCase(name) +
-                                                   "  and all associated data.",
-                                               {DialogButton::OK, DialogButton::Cancel},
-                                               DialogButton::Cancel,
-                                               DialogIcon::Warning});
+    const auto answer = machine_.dialogs.Show(
+        {" Warning",
+         "You are about to permanently delete  " + UpperCase(name) + "  and all associated data.",
+         {DialogButton::OK, DialogButton::Cancel},
+         DialogButton::Cancel,
+         DialogIcon::Warning});
     if (answer == DialogButton::Cancel) {
         machine_.dialogs.Tell("", "Action Canceled");
         return;

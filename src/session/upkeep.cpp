@@ -64,10 +64,11 @@ bool RunPatch(const fs::path& programFolder, Shell& shell, Dialogs& dialogs) {
         return false;
     }
     if (!MayChange(programFolder)) {
-        dialogs.Tell(std::string(kRightsTitle),
-                     "The Upgrade Patch performs file operations that require Administrator privileges. Please "
-                     "RE-START by RIGHT-Clicking the shortcut and choosing \"Run As Administrator\"",
-                     DialogIcon::Warning);
+        dialogs.Tell(
+            std::string(kRightsTitle),
+            "The Upgrade Patch performs file operations that require Administrator privileges. Please "
+            "RE-START by RIGHT-Clicking the shortcut and choosing \"Run As Administrator\"",
+            DialogIcon::Warning);
         return true;
     }
     fs::create_directory(started);
@@ -83,10 +84,11 @@ bool OffersUpgrade(const fs::path& programFolder, std::chrono::year_month_day pr
                          "A newer version of Quillmark is available.\nWould you like to upgrade now ???"))
         return false;
     if (!MayChange(programFolder)) {
-        dialogs.Tell(std::string(kRightsTitle),
-                     "The Upgrade Patch performs file operations that require Administrator privileges. Please "
-                     "RE-START by RIGHT-Clicking the shortcut and choosing \"Run As Administrator\"",
-                     DialogIcon::Warning);
+        dialogs.Tell(
+            std::string(kRightsTitle),
+            "The Upgrade Patch performs file operations that require Administrator privileges. Please "
+            "RE-START by RIGHT-Clicking the shortcut and choosing \"Run As Administrator\"",
+            DialogIcon::Warning);
         return true;
     }
     StartUpgrade(programFolder, shell);
@@ -106,10 +108,11 @@ bool RestoresStrandedFiles(const fs::path& programFolder, const fs::path& storeF
         fs::rename(arriving, own);
         fs::remove_all(stored);
     } catch (const fs::filesystem_error&) {
-        dialogs.Tell(std::string(kRightsTitle),
-                     "Administrator privileges are required to complete the Restore operation. Please RE-START by "
-                     "RIGHT-Clicking the shortcut and choosing \"Run As Administrator\"",
-                     DialogIcon::Warning);
+        dialogs.Tell(
+            std::string(kRightsTitle),
+            "Administrator privileges are required to complete the Restore operation. Please RE-START by "
+            "RIGHT-Clicking the shortcut and choosing \"Run As Administrator\"",
+            DialogIcon::Warning);
         return true;
     }
     dialogs.Tell("", "Restore Completed ...\nrestart normally", DialogIcon::Information);

@@ -19,8 +19,8 @@ std::filesystem::path StoreFolderOf(const std::filesystem::path& programFolder, 
 /// Starts the upgrade tool.
 void StartUpgrade(const std::filesystem::path& programFolder, Shell& shell);
 
-/// Runs "PATCH.EXE", if there is one, after a test that the folder may be written. True when the program is to
-/// end.
+/// Runs "PATCH.EXE", if there is one, after a test that the folder may be written. True when the program is
+/// to end.
 bool RunPatch(const std::filesystem::path& programFolder, Shell& shell, Dialogs& dialogs);
 
 /// Offers a newer release: `http` is asked for its date, `programDate` is the program file's. True when the
@@ -29,7 +29,7 @@ bool OffersUpgrade(const std::filesystem::path& programFolder, std::chrono::year
                    HttpClient& http, Shell& shell, Dialogs& dialogs);
 
 /// Brings custom forms back that virtualisation has put aside. True when the program is to end.
-bool RestoresStrandedFiles(const std::filesystem::path& programFolder, const std::filesystem::path& storeFolder,
-                           Dialogs& dialogs);
+bool RestoresStrandedFiles(const std::filesystem::path& programFolder,
+                           const std::filesystem::path& storeFolder, Dialogs& dialogs);
 
 }  // namespace quillmark

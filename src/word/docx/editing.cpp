@@ -259,6 +259,7 @@ void Editor::Erase(const Place& from, const Place& to) {
         CollectStories(*block, containers);
     }
     if (!gone.empty()) {
+        ++removals_;
         marks_.Abandon(gone, containers, from);
         from.blocks->erase(std::next(from.block), to.block);
         sectionsKnown_ = false;
@@ -283,6 +284,7 @@ void Editor::Abandon(Blocks& blocks, const Place& refuge) {
     for (Block& block : blocks) CollectContainers(block, containers);
     marks_.Abandon({}, containers, refuge);
     ForgetObjectPlaces();
+    ++removals_;
     Touch();
 }
 

@@ -27,6 +27,8 @@ class Editor {
     /// Grows with every change through this class, and where `Touch` says so.
     std::uint64_t version() const { return version_; }
     void Touch() { ++version_; }
+    /// Grows whenever whole paragraphs or tables may have gone.
+    std::uint64_t removals() const { return removals_; }
 
     // ---- Places ----
 
@@ -99,6 +101,7 @@ class Editor {
     std::unique_ptr<Document> document_;
     MarkList marks_;
     std::uint64_t version_ = 0;
+    std::uint64_t removals_ = 0;
     std::vector<SectionProperties*> sections_;
     bool sectionsKnown_ = false;
     std::vector<FormFieldPlace> formFields_;

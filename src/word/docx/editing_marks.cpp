@@ -61,9 +61,9 @@ void MarkList::Appended(Blocks::iterator block, Blocks::iterator target, std::si
     });
 }
 
-void MarkList::Rehomed(const Blocks& from, Blocks& to) {
+void MarkList::Rehomed(const Blocks* from, Blocks& to) {
     ForEach([&](Mark& mark) {
-        if (mark.place_.blocks == &from) mark.place_.blocks = &to;
+        if (mark.place_.blocks == from) mark.place_.blocks = &to;
     });
 }
 

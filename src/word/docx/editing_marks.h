@@ -30,7 +30,7 @@ class MarkList {
     /// All of a paragraph now stands at `offset` of another.
     void Appended(Blocks::iterator block, Blocks::iterator target, std::size_t offset);
     /// The paragraphs of one container now stand in another.
-    void Rehomed(const Blocks& from, Blocks& to);
+    void Rehomed(const Blocks* from, Blocks& to);
     /// These blocks, or all that is in these containers, go away; their marks go to `refuge`.
     void Abandon(const std::vector<const Block*>& blocks, const std::vector<const Blocks*>& containers,
                  const Place& refuge);

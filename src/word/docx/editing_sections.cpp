@@ -109,6 +109,7 @@ Place Editor::InsertSectionBreak(const Place& at, int kind) {
 
 void Editor::Reattach() {
     Touch();
+    ++removals_;
     sectionsKnown_ = false;
     ForgetObjectPlaces();
     std::unordered_map<const Block*, Place> places;

@@ -59,9 +59,11 @@ class OpenDocument final : public Shared, public LateBound<OpenDocument> {
 
  private:
     friend struct DocumentMembers;
-    void Save();
-    void SaveAs(const std::string& fileName);
+    void Select(Arguments arguments);
     void Protect(Arguments arguments);
+    void SaveTo(const std::filesystem::path& path);
+    void Save(Arguments arguments);
+    void SaveAs(Arguments arguments);
     void Close(Arguments arguments);
 
     std::weak_ptr<EngineState> engine_;

@@ -14,7 +14,7 @@
 namespace quillmark::word::docx {
 namespace {
 
-constexpr std::int64_t kEmuPerTwip = 635;
+constexpr double kEmuPerTwip = 635;
 
 struct Room {
     int width;
@@ -44,11 +44,13 @@ Picture LoadPicture(const std::filesystem::path& file) {
 }
 
 void FitPicture(Picture& picture, int width, int height) {
-    const double across = static_cast<double>(std::max(width, 1) * kEmuPerTwip) / picture.widthEmu;
-    const double down = static_cast<double>(std::max(height, 1) * kEmuPerTwip) / picture.heightEmu;
+    const auto naturalWidth = static_cast<double>(picture.widthEmu);
+    const auto naturalHeight = static_cast<double>(picture.heightEmu);
+    const double across = std::max(width, 1) * kEmuPerTwip / naturalWidth;
+    const double down = std::max(height, 1) * kEmuPerTwip / naturalHeight;
     const double scale = std::min({across, down, 1.0});
-    picture.widthEmu = std::max<std::int64_t>(std::llround(scale * picture.widthEmu), 1);
-    picture.heightEmu = std::max<std::int64_t>(std::llround(scale * picture.heightEmu), 1);
+    picture.widthEmu = std::max<std::int64_t>(std::llround(scale * naturalWidth), 1);
+    picture.heightEmu = std::max<std::int64_t>(std::llround(scale * naturalHeight), 1);
 }
 
 Place InsertPicture(OpenDocument& document, const Place& place, Picture picture, FormatId format) {

@@ -44,7 +44,7 @@ void MoveText(Editor& editor, TableCell& from, TableCell& to) {
     }
     Paragraph blank;
     blank.format = std::get<Paragraph>(from.blocks.back()).format;
-    editor.marks().Rehomed(from.blocks, to.blocks);
+    editor.marks().Rehomed(&from.blocks, to.blocks);
     to.blocks.splice(to.blocks.end(), from.blocks);
     from.blocks.emplace_back(std::move(blank));
 }
@@ -57,11 +57,11 @@ void JoinRun(Editor& editor, TableRow& row, CellRun run) {
         MoveText(editor, *cell, target);
         target.span += cell->span;
     }
-    const std::size_t before = row.cells.size();
+    // The cells behind move up, and the places in them with them.
+    std::vector<const Blocks*> old;
+    for (auto cell = begin + run.count; cell != row.cells.end(); ++cell) old.push_back(&cell->blocks);
     row.cells.erase(begin + 1, begin + run.count);
-    // The cells behind have moved up, and the places in them with them.
-    for (std::size_t cell = run.first + run.count; cell < before; ++cell)
-        editor.marks().Rehomed(*(&row.cells.front().blocks), row.cells[cell - run.count + 1].blocks);
+    for (std::size_t i = 0; i < old.size(); ++i) editor.marks().Rehomed(old[i], row.cells[run.first + 1 + i].blocks);
 }
 
 }  // namespace

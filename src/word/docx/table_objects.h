@@ -2,9 +2,7 @@
 
 #include <memory>
 
-#include "word/docx/font.h"
 #include "word/docx/open_document.h"
-#include "word/docx/paragraphs.h"
 #include "word/docx/table_borders.h"
 
 /// Tables. Rows and columns count from 1; a cell's column counts the cells of its row, so that cells joined
@@ -49,68 +47,16 @@ class TableObject final : public Shared, public LateBound<TableObject>, public B
     void SetLineStyle(Edges edges, int style) override;
 
  private:
+    class Lines;
     struct Parts;
     Value Cell(Arguments arguments);
-    Value Row(Arguments arguments);
-    Value Column(Arguments arguments);
+    Value Row(std::size_t row);
+    Value Column(std::size_t column);
 
     std::shared_ptr<OpenDocument> document_;
     Table* table_;
-    mutable std::uint64_t checkedAt_ = 0;
-    std::unique_ptr<Parts> parts_;
-};
-
-/// One cell, known by its row and its place in the row.
-class CellObject final : public Shared, public LateBound<CellObject> {
- public:
-    static constexpr const char* kName = "Cell";
-    static const MemberTable<CellObject>& Members();
-
-    CellObject(std::shared_ptr<TableObject> table, std::size_t row, std::size_t column);
-    void CheckAlive() const;
-
- private:
-    TableCell& Data() const;
-    Value Range();
-    void SetVerticalAlignment(const Value& value);
-    void Select();
-    void Merge(Arguments arguments);
-
-    std::shared_ptr<TableObject> table_;
-    std::size_t row_;
-    std::size_t column_;
-};
-
-/// One row: its height (at least so much), shading, borders and the looks of its text.
-class RowObject final : public Shared, public LateBound<RowObject>, public BorderTarget, public TextTarget {
- public:
-    static constexpr const char* kName = "Row";
-    static const MemberTable<RowObject>& Members();
-
-    RowObject(std::shared_ptr<TableObject> table, std::size_t row);
-    ~RowObject() override;
-    void CheckAlive() const override;
-
-    OpenDocument& document() override { return table_->document(); }
-    std::optional<int> LineStyle(Edges edges) override;
-    void SetLineStyle(Edges edges, int style) override;
-
-    ObjectPtr Keep(Object& part) override { return Share(part); }
-    void RequireEditable() override;
-    void ChangeFont(const CharFormat& patch) override;
-    void ForEachFont(const std::function<void(const CharFormat&)>& look) override;
-    void ForEachParagraph(const std::function<void(Paragraph&)>& visit) override;
-
- private:
-    struct Parts;
-    class Text;
-    class Shading;
-    TableRow& Data() const;
-    void ForEachStretchOfRow(const std::function<void(const Stretch&)>& function);
-    void SetHeight(const Value& value);
-
-    std::shared_ptr<TableObject> table_;
-    std::size_t row_;
+    /// Up to which removal of text the table is known to be there.
+    mutable std::uint64_t checkedAt_;
     std::unique_ptr<Parts> parts_;
 };
 

@@ -1,0 +1,215 @@
+#include <algorithm>
+
+#include "core/field_registry.h"
+#include "core/text_conversions.h"
+#include "entry/smart_fields.h"
+#include "platform/code_page.h"
+#include "selection/field_listing.h"
+#include "selection/field_rows.h"
+#include "selection/relevant_fields.h"
+#include "session/main_screen.h"
+
+namespace quillmark {
+
+namespace {
+
+constexpr int kDocumentDate = 1;
+
+std::string TitleOf(int n) {
+    const std::string_view marker = FieldMarker(n);
+    return std::string(marker.substr(1, marker.size() - 2));
+}
+
+/// A text typed key by key into the empty one-line editor.
+std::string TypedText(std::string_view text, std::string_view marker, bool properCase) {
+    EditorText editor;
+    for (std::size_t at = 0; at < text.size();) {
+        std::size_t end = at + 1;
+        while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) ++end;
+        const std::string_view character = text.substr(at, end - at);
+        at = end;
+        if (character == "\"" || character == "\r" || character == "\n") continue;
+        const ProperCaseKey key = ProperCase(editor, character, marker, properCase);
+        editor = key.editor;
+        editor.text += key.character;
+        editor.caret = editor.text.size();
+    }
+    return editor.text;
+}
+
+/// Pasted lines become one line, parted by commas.
+std::string PastedText(std::string_view text, bool severalLines) {
+    std::string pasted;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (severalLines || (text[at] != '\r' && text[at] != '\n')) {
+            pasted += text[at];
+            continue;
+        }
+        if (text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n') ++at;
+        pasted += ", ";
+    }
+    return pasted;
+}
+
+bool IsBlockField(int n) {
+    return n == 201 || n == 202;
+}
+
+/// A value of several lines is kept with CR LF between them.
+std::string WithFileLineEnds(std::string_view text) {
+    std::string lines;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] != '\r' && text[at] != '\n') {
+            lines += text[at];
+            continue;
+        }
+        if (text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n') ++at;
+        lines += "\r\n";
+    }
+    return lines;
+}
+
+}  // namespace
+
+std::size_t MainScreen::RowOf(int n) const {
+    const auto row = std::find_if(screen_.grid.begin(), screen_.grid.end(),
+                                  [&](const GridRow& r) { return r.kind == RowKind::Field && r.n == n; });
+    Require(row != screen_.grid.end(), "field " + std::to_string(n) + " has no row in the grid");
+    return static_cast<std::size_t>(row - screen_.grid.begin());
+}
+
+std::size_t MainScreen::RowOf(std::string_view marker) const {
+    const auto row = std::find_if(screen_.grid.begin(), screen_.grid.end(), [&](const GridRow& r) {
+        return r.kind == RowKind::User && r.label == marker;
+    });
+    Require(row != screen_.grid.end(), "the grid has no row \"" + std::string(marker) + "\"");
+    return static_cast<std::size_t>(row - screen_.grid.begin());
+}
+
+/// What a click on a row does before its editor opens.
+void MainScreen::OpenRow(std::size_t row) {
+    const NameBox& box = screen_.txtJobName;
+    if (screen_.ScreenMode == screen_mode::kPresets && box.text.empty()) {
+        machine_.dialogs.Tell(" No file name given", "You must provide a file name before proceeding",
+                              DialogIcon::Warning);
+        throw NotAllowed("the template has no name yet");
+    }
+    if (screen_.grid[row].locked) {
+        screen_.picInfo = " Locked field, Double-Click to open for edit";
+        throw NotAllowed("the field is locked");
+    }
+    const bool isNewJob = screen_.ScreenMode == screen_mode::kJob && !box.locked;
+    if (isNewJob && box.enabled && !box.IsSaveable()) {
+        const auto answer = machine_.dialogs.Show({"  Notice",
+                                                   "No filename was given, information will NOT be saved.",
+                                                   {DialogButton::OK, DialogButton::Cancel},
+                                                   DialogButton::OK,
+                                                   DialogIcon::Information});
+        if (answer == DialogButton::Cancel) {
+            FocusName();
+            throw NotAllowed("the job has no name yet");
+        }
+    }
+    BeginFieldEntry();
+    screen_.currentRow = static_cast<int>(row);
+    const int n = screen_.grid[row].n;
+    screen_.picInfo = FieldDescription(n, screen_.job);
+    const int group = GroupOfKey(screen_.grid[row].key);
+    for (std::size_t i = 1; i < screen_.lblJump.size(); ++i)
+        screen_.lblJump[i].current = static_cast<int>(i) == group;
+}
+
+std::string MainScreen::Commit(std::size_t row, std::string_view text) {
+    if (const auto missing = FirstUnencodable(text))
+        throw NotAllowed("the character \"" + std::string(missing->character) +
+                         "\" can be kept in no data file");
+    const int n = screen_.grid[row].n;
+    const std::string before = n > 0 ? screen_.job.D(n) : screen_.grid[row].value;
+    try {
+        UpdateListing(n, text, screen_, office_);
+    } catch (const BadFieldInput& bad) {
+        machine_.dialogs.Tell(TitleOf(bad.field()), "BAD INPUT\nPlease try a different format.",
+                              DialogIcon::Warning);
+        UpdateListing(bad.field(), "", screen_, office_);
+    }
+    const std::string after = n > 0 ? screen_.job.D(n) : screen_.grid[row].value;
+    if (after != before && n != kDocumentDate) FieldChanged();
+    Advance(row);
+    return after;
+}
+
+void MainScreen::FieldChanged() {
+    if (!screen_.txtJobName.IsSaveable()) return;
+    if (screen_.cmdCreate.caption != "Re-Make") screen_.cmdCreate.caption = "CREATE\n+save";
+    const bool edits = screen_.ScreenMode == screen_mode::kEdit;
+    screen_.cmdOpen = {"SAVE", edits ? " save changes " : " save data only (no docs) ", true, true};
+    screen_.cmdPrintFList.visible = false;
+    if (!screen_.txtJobName.locked) return;
+    screen_.cmdNameAs.caption = "Name As";
+    screen_.cmdNameAs.enabled = screen_.cmdNameAs.visible = true;
+}
+
+/// The highlight goes to the next row below that is no heading; in a template it stays.
+void MainScreen::Advance(std::size_t row) {
+    if (screen_.ScreenMode == screen_mode::kPresets) {
+        screen_.picInfo.clear();
+        return;
+    }
+    for (std::size_t next = row + 1; next < screen_.grid.size(); ++next) {
+        if (screen_.grid[next].kind == RowKind::Heading) continue;
+        screen_.currentRow = static_cast<int>(next);
+        if (!screen_.grid[next].locked) screen_.picInfo = FieldDescription(screen_.grid[next].n, screen_.job);
+        return;
+    }
+}
+
+std::string MainScreen::EnterField(int n, std::string_view text, EntryWay way) {
+    const std::size_t row = RowOf(n);
+    OpenRow(row);
+    std::string entered(text);
+    if (way == EntryWay::Type && !IsBlockField(n))
+        entered = TypedText(text, FieldMarker(n), settings_.properCase);
+    if (way == EntryWay::Paste) entered = PastedText(text, IsBlockField(n));
+    return Commit(row, IsBlockField(n) ? WithFileLineEnds(entered) : entered);
+}
+
+std::string MainScreen::EnterUserField(std::string_view marker, std::string_view text, EntryWay way) {
+    const std::size_t row = RowOf(marker);
+    OpenRow(row);
+    const bool typed = way == EntryWay::Type;
+    return Commit(row, typed ? TypedText(text, marker, settings_.properCase) : PastedText(text, false));
+}
+
+std::string MainScreen::TypeInEditor(int n, std::string_view text) {
+    OpenRow(RowOf(n));
+    return IsBlockField(n) ? std::string(text) : TypedText(text, FieldMarker(n), settings_.properCase);
+}
+
+void MainScreen::UnlockRow(int n) {
+    GridRow& row = screen_.grid[RowOf(n)];
+    Require(row.locked, "the field is not locked");
+    if (!machine_.dialogs.Confirm(std::string(FieldMarker(n)) + " ", "Unlock this field\n      for edit ?")) {
+        screen_.picInfo = " action canceled";
+        return;
+    }
+    SetRowState(row, "OFF", screen_);
+    OpenRow(RowOf(n));
+}
+
+std::string MainScreen::ClickNote(int n, int column) {
+    const GridRow& row = screen_.grid[RowOf(n)];
+    Require(column == 2 || column == 3, "note cells stand in columns 2 and 3");
+    Require(!row.notes[static_cast<std::size_t>(column - 2)].empty(), "the row has no such note cell");
+    throw NotAllowed("tags cannot be changed by their cells in this version");
+}
+
+void MainScreen::ClickJumpLabel(int group) {
+    Require(group >= 1 && group <= 6, "jump labels are numbered from 1 to 6");
+    const JumpLabel& label = screen_.lblJump[static_cast<std::size_t>(group)];
+    Require(label.enabled, "the group has no rows");
+    screen_.currentRow = label.headingRow;
+    for (std::size_t i = 1; i < screen_.lblJump.size(); ++i)
+        screen_.lblJump[i].current = static_cast<int>(i) == group;
+}
+
+}  // namespace quillmark
