@@ -92,23 +92,31 @@ void RunEngine(const std::vector<std::string>& texts, const fs::path& file) {
 
 constexpr std::string_view kSpace = "http://schemas.openxmlformats.org/wordprocessingml/2006/main";
 
+std::string Look(std::string_view bold) {
+    return fmt::format(
+        "<w:rPr><w:rFonts w:ascii=\"{0}\" w:eastAsia=\"{0}\" w:hAnsi=\"{0}\" w:cs=\"{0}\"/>{1}"
+        "<w:sz w:val=\"22\"/><w:szCs w:val=\"22\"/></w:rPr>",
+        "Times New Roman", bold);
+}
+
 void AppendRun(std::string& xml, std::string_view text, std::string_view look) {
-    xml +=
-        "<w:r><w:rPr><w:rFonts w:ascii=\"Times New Roman\" w:eastAsia=\"Times New Roman\" "
-        "w:hAnsi=\"Times New Roman\" w:cs=\"Times New Roman\"/>";
+    xml += "<w:r>";
     xml += look;
-    xml += "<w:sz w:val=\"22\"/><w:szCs w:val=\"22\"/></w:rPr><w:t xml:space=\"preserve\">";
+    xml += "<w:t xml:space=\"preserve\">";
     xml += text;
     xml += "</w:t></w:r>";
 }
 
 std::string DocumentXml(const std::vector<std::string>& texts) {
+    const std::string bold = Look("<w:b/>"), notBold = Look("<w:b w:val=\"0\"/>");
     std::string xml = fmt::format("<w:document xmlns:w=\"{}\"><w:body>", kSpace);
     for (std::size_t run = 0; run < texts.size(); run += kRuns) {
-        xml += "<w:p><w:pPr><w:jc w:val=\"both\"/></w:pPr>";
-        AppendRun(xml, texts[run], "");
-        AppendRun(xml, texts[run + 1], "<w:b/>");
-        AppendRun(xml, texts[run + 2], "<w:b w:val=\"0\"/>");
+        xml += "<w:p><w:pPr><w:jc w:val=\"both\"/>";
+        xml += notBold;
+        xml += "</w:pPr>";
+        AppendRun(xml, texts[run], notBold);
+        AppendRun(xml, texts[run + 1], bold);
+        AppendRun(xml, texts[run + 2], notBold);
         xml += "</w:p>";
     }
     return xml + "</w:body></w:document>";

@@ -6,7 +6,7 @@
 
 #include "core/field_registry.h"
 #include "core/job.h"
-#include "production/document_catalogue.h"
+#include "selection/document_catalogue.h"
 
 namespace quillmark::cli {
 

@@ -10,7 +10,7 @@
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
 #include "production/create.h"
-#include "production/document_catalogue.h"
+#include "selection/document_catalogue.h"
 #include "production/pdf.h"
 #include "word/start.h"
 #include "word/trace.h"
@@ -91,7 +91,8 @@ class MakeRun {
         Job job;
         for (const std::string& refused : ReadJob(source, folders_, defaults_, job))
             Complain(word + ": " + refused);
-        const fs::path document = fs::absolute(order_.out) / PathOf(job.name + "_QMF.docx");
+        const fs::path document =
+            (fs::absolute(order_.out) / PathOf(job.name + "_QMF.docx")).lexically_normal();
         if (!written_.insert(document).second)
             throw std::runtime_error("another job of this run has the same name and has written " +
                                      TextOf(document));
@@ -141,7 +142,9 @@ class MakeRun {
     }
 
     void Fail(const std::string& word, const std::string& why) {
-        Complain(word + ": " + why);
+        // Errors about the file begin with it.
+        const bool named = why.starts_with(word + ":") || why.starts_with(word + ",");
+        Complain(named ? why : word + ": " + why);
         failed_.push_back(word);
     }
 

@@ -73,7 +73,8 @@ void OriginalTrustee(Job& job, int n) {
 }
 
 void SellerAttorney(Job& job, std::string_view choices) {
-    // Part 2 holds the name that the juris number belongs to, so that a second run keeps the number.
+    // The second derived value holds the name that the juris number belongs to, so that a second run keeps
+    // the number.
     constexpr int kAttorney = 3;
     constexpr int kNameOfNumber = 2003;
     const std::string value = job.D(kAttorney);

@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "production/builder_list.h"
-#include "production/document_catalogue.h"
+#include "selection/document_catalogue.h"
 
 namespace quillmark {
 

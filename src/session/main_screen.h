@@ -70,6 +70,7 @@ class MainScreen {
     bool SettingsListShown() const { return !List3_.empty(); }
     const Folders& OfficeFolders() const { return folders_; }
     const Settings& OfficeSettings() const { return settings_; }
+    const Office& OfficeAround() const { return office_; }
     const std::vector<std::string>& Clients() const { return clients_; }
 
     // Every command below throws NotAllowed where the screen would not take it.
@@ -97,6 +98,8 @@ class MainScreen {
 
     /// A click on a button of the main screen by its control name, such as "cmdCreate".
     void Click(std::string_view button);
+    /// After the package editor: `List1` offers the packages as they are now.
+    void LeavePackages() { FillList1(); }
     /// The lines that the window's close box runs: as EXIT.
     void Close();
 

@@ -37,7 +37,7 @@ std::string Decimal(double number) {
 
 // ---- What the whole trace knows ----
 
-/// A document that a call gave. Documents are numbered by their order in the recorder's list.
+/// A document that a call gave.
 struct KnownDocument {
     ObjectPtr object;
 };
@@ -65,7 +65,7 @@ class Recorder {
     std::function<void(std::string_view)> line_;
     std::size_t written_ = 0;
     int keptRanges_ = 0;
-    std::vector<KnownDocumentPtr> documents_;
+    std::vector<KnownDocumentPtr> documents_;  ///< the latest opened first, as the word processor counts
     KnownDocumentPtr active_;
 };
 
@@ -73,7 +73,7 @@ KnownDocumentPtr Recorder::Opened(const ObjectPtr& object) {
     active_ = Find(object, {});
     if (!active_) {
         active_ = std::make_shared<KnownDocument>(KnownDocument{object});
-        documents_.push_back(active_);
+        documents_.insert(documents_.begin(), active_);
     }
     return active_;
 }
@@ -98,7 +98,7 @@ void Recorder::Called(const KnownDocumentPtr& document, std::string_view method)
     if (method == "Select" || method == "Activate") active_ = document;
     if (method != "Close") return;
     std::erase(documents_, document);
-    if (active_ == document) active_ = documents_.empty() ? nullptr : documents_.back();
+    if (active_ == document) active_ = documents_.empty() ? nullptr : documents_.front();
 }
 
 // ---- Objects ----

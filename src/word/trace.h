@@ -21,7 +21,8 @@ namespace quillmark::word {
 /// description behind `!`, and the error goes on to the caller.
 ///
 /// How objects are named that have no fixed path:
-/// - a document that a call gave: `ActiveDocument` while it is, else `Documents(n)` in the order of opening;
+/// - a document that a call gave: `ActiveDocument` while it is, else `Documents(n)`, the latest opened being
+/// 1;
 /// - what else a collection's `Add` gave: its place in the collection, `ActiveDocument.Tables(1)`;
 /// - a range taken from the selection: `Selection.Range` while nothing else was done since, afterwards
 ///   `Range(k)`, numbered in the order in which ranges came to be kept this way.

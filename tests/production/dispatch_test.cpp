@@ -5,7 +5,7 @@
 #include <set>
 
 #include "production/builder_list.h"
-#include "production/document_catalogue.h"
+#include "selection/document_catalogue.h"
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
 

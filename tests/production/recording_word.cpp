@@ -88,7 +88,7 @@ static std::string Shown(const Value& value) {
     if (const auto* flag = std::get_if<bool>(&value)) return *flag ? "True" : "False";
     if (const auto* whole = std::get_if<std::int32_t>(&value)) return fmt::format("{}", *whole);
     if (const auto* real = std::get_if<double>(&value)) return fmt::format("{:g}", *real);
-    if (const auto* text = std::get_if<std::string>(&value)) return "\"" + Escaped(*text) + "\"";
+    if (const auto* text = std::get_if<std::string>(&value)) return fmt::format("\"{}\"", Escaped(*text));
     return "";
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <chrono>
 #include <string>
 #include <string_view>
@@ -16,8 +18,8 @@ namespace quillmark::test {
 
 using Names = std::vector<std::string>;
 
-/// A screen in its first state with a typed name, in an office of its own. A box that a test did not expect
-/// fails the test.
+/// A screen in its first state with a typed name, in an office of its own. Boxes that the test has not asked
+/// for by the end fail it.
 class Desk {
  public:
     explicit Desk(std::string_view name = "Smith - 101 Any Street") {
@@ -26,6 +28,8 @@ class Desk {
         settings.documentAlerts = false;
         StartAnew(name);
     }
+
+    ~Desk() { EXPECT_TRUE(dialogs.Shown().empty()) << dialogs.Shown().front().text; }
 
     void StartAnew(std::string_view name) {
         screen = {};
@@ -80,7 +84,7 @@ class Desk {
     Folders folders;
     FirmDefaults firmDefaults;
     FixedClock clock{std::chrono::year(2021) / 7 / 1};
-    ScriptedDialogs dialogs{{}, ScriptedDialogs::WhenUnanswered::Fail};
+    ScriptedDialogs dialogs;
     Office office{settings, folders, firmDefaults, clock, dialogs};
     SelectionState screen;
 };

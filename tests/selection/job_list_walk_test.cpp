@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <initializer_list>
-#include <map>
 #include <random>
 
 #include "job_list_desk.h"
@@ -10,12 +9,16 @@
 namespace quillmark::test {
 namespace {
 
+/// Documents that rules add. The walk never picks one that is there, so no rule may double it.
+constexpr std::string_view kCompanions[] = {kPrivacyPolicy, kCfpbAddendum, kBridgeportClosingLetter,
+                                            kTrusteesAffidavit, kChroNotice};
+
 /// A user without a plan: picks, drops, option clicks and double-clicks, sometimes in an opened job.
 class Walk {
  public:
     explicit Walk(unsigned seed) : random_(seed), seed_(seed) {
-        desk_.dialogs = ScriptedDialogs({}, ScriptedDialogs::WhenUnanswered::TakeDefault);
-        SavePackage(desk_.scratch.path(), {"ANY", {"Deed / Quitclaim", "SMS Cover Letter", "CFPB Addendum"}}, {});
+        SavePackage(desk_.scratch.path(), {"ANY", {"Deed / Quitclaim", "SMS Cover Letter", "CFPB Addendum"}},
+                    {});
         Restart();
     }
 
@@ -23,12 +26,24 @@ class Walk {
         before_ = desk_.List();
         parkedBefore_ = Parked();
         switch (Below(20)) {
-            case 0: return Restart();
-            case 1: return Edit();
-            case 2: case 3: case 4: return Drop();
-            case 5: case 6: case 7: case 8: return Click();
-            case 9: case 10: return DoubleClick();
-            default: return Pick();
+            case 0:
+                return Restart();
+            case 1:
+                return Edit();
+            case 2:
+            case 3:
+            case 4:
+                return Drop();
+            case 5:
+            case 6:
+            case 7:
+            case 8:
+                return Click();
+            case 9:
+            case 10:
+                return DoubleClick();
+            default:
+                return Pick();
         }
     }
 
@@ -51,14 +66,14 @@ class Walk {
         if (desk_.screen.List2.empty()) return;
         action_ = "edit";
         desk_.Edit();
-        RefreshOnce();
         Check();
     }
-    void RefreshOnce() { desk_.screen.optionChangesSuppressed = false; }
 
     void Pick() {
         const auto& offered = desk_.screen.List1;
         const std::string line = offered[Below(offered.size())];
+        const bool doubled = std::count(std::begin(kCompanions), std::end(kCompanions), line) > 0;
+        if (doubled && HoldsLine(line, desk_.screen)) return;
         action_ = "pick " + line;
         const bool open = desk_.screen.List1Enabled;
         EXPECT_EQ(desk_.Pick(line), open ? ListAction::Done : ListAction::ListDisabled);
@@ -77,6 +92,7 @@ class Walk {
         action_ = "click " + std::to_string(n);
         desk_.dialogs.SetAnswers({Below(2) == 0 ? "Yes" : "No"});
         Attempt(n, [&] { return desk_.Click(n); });
+        desk_.Boxes();
         if (n != PowerOfAttorney && n != EstateTrust) ExpectNothingLost();
     }
     void DoubleClick() {
@@ -115,27 +131,26 @@ class Walk {
         const SelectionState& screen = desk_.screen;
         for (const std::initializer_list<int> group :
              {std::initializer_list<int>{1, 2}, {3, 4}, {5, 6}, {7, 8}, {9, 10, 13}, {11, 12}, {14, 15}})
-            EXPECT_LE(std::count_if(group.begin(), group.end(), [&](int n) { return screen.job.optConf(n); }), 1)
+            EXPECT_LE(std::count_if(group.begin(), group.end(), [&](int n) { return screen.job.optConf(n); }),
+                      1)
                 << Where();
         for (const auto& list : screen.ParkedDocuments) EXPECT_LE(list.size(), kParkingSlots) << Where();
         EXPECT_EQ(screen.List2Tooltip.empty(), screen.List2.empty()) << Where();
         ExpectDocumentsAgree();
     }
 
-    /// One deed at most, and direct payoffs never beside the secondary market service's.
+    /// One deed at most, direct payoffs never beside the secondary market service's, no companion twice.
     void ExpectDocumentsAgree() {
         using enum DocumentTrait;
         const Names list = desk_.List();
         const auto count = [&](DocumentTrait any) {
-            return std::count_if(list.begin(), list.end(), [any](const auto& name) { return HasTrait(name, any); });
+            return std::count_if(list.begin(), list.end(),
+                                 [any](const auto& name) { return HasTrait(name, any); });
         };
         EXPECT_LE(count(PlainDeed | FiduciaryDeed), 1) << Where();
         EXPECT_TRUE(count(SmsPayoff) == 0 || count(DirectPayoff) == 0) << Where();
-        for (const std::string_view name : {kPrivacyPolicy, kCfpbAddendum, kBridgeportClosingLetter, kTrusteesAffidavit,
-                                            kChroNotice})
-            EXPECT_LE(std::count(list.begin(), list.end(), name),
-                      std::max<std::ptrdiff_t>(1, std::count(before_.begin(), before_.end(), name) + 1))
-                << Where();
+        for (const std::string_view name : kCompanions)
+            EXPECT_LE(std::count(list.begin(), list.end(), name), 1) << Where() << ": " << name;
     }
 
     std::string Where() const { return "seed " + std::to_string(seed_) + " after " + action_; }

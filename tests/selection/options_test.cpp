@@ -15,16 +15,19 @@ constexpr const char* kFairHousing =
 
 TEST(Options, WhatASellerKindLeavesOutComesBackAtTheEnd) {
     Desk desk;
-    desk.PickAll({"1099 Seller Certification", "Resolution / Corporate", "Deed / Warranty", "Secretary’s Certificate / Corporate"});
+    desk.PickAll({"1099 Seller Certification", "Resolution / Corporate", "Deed / Warranty",
+                  "Secretary’s Certificate / Corporate"});
     EXPECT_EQ(desk.Click(Entity), OptionAction::Done);
-    EXPECT_THAT(desk.List(), ElementsAre("Resolution / Corporate", "Deed / Warranty", "Secretary’s Certificate / Corporate"));
+    EXPECT_THAT(desk.List(), ElementsAre("Resolution / Corporate", "Deed / Warranty",
+                                         "Secretary’s Certificate / Corporate"));
     EXPECT_FALSE(desk.screen.List1Enabled || desk.screen.List2Enabled);
     EXPECT_FALSE(desk.screen.job.optConf(Person));
 
     desk.Click(Person);
     EXPECT_THAT(desk.List(), ElementsAre("Deed / Warranty", "1099 Seller Certification"));
     desk.Click(Entity);
-    EXPECT_THAT(desk.List(), ElementsAre("Deed / Warranty", "Resolution / Corporate", "Secretary’s Certificate / Corporate"));
+    EXPECT_THAT(desk.List(), ElementsAre("Deed / Warranty", "Resolution / Corporate",
+                                         "Secretary’s Certificate / Corporate"));
 }
 
 TEST(Options, CommercialParksUntilAnotherPropertyTypeOrNone) {
@@ -33,7 +36,8 @@ TEST(Options, CommercialParksUntilAnotherPropertyTypeOrNone) {
     desk.Click(Commercial);
     EXPECT_THAT(desk.List(), ElementsAre("Closing Statement"));
     desk.Click(Condo);
-    EXPECT_THAT(desk.List(), ElementsAre("Closing Statement", "Smoke Detector Affidavit", "1099 Seller Certification"));
+    EXPECT_THAT(desk.List(),
+                ElementsAre("Closing Statement", "Smoke Detector Affidavit", "1099 Seller Certification"));
     desk.Click(Commercial);
     desk.DoubleClick(Commercial);
     EXPECT_EQ(desk.List().size(), 3u);
@@ -47,7 +51,8 @@ TEST(Options, NoPayoffsParksEveryPayoffDocument) {
     EXPECT_THAT(desk.List(), ElementsAre("Deed / Warranty"));
     EXPECT_FALSE(desk.screen.job.optConf(OnePayoff) || desk.screen.job.optConf(TwoPayoffs));
     desk.ForceClick(TwoPayoffs);
-    EXPECT_THAT(desk.List(), ElementsAre("Deed / Warranty", "Mortgage Payoff Notification", "SMS Cover Letter"));
+    EXPECT_THAT(desk.List(),
+                ElementsAre("Deed / Warranty", "Mortgage Payoff Notification", "SMS Cover Letter"));
 }
 
 TEST(Options, AnEleventhParkedDocumentIsRefusedWithNothingChanged) {
@@ -129,7 +134,8 @@ TEST(Options, InterlocksHideAndBringBackInAnOpenedJobOnly) {
     desk.Pick("Owner's Affidavit");
     desk.Edit();
     desk.Click(Entity);
-    for (const int n : {TwoSellers, PowerOfAttorney, EstateTrust}) EXPECT_EQ(desk.Click(n), OptionAction::Hidden);
+    for (const int n : {TwoSellers, PowerOfAttorney, EstateTrust})
+        EXPECT_EQ(desk.Click(n), OptionAction::Hidden);
     desk.Click(Person);
     EXPECT_EQ(desk.Click(TwoSellers), OptionAction::Done) << "what was excluded can be chosen again";
     EXPECT_EQ(desk.Click(Entity), OptionAction::Hidden);
@@ -165,8 +171,12 @@ TEST(Options, ChangesCountOnceAJobCanBeSaved) {
         EXPECT_FALSE(desk.screen.cmdOpen.enabled) << name;
     }
     desk.StartAnew("Jones");
-    desk.Edit();
+    desk.Pick("Deed / Warranty");
+    desk.screen.txtJobName.locked = true;
     desk.Click(TwoBuyers);
+    EXPECT_FALSE(desk.screen.cmdOpen.enabled) << "an opened job is saved by way of EDIT";
+    desk.Edit();
+    desk.DoubleClick(OnePayoff);
     EXPECT_TRUE(desk.screen.cmdOpen.enabled);
     EXPECT_EQ(desk.screen.cmdOpen.tooltip, " save changes ");
 }
@@ -192,7 +202,8 @@ TEST(Options, SellerKindRebuildsNamesAndTaxIdentifiers) {
     desk.screen.job.SetField(21, "Acme Homes");
     desk.screen.job.SetField(26, "12-3456789");
     desk.screen.job.SetField(32, "123-45-6789");
-    desk.screen.job.SetChangeRule([&](Job& job, int n) { written.push_back(std::to_string(n) + ":" + job.D(n)); });
+    desk.screen.job.SetChangeRule(
+        [&](Job& job, int n) { written.push_back(std::to_string(n) + ":" + job.D(n)); });
     desk.Click(Person);
     EXPECT_EQ(desk.screen.job.D(26), "123456789");
     EXPECT_EQ(desk.screen.job.D(32), "123-45-6789") << "has the form of a person's already";

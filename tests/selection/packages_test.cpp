@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "job_list_desk.h"
+#include "platform/atomic_file.h"
 #include "platform/code_page.h"
 #include "selection/package_editor.h"
 
@@ -31,7 +32,8 @@ TEST(Packages, TheBytesAreQuotedLinesOfTheCodePage) {
     SavePackage(desk.scratch.path(), {"EMPTY", {}}, {});
     EXPECT_EQ(ReadBytes(desk.scratch / "package.def"),
               "\"<01>ONE\"\r\n\"Secretary\x92s Certificate / Corporate\"\r\n\"<00>EMPTY\"\r\n");
-    EXPECT_THAT(PackageDocuments(desk.scratch.path(), "ONE"), ElementsAre("Secretary’s Certificate / Corporate"));
+    EXPECT_THAT(PackageDocuments(desk.scratch.path(), "ONE"),
+                ElementsAre("Secretary’s Certificate / Corporate"));
 
     SavePackage(desk.scratch.path(), {"ONE", {"Schedule A", "Schedule A"}}, "ONE");
     EXPECT_EQ(ReadBytes(desk.scratch / "package.def"),
@@ -87,7 +89,7 @@ TEST(Packages, LinesOfNoPackageStayByteForByte) {
               "\"Stray Line\"\n\n\"<03>SHORT\"\r\n\"Deed / Warranty\"\r\nnot quoted\r\n\"<1>BAD HEADER\"\r\n"
               "\"Lost\"\r\n\"Left Over\"\r\n\"<00>NEW\"\r\n");
     EXPECT_EQ(WithPackage("\"<00>A\"", {"B", {}}), "\"<00>A\"\r\n\"<00>B\"\r\n");
-    const std::string noText("\"<02>A\"\r\n\"\0\"\r\n\x81\r\n", 18);
+    const std::string noText("\"<02>A\"\r\n\"\0\"\r\n\x81\r\n", 17);
     EXPECT_EQ(PackagesOf("p", noText).faults.size(), 2u);
     EXPECT_EQ(WithoutPackage(noText, "B"), noText);
 }
@@ -122,14 +124,20 @@ TEST(PackageEditor, SavesPicksRenamesAndDeletes) {
     EXPECT_TRUE(editor.Delete());
     EXPECT_THAT(Shown(ReadPackages(desk.scratch.path())), ElementsAre("SALE: Deed / Trustee"));
     EXPECT_EQ(editor.State().Combo1Text, "NEW PACKAGE");
+    editor.AddDocument("Privacy Policy");
+    editor.TypeName("SALE");
+    EXPECT_THAT(editor.State().List2, ElementsAre("Privacy Policy")) << "a changed list is not thrown away";
+    EXPECT_TRUE(editor.Save());
+    EXPECT_THAT(Shown(ReadPackages(desk.scratch.path())), ElementsAre("SALE: Privacy Policy"));
+    editor.PickPackage(0);
     EXPECT_FALSE(editor.Delete());
 }
 
 TEST(PackageEditor, KeepsTheExclusionsOfTheJobList) {
     Desk desk;
     PackageEditor editor(desk.screen, desk.office);
-    for (const char* line : {"Deed / Trustee", "Trustee's Affidavit", "Schedule A", "SMS Cover Letter", "CFPB Addendum",
-                             "Mortgage Payoff Transmittal", "Deed / Warranty"})
+    for (const char* line : {"Deed / Trustee", "Trustee's Affidavit", "Schedule A", "SMS Cover Letter",
+                             "CFPB Addendum", "Mortgage Payoff Transmittal", "Deed / Warranty"})
         editor.AddDocument(line);
     EXPECT_THAT(editor.State().List2,
                 ElementsAre("Schedule A", "Mortgage Payoff Transmittal", "CFPB Addendum", "Deed / Warranty"));
@@ -181,6 +189,7 @@ TEST(PackageEditor, AsksBeforeChangesAreLeftBehind) {
     editor.AddDocument("Schedule A");
     desk.dialogs.SetAnswers({"Yes"});
     EXPECT_FALSE(editor.Leave()) << "there is no name to save under";
+    EXPECT_EQ(desk.Boxes().size(), 2u);
 }
 
 TEST(PackageEditor, TellsOfLinesThatItCannotUse) {

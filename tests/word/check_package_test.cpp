@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "word/docx/document_writer.h"
 #include "word/writer_samples.h"
 
@@ -140,6 +142,21 @@ TEST(PackageCheck, BytesThatAreNoPackageGiveAFinding) {
     test::Parts parts = test::Unzip(good);
     parts["word/settings.xml"] = deep + "</a>";
     EXPECT_THAT(CheckPackage(test::Zip(parts)), Contains(HasSubstr("nested too deeply")));
+}
+
+TEST(PackageCheck, NoBytesWhateverMakeItFail) {
+    std::mt19937 random(11);
+    const std::string good = WriteDocx(*test::SampleDocument());
+    const test::Parts parts = test::Unzip(good);
+    for (int round = 0; round < 200; ++round) {
+        std::string bytes = good;
+        for (int n = 0; n < 8; ++n) bytes[random() % bytes.size()] = static_cast<char>(random());
+        EXPECT_NO_THROW(CheckPackage(bytes)) << round;
+        test::Parts damaged = parts;
+        std::string& xml = damaged.at(round % 2 ? kDocument : kNumbering);
+        xml.erase(random() % xml.size(), random() % 200);
+        EXPECT_NO_THROW(CheckPackage(test::Zip(damaged))) << round;
+    }
 }
 
 }  // namespace

@@ -5,10 +5,9 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <functional>
-
 #include "word/com_clipboard.h"
 #include "word/com_text.h"
+#include "word/engine_session.h"
 #include "word/start.h"
 #include "word/word.h"
 
@@ -16,15 +15,6 @@ namespace quillmark::word {
 namespace {
 
 // The automation of Windows is tried on the servers that every Windows has.
-
-int RefusalOf(const std::function<void()>& operation) {
-    try {
-        operation();
-    } catch (const AutomationError& refusal) {
-        return refusal.number();
-    }
-    return 0;
-}
 
 Value Call(const ObjectPtr& object, std::string_view member, std::initializer_list<Argument> arguments) {
     return object->Call(member, Arguments(arguments.begin(), arguments.size()));
@@ -60,7 +50,10 @@ TEST(ComObject, ObjectsArePassedOn) {
     const Value back = outer->Get("Item", Arguments(&key, 1));
     EXPECT_EQ(ToWhole(std::get<ObjectPtr>(back)->Get("Count")), 1);
     const auto engine = docx::StartEngine();
-    EXPECT_EQ(RefusalOf([&] { Call(outer, "Add", {{Text("foreign")}, {engine}}); }), error::kTypeMismatch);
+    EXPECT_EQ(test::ErrorOf([&] {
+                  Call(outer, "Add", {{Text("foreign")}, {engine}});
+              }),
+              error::kTypeMismatch);
 }
 
 TEST(ComObject, ArgumentsKeepTheirOrderAndTheirNames) {
@@ -76,10 +69,10 @@ TEST(ComObject, RefusalsBearTheirNumbers) {
     const ObjectPtr dictionary = CreateComObject("Scripting.Dictionary");
     const auto add = [&] { Call(dictionary, "Add", {{Text("key")}, {true}}); };
     add();
-    EXPECT_EQ(RefusalOf(add), 457);
-    EXPECT_EQ(RefusalOf([&] { dictionary->Call("NoSuchThing"); }), error::kNoSuchMember);
-    EXPECT_EQ(RefusalOf([&] { dictionary->Get("NoSuchThing"); }), error::kNoSuchMember);
-    EXPECT_EQ(RefusalOf([] { CreateComObject("No.Such.Class"); }), error::kCannotCreate);
+    EXPECT_EQ(test::ErrorOf(add), 457);
+    EXPECT_EQ(test::ErrorOf([&] { dictionary->Call("NoSuchThing"); }), error::kNoSuchMember);
+    EXPECT_EQ(test::ErrorOf([&] { dictionary->Get("NoSuchThing"); }), error::kNoSuchMember);
+    EXPECT_EQ(test::ErrorOf([] { CreateComObject("No.Such.Class"); }), error::kCannotCreate);
 }
 
 TEST(SystemClipboard, HoldsTextsAndRefusesWhatIsNoPicture) {
@@ -93,7 +86,7 @@ TEST(SystemClipboard, HoldsTextsAndRefusesWhatIsNoPicture) {
     EXPECT_FALSE(IsClipboardFormatAvailable(CF_UNICODETEXT));
     clipboard.SetPicture(std::string("\x89PNG\r\n\x1a\n", 8));
     EXPECT_TRUE(IsClipboardFormatAvailable(RegisterClipboardFormatW(L"PNG")));
-    EXPECT_EQ(RefusalOf([&] { clipboard.SetPicture("GIF89a"); }), error::kBadValue);
+    EXPECT_EQ(test::ErrorOf([&] { clipboard.SetPicture("GIF89a"); }), error::kBadValue);
 }
 
 }  // namespace

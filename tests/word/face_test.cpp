@@ -2,20 +2,12 @@
 
 #include <optional>
 
+#include "word/engine_session.h"
 #include "word/scripted_object.h"
 #include "word/word.h"
 
 namespace quillmark::word {
 namespace {
-
-int RefusalOf(const std::function<void()>& operation) {
-    try {
-        operation();
-    } catch (const AutomationError& refusal) {
-        return refusal.number();
-    }
-    return 0;
-}
 
 std::string TextIn(const test::ScriptedPtr& object) {
     return std::get<std::string>(object->Last("Text"));
@@ -59,12 +51,12 @@ TEST(Face, ACopyOfAMemberHoldsItsObjectWhenTheOwnerIsGone) {
 }
 
 TEST(Face, AHandleWithoutAnObjectSaysSo) {
-    EXPECT_EQ(RefusalOf([] { Range().Text = "x"; }), error::kObjectNotSet);
-    EXPECT_EQ(RefusalOf([] { Document().PageSetup.TextColumns.SetCount(2); }), error::kObjectNotSet);
+    EXPECT_EQ(test::ErrorOf([] { Range().Text = "x"; }), error::kObjectNotSet);
+    EXPECT_EQ(test::ErrorOf([] { Document().PageSetup.TextColumns.SetCount(2); }), error::kObjectNotSet);
     const auto document = std::make_shared<test::ScriptedObject>();
     document->Child("Tables")->Answers("Add", [](Arguments) { return Value{}; });
     const Document handle{document};
-    EXPECT_EQ(RefusalOf([&] { handle.Tables.Add(handle.Content, 1, 1); }), error::kObjectNotSet);
+    EXPECT_EQ(test::ErrorOf([&] { handle.Tables.Add(handle.Content, 1, 1); }), error::kObjectNotSet);
     const Range copyOfNone = Range();
     EXPECT_FALSE(copyOfNone);
 }
@@ -80,11 +72,11 @@ TEST(Face, ValuesPassForEachOtherAsTheModelAllows) {
     EXPECT_EQ(ToNumber(std::string("15.5")), 15.5);
     EXPECT_EQ(ToNumber(std::string("16.0 beta")), 16);
     for (const Value& none : {Value{}, Value{std::string("none")}, Value{ObjectPtr{}}}) {
-        EXPECT_EQ(RefusalOf([&] { ToWhole(none); }), error::kTypeMismatch);
-        EXPECT_EQ(RefusalOf([&] { ToFlag(none); }), error::kTypeMismatch);
+        EXPECT_EQ(test::ErrorOf([&] { ToWhole(none); }), error::kTypeMismatch);
+        EXPECT_EQ(test::ErrorOf([&] { ToFlag(none); }), error::kTypeMismatch);
     }
-    EXPECT_EQ(RefusalOf([] { ToWhole(3e10); }), error::kTypeMismatch);
-    EXPECT_EQ(RefusalOf([] { ToText(std::int32_t{1}); }), error::kTypeMismatch);
+    EXPECT_EQ(test::ErrorOf([] { ToWhole(3e10); }), error::kTypeMismatch);
+    EXPECT_EQ(test::ErrorOf([] { ToText(std::int32_t{1}); }), error::kTypeMismatch);
 }
 
 }  // namespace

@@ -123,23 +123,25 @@ TEST_F(TraceTest, DocumentsAreNamedByWhichIsActive) {
         ->Child("Find")
         ->Answers("Execute", [](Arguments) { return Value(true); });
     EXPECT_TRUE(form.Content.Find.ReplaceAll("[seller 1 name]", "Ann Lee"));
-    EXPECT_TRUE(word_.Documents(2).Content.Find.Execute("^b"));
+    EXPECT_TRUE(word_.Documents(2).Content.Find.Execute("^b", FindContinue));
     deed.DefaultTabStop = 36;
     deed.Select();
     form.Close(false);
     word_.ActiveDocument.ActiveWindow.View.Zoom.PageFit = PageFitBestFit;
     deed.Protect(AllowOnlyFormFields, true);
+    deed.Close(false);
     EXPECT_EQ(Take(), (Lines{
                           "Documents.Add",
                           R"(Documents.Open "C:\\forms\\lease.docx")",
                           "ActiveDocument.Content.Find.Execute FindText:=\"[seller 1 name]\", "
                           "ReplaceWith:=\"Ann Lee\", Replace:=2",
-                          "Documents(2).Content.Find.Execute FindText:=\"^b\"",
-                          "Documents(1).DefaultTabStop = 36",
-                          "Documents(1).Select",
-                          "Documents(2).Close SaveChanges:=False",
+                          "Documents(2).Content.Find.Execute FindText:=\"^b\", Wrap:=1",
+                          "Documents(2).DefaultTabStop = 36",
+                          "Documents(2).Select",
+                          "Documents(1).Close SaveChanges:=False",
                           "ActiveDocument.ActiveWindow.View.Zoom.PageFit = 2",
                           "ActiveDocument.Protect 2, True",
+                          "ActiveDocument.Close SaveChanges:=False",
                       }));
 }
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "word/automation.h"
 #include "word/docx/picture_size.h"
 #include "word/writer_samples.h"
@@ -80,6 +82,22 @@ TEST(PictureSize, EveryTornPictureIsRefused) {
             const std::string torn = whole.substr(0, length);
             EXPECT_THROW(ReadPictureSize(torn), AutomationError)
                 << whole.substr(0, 4) << " of " << length << " bytes";
+        }
+    }
+}
+
+TEST(PictureSize, DamagedPicturesAreReadOrRefused) {
+    std::mt19937 random(5);
+    for (const std::string& whole : {PngWithResolution(4, 4, 3780, 1), Jpeg(4, 4, 1, 96), Bmp(4, 4, 24, 0)}) {
+        for (int round = 0; round < 2000; ++round) {
+            std::string damaged = whole;
+            for (int n = 0; n < 3; ++n)
+                damaged[2 + random() % (damaged.size() - 2)] = static_cast<char>(random());
+            try {
+                const PictureSize size = ReadPictureSize(damaged);
+                ASSERT_GT(std::min(size.WidthEmu(), size.HeightEmu()), 0) << round;
+            } catch (const AutomationError&) {
+            }
         }
     }
 }

@@ -156,10 +156,4 @@ std::string PartOf(const Document& document, const std::string& name) {
     return Unzip(WriteDocx(document)).at(name);
 }
 
-std::string BodyOf(const Document& document) {
-    const std::string xml = PartOf(document, "word/document.xml");
-    const std::size_t start = xml.find("<w:body>") + 8;
-    return xml.substr(start, xml.rfind("<w:sectPr>") - start);
-}
-
 }  // namespace quillmark::word::docx::test

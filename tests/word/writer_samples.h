@@ -32,7 +32,5 @@ Parts Unzip(const std::string& package);
 std::string Zip(const Parts& parts);
 /// One part of the document as it is written.
 std::string PartOf(const Document& document, const std::string& name);
-/// What is between the tags of the body, without the last section.
-std::string BodyOf(const Document& document);
 
 }  // namespace quillmark::word::docx::test

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "platform/atomic_file.h"
@@ -22,11 +23,31 @@ constexpr std::string_view kCoreContentType = "application/vnd.openxmlformats-pa
 constexpr std::string_view kApplicationContentType =
     "application/vnd.openxmlformats-officedocument.extended-properties+xml";
 
-void OpenStory(XmlWriter& xml, std::string_view tag) {
+void OpenMainStory(XmlWriter& xml) {
     xml.Declaration();
-    xml.Open(tag);
+    xml.Open("w:document");
     for (const NamespaceName& space : kNamespaces) xml.Attribute(space.declaration, space.uri);
     xml.Attribute("mc:Ignorable", kIgnorable);
+}
+
+/// A header or footer around its content. There may be many of them, so each declares what it uses and no
+/// more.
+std::string SmallStory(std::string_view tag, const std::string& content) {
+    const auto uses = [&](std::string_view prefix) {
+        return content.find(fmt::format("{}:", prefix)) != std::string::npos;
+    };
+    const bool hasExtensions = std::ranges::any_of(kIgnorablePrefixes, uses);
+    XmlWriter xml;
+    xml.Declaration();
+    xml.Open(tag);
+    for (const NamespaceName& space : kNamespaces) {
+        const std::string_view prefix = space.declaration.substr(std::string_view("xmlns:").size());
+        if (hasExtensions || uses(prefix)) xml.Attribute(space.declaration, space.uri);
+    }
+    if (hasExtensions) xml.Attribute("mc:Ignorable", kIgnorable);
+    xml.Raw(content);
+    xml.Close();
+    return xml.Take();
 }
 
 bool IsEmpty(const Story& story) {
@@ -72,7 +93,7 @@ class PackageWriter {
  private:
     std::string WriteBody() {
         XmlWriter xml(ExpectedSize(document_.body));
-        OpenStory(xml, "w:document");
+        OpenMainStory(xml);
         xml.Open("w:body");
         StoryWriter story(state_, main_, xml);
         story.Write(document_.body, [this](const SectionProperties& section) { return Section(section); });
@@ -110,11 +131,10 @@ class PackageWriter {
         const std::string name =
             state_.parts.Reserve(fmt::format("word/{}{}.xml", kind, ++storyCount_[isHeader]));
         PartRelations relations(name, document_.relations);
-        XmlWriter xml;
-        OpenStory(xml, isHeader ? "w:hdr" : "w:ftr");
-        StoryWriter(state_, relations, xml).Write(story->blocks);
-        xml.Close();
-        state_.parts.Put(name, ContentType(kind), xml.Take(), relations);
+        XmlWriter content;
+        StoryWriter(state_, relations, content).Write(story->blocks);
+        state_.parts.Put(name, ContentType(kind), SmallStory(isHeader ? "w:hdr" : "w:ftr", content.Take()),
+                         relations);
         references.push_back({isHeader, pages, main_.Add(kind, name)});
     }
 

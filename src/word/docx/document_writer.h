@@ -12,8 +12,8 @@ namespace quillmark::word::docx {
 /// The bytes of the .docx file.
 ///
 /// Raw XML of the document may use the prefixes of `kNamespaces` (parts_names.h) without declaring them, and
-/// may name the ids of `Document::relations`; the part it lands in gets the relationships it names. Drawing
-/// ids in raw XML are renumbered, so that they are unique over all parts.
+/// may name, in double quotes, the ids of `Document::relations`; the part it lands in gets the relationships
+/// it names. Drawing ids in raw XML are renumbered, so that they are unique over all parts.
 ///
 /// What would make Word refuse the file is mended on the way: a cell or story that does not end with a
 /// paragraph gets one, a table without rows is left out, of two bookmarks of one name the first stays, and a

@@ -12,8 +12,8 @@ struct NamespaceName {
 };
 
 // clang-format off
-/// What the root of the document, of every header and of every footer declares. Raw XML in them needs to
-/// declare only other prefixes; a prefix of this list must mean what it means here.
+/// What the roots of the document, of headers and of footers declare as far as they need it. Raw XML in them
+/// declares only other prefixes; a prefix of this list must mean what it means here.
 inline constexpr std::array kNamespaces = {
     NamespaceName{"xmlns:w",   "http://schemas.openxmlformats.org/wordprocessingml/2006/main"},
     NamespaceName{"xmlns:r",   "http://schemas.openxmlformats.org/officeDocument/2006/relationships"},
@@ -36,7 +36,9 @@ inline constexpr std::array kNamespaces = {
 };
 // clang-format on
 
-/// The prefixes of kNamespaces that a reader may skip when it does not know them.
+/// The prefixes of kNamespaces that a reader may skip when it does not know them, and the attribute that says
+/// so.
+inline constexpr std::array<std::string_view, 3> kIgnorablePrefixes = {"w14", "wp14", "w15"};
 inline constexpr std::string_view kIgnorable = "w14 wp14 w15";
 
 /// The namespace of relationship types; a type is this, a slash and a name.

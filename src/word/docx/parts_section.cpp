@@ -9,7 +9,7 @@ namespace quillmark::word::docx {
 
 namespace {
 
-constexpr int kContinuous = 0;
+constexpr int kNewColumn = 1;
 constexpr int kNewPage = 2;
 
 std::string_view StartName(int start) {
@@ -27,7 +27,7 @@ std::string_view PagesName(Pages pages) {
 int StartOf(const SectionProperties& section, const SectionProperties* before) {
     const bool samePaper =
         !before || (before->pageWidth == section.pageWidth && before->pageHeight == section.pageHeight);
-    return section.start == kContinuous && !samePaper ? kNewPage : section.start;
+    return section.start <= kNewColumn && !samePaper ? kNewPage : section.start;
 }
 
 void AddReferences(PropertyElement& properties, const std::vector<StoryReference>& references) {

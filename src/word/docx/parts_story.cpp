@@ -56,7 +56,8 @@ void StoryWriter::Write(const Blocks& blocks, const SectionElement& section) {
         if (const auto* table = std::get_if<std::unique_ptr<Table>>(&block)) WriteTable(**table);
         if (const auto* raw = std::get_if<RawBlock>(&block)) WriteRaw(raw->xml);
     }
-    if (blocks.empty() || !std::holds_alternative<Paragraph>(blocks.back())) xml_.Empty("w:p");
+    const auto* last = blocks.empty() ? nullptr : std::get_if<Paragraph>(&blocks.back());
+    if (!last || (last->section && section)) xml_.Empty("w:p");
 }
 
 void StoryWriter::UseRelation(const std::string& id, const Relation& relation) {

@@ -53,7 +53,7 @@ class StoryWriter {
     StoryWriter(PackageState& state, PartRelations& relations, XmlWriter& xml)
         : state_(state), relations_(relations), xml_(xml) {}
 
-    /// All blocks and, where the last one is not a paragraph, an empty one behind them.
+    /// All blocks and, where no paragraph is left behind the last table or section, an empty one.
     void Write(const Blocks& blocks, const SectionElement& section = {});
     /// Takes over XML of an opened file: its relationships become the part's, its drawing ids new ones.
     void WriteRaw(std::string_view xml);

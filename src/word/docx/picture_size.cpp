@@ -13,7 +13,6 @@ namespace quillmark::word::docx {
 namespace {
 
 constexpr double kEmuPerInch = 914400.0;
-constexpr double kDefaultDotsPerInch = 96.0;
 constexpr double kMetresPerInch = 0.0254;
 constexpr double kCentimetresPerInch = 2.54;
 

@@ -14,6 +14,20 @@ constexpr int kMostLevels = 9;
 /// Where an abstract list stands, by its number in the file.
 using AbstractIndices = std::unordered_map<int, int>;
 
+/// Puts a level's children in the schema's order, each once: some programs do not, and Word minds. Picture
+/// bullets lead to parts that stay behind.
+void MendLevel(pugi::xml_node level) {
+    constexpr const char* kOrder[] = {"w:start", "w:numFmt",  "w:lvlRestart", "w:pStyle", "w:isLgl", "w:suff",
+                                      "w:lvlText", "w:legacy", "w:lvlJc",      "w:pPr",    "w:rPr"};
+    level.remove_child("w:lvlPicBulletId");
+    for (const char* name : kOrder) {
+        const pugi::xml_node child = level.child(name);
+        if (!child) continue;
+        while (const pugi::xml_node again = child.next_sibling(name)) level.remove_child(again);
+        level.append_move(child);
+    }
+}
+
 AbstractIndices ReadAbstractLists(ReadContext& context, const XmlTree& tree) {
     AbstractIndices indices;
     for (pugi::xml_node node : tree.root().children("w:abstractNum")) {
@@ -22,7 +36,7 @@ AbstractIndices ReadAbstractLists(ReadContext& context, const XmlTree& tree) {
         // Lists of one such number are joined by the word processor, and its templates mean nothing here.
         node.remove_child("w:nsid");
         node.remove_child("w:tmpl");
-        for (pugi::xml_node level : node.children("w:lvl")) level.remove_child("w:lvlPicBulletId");
+        for (pugi::xml_node level : node.children("w:lvl")) MendLevel(level);
         node.attribute("w:abstractNumId").set_value(std::string(kPlaceholder).c_str());
         indices.emplace(*number, static_cast<int>(context.document.abstractLists.size()));
         context.document.abstractLists.push_back({{}, tree.PlainFragment(node)});
@@ -44,7 +58,7 @@ ListInstance ReadInstance(const XmlTree& tree, pugi::xml_node number, int abstra
     for (pugi::xml_node override : number.children("w:lvlOverride")) {
         const int level = NumberAttribute(override, "w:ilvl").value_or(-1);
         if (list.restarts || level < 0 || level >= kMostLevels || !levels.insert(level).second) continue;
-        override.child("w:lvl").remove_child("w:lvlPicBulletId");
+        MendLevel(override.child("w:lvl"));
         list.overrides += tree.PlainFragment(override);
     }
     return list;

@@ -11,20 +11,18 @@ using namespace field;
 
 namespace {
 
-void ReplaceWhileFound(std::string& text, std::string_view found, std::string_view by) {
-    for (std::size_t at = text.find(found); at != std::string::npos; at = text.find(found, at)) {
-        text.replace(at, found.size(), by);
-    }
-}
-
 /// One paragraph to each line of the field, without the blank lines and indents between them, so that each
 /// becomes one numbered exception.
-std::string ExceptionParagraphs(std::string text) {
-    ReplaceWhileFound(text, "\n", "\r");
-    ReplaceWhileFound(text, "\r ", "\r");
-    ReplaceWhileFound(text, "\r\r", "\r");
-    if (!text.ends_with('\r')) text += '\r';
-    return text;
+std::string ExceptionParagraphs(std::string_view text) {
+    std::string paragraphs;
+    for (char c : text) {
+        if (c == '\n') c = '\r';
+        const bool isSpacing = c == '\r' || c == ' ';
+        if (isSpacing && paragraphs.ends_with('\r')) continue;
+        paragraphs += c;
+    }
+    if (!paragraphs.ends_with('\r')) paragraphs += '\r';
+    return paragraphs;
 }
 
 void TypeDescription(const JobValues& job, Typist& type) {

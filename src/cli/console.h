@@ -1,0 +1,24 @@
+#pragma once
+
+#include <chrono>
+#include <filesystem>
+#include <iosfwd>
+#include <optional>
+
+#include "cli/command_line.h"
+
+namespace quillmark::cli {
+
+/// What `console` was told to do.
+struct ConsoleOrder {
+    std::filesystem::path folder = ".";                ///< the program folder
+    std::optional<std::chrono::year_month_day> today;  ///< the system's date if none is given
+    std::filesystem::path programFile;                 ///< whose date the data's version marker is held against
+};
+
+/// One session of the main screen, driven by JSON lines: one reply a line, one more before the first request.
+/// The end of the input ends the session without saving, EXIT ends it as on the screen. Gives the exit
+/// status: kFailed only when the session could not be started, or nobody takes the replies any more.
+int RunConsole(const ConsoleOrder& order, std::istream& in, const Streams& streams);
+
+}  // namespace quillmark::cli

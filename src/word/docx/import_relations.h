@@ -1,0 +1,35 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "word/docx/document.h"
+
+/// Bringing the parts along that kept XML leads to: pictures, charts, notes.
+namespace quillmark::word::docx {
+
+class RelationImport {
+   public:
+    RelationImport(const Document& source, Document& target) : source_(source), target_(target) {}
+
+    /// The target's id for one of the copied document's; unset for an unknown one. A part that the target has
+    /// already is shared.
+    std::optional<std::string> Map(std::string_view id);
+    /// Brings the part of this type along when the target has none, and tells its id there.
+    std::optional<std::string> TakeSole(std::string_view type);
+    bool broughtAny() const { return !ids_.empty(); }
+
+   private:
+    const Document& source_;
+    Document& target_;
+    std::map<std::string, std::string, std::less<>> ids_;
+};
+
+/// The id of the relation of a type given by its last word ("theme", "footnotes"); empty without one.
+std::string FindRelation(const Document& document, std::string_view type);
+/// An id that the relations do not have.
+std::string NewRelationId(const std::map<std::string, Relation>& relations);
+
+}  // namespace quillmark::word::docx

@@ -1,0 +1,89 @@
+#include <gmock/gmock.h>
+
+#include "platform/paths.h"
+#include "production/create.h"
+#include "production/fields.h"
+#include "production/sample_deal.h"
+#include "support/scratch.h"
+#include "word/docx/package_check.h"
+
+namespace quillmark::test {
+namespace {
+
+using ::testing::EndsWith;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+using namespace std::chrono;
+
+/// A run with the embedded word processor, up to the file.
+class CreatedDocument : public ::testing::Test {
+ protected:
+    CreatedDocument() {
+        job.name = "Hollis";
+        order.DocumentNames = {"Deed / Warranty", "Privacy Policy", "Schedule A"};
+        order.LegalList = "Schedule A,";
+        order.today = 2025y / April / 6;
+        order.saveAs = TextOf(folder / "Hollis_QMF.docx");
+        order.startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); };
+    }
+
+    const word::Document& Create() {
+        run.emplace(job, order);
+        run->Run();
+        return run->session().WordDoc;
+    }
+
+    ScratchFolder folder;
+    Job job = SampleDeal();
+    CreateOrder order;
+    std::optional<CreateRun> run;
+};
+
+TEST_F(CreatedDocument, HasASectionForEachEntryWithItsPaper) {
+    const word::Document& document = Create();
+    ASSERT_EQ(document.Sections.Count(), 3);
+    const int papers[] = {word::PaperLetter, word::PaperLetter, word::PaperLegal};
+    for (int n = 1; n <= 3; ++n) {
+        const word::Section section = document.Sections(n);
+        EXPECT_EQ(int(section.PageSetup.SectionStart), word::SectionNewPage);
+        EXPECT_EQ(int(section.PageSetup.PaperSize), papers[n - 1]) << n;
+        EXPECT_FALSE(bool(section.ProtectedForForms)) << n;
+        for (int footer = 1; footer <= 3; ++footer) {
+            EXPECT_FALSE(bool(section.Footers(footer).LinkToPrevious)) << n;
+            EXPECT_EQ(int(section.Footers(footer).PageNumbers.StartingNumber), 1) << n;
+        }
+    }
+    EXPECT_EQ(int(document.ProtectionType), word::AllowOnlyFormFields);
+    EXPECT_THAT(word::docx::CheckPackage(ReadBytes(folder / "Hollis_QMF.docx")), IsEmpty());
+}
+
+TEST_F(CreatedDocument, FootersFillTheirColumnsUnderUnrecordedDocumentsOnly) {
+    order.DocumentNames = {"Deed / Warranty", "Privacy Policy", "Secretary\u2019s Certificate / Corporate"};
+    const word::Document& document = Create();
+    EXPECT_EQ(std::string(document.Sections(1).Footers(1).Range().Text), "\r");
+    for (int n : {2, 3}) {
+        const word::Range footer = document.Sections(n).Footers(1).Range();
+        EXPECT_THAT(std::string(footer.Text), StartsWith("Hollis - " + order.DocumentNames[n - 1] + " - "));
+        EXPECT_THAT(std::string(footer.Text), EndsWith(" Quillmark\r"));
+        EXPECT_EQ(int(footer.StoryLength), 134 - 1) << "one column is kept free in later versions";
+        EXPECT_EQ(std::string(document.Sections(n).Footers(2).Range().Text), "\r");
+    }
+}
+
+TEST_F(CreatedDocument, IsOpenToTheUserWhereFootersNameTheFirm) {
+    order.settings.footers = Footers::LawFirm;
+    job.SetField(field::SellerLawfirm, "Penfield LLC");
+    const word::Document& document = Create();
+    EXPECT_EQ(int(document.ProtectionType), word::NoProtection);
+    EXPECT_THAT(std::string(document.Sections(2).Footers(1).Range().Text), EndsWith(" Penfield LLC\r"));
+}
+
+TEST_F(CreatedDocument, IsTheSameAgain) {
+    Create();
+    const std::string first = ReadBytes(folder / "Hollis_QMF.docx");
+    Create();
+    EXPECT_EQ(ReadBytes(folder / "Hollis_QMF.docx"), first);
+}
+
+}  // namespace
+}  // namespace quillmark::test
