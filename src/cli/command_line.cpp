@@ -3,11 +3,14 @@
 #include <CLI/CLI.hpp>
 
 #include <charconv>
+#include <iostream>
 #include <optional>
 #include <ostream>
 
+#include "cli/console.h"
 #include "cli/listings.h"
 #include "cli/make.h"
+#include "cli/program_file.h"
 #include "core/text_conversions.h"
 #include "platform/clock.h"
 #include "platform/paths.h"
@@ -43,6 +46,13 @@ std::vector<std::string> Split(std::string_view text, char separator) {
         begin = end + 1;
     }
     return parts;
+}
+
+/// Throws CLI::ValidationError for what is no date.
+std::chrono::year_month_day Today(const std::string& text) {
+    const auto today = IsoDate(text);
+    if (!today) throw CLI::ValidationError("--today", text + " is no date of the form YYYY-MM-DD");
+    return *today;
 }
 
 /// The words of `make` as they were typed.
@@ -85,11 +95,7 @@ MakeOrder OrderOf(const MakeWords& words, const CLI::App& make) {
     order.folder = PathOf(words.folder);
     order.out = PathOf(words.out);
     order.today = SystemClock().Today();
-    if (make.count("--today")) {
-        const auto today = IsoDate(words.today);
-        if (!today) throw CLI::ValidationError("--today", words.today + " is no date of the form YYYY-MM-DD");
-        order.today = *today;
-    }
+    if (make.count("--today")) order.today = Today(words.today);
     if (make.count("--documents")) {
         order.documents = Split(words.documents, ';');
         std::erase(*order.documents, "");
@@ -100,6 +106,31 @@ MakeOrder OrderOf(const MakeWords& words, const CLI::App& make) {
     if (make.count("--trace")) order.trace = PathOf(words.trace);
     order.pdf = words.pdf;
     order.quiet = words.quiet;
+    return order;
+}
+
+/// The words of `console` as they were typed.
+struct ConsoleWords {
+    std::string folder = ".";
+    std::string today;
+};
+
+CLI::App* AddConsole(CLI::App& app, ConsoleWords& words) {
+    CLI::App* console = app.add_subcommand("console", "One session, driven by JSON lines on standard input");
+    console
+        ->add_option("--folder", words.folder,
+                     "Program folder: settings, firm defaults, packages, data (default: .)")
+        ->type_name("DIR");
+    console->add_option("--today", words.today, "The date that counts as today")->type_name("YYYY-MM-DD");
+    return console;
+}
+
+/// Throws CLI::ValidationError for what cannot be read.
+ConsoleOrder OrderOf(const ConsoleWords& words, const CLI::App& console) {
+    ConsoleOrder order;
+    order.folder = PathOf(words.folder);
+    if (console.count("--today")) order.today = Today(words.today);
+    order.programFile = ProgramFile();
     return order;
 }
 
@@ -122,6 +153,9 @@ int RunCommandLine(const std::vector<std::string>& words, const Streams& streams
     MakeWords makeWords;
     CLI::App* make = AddMake(app, makeWords);
     make->callback([&] { status = Make(OrderOf(makeWords, *make), streams); });
+    ConsoleWords consoleWords;
+    CLI::App* console = AddConsole(app, consoleWords);
+    console->callback([&] { status = RunConsole(OrderOf(consoleWords, *console), std::cin, streams); });
     app.add_subcommand("documents", "List the built-in documents in catalogue order")->callback([&] {
         ListDocuments(streams.out);
     });

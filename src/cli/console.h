@@ -13,7 +13,7 @@ namespace quillmark::cli {
 struct ConsoleOrder {
     std::filesystem::path folder = ".";                ///< the program folder
     std::optional<std::chrono::year_month_day> today;  ///< the system's date if none is given
-    std::filesystem::path programFile;                 ///< whose date the data's version marker is held against
+    std::filesystem::path programFile;  ///< whose date the data's version marker is held against
 };
 
 /// One session of the main screen, driven by JSON lines: one reply a line, one more before the first request.

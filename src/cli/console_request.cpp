@@ -68,8 +68,7 @@ Json Parsed(std::string_view line) {
         // The library's own text begins with its name for the error, in brackets.
         const std::string_view what = error.what();
         const auto reason = what.find("] ");
-        throw BadRequest("not JSON: " +
-                         std::string(reason == what.npos ? what : what.substr(reason + 2)));
+        throw BadRequest("not JSON: " + std::string(reason == what.npos ? what : what.substr(reason + 2)));
     }
 }
 

@@ -58,8 +58,8 @@ std::string_view NameOf(RowKind kind) {
 }
 
 Json RowOf(const GridRow& row) {
-    return {{"kind", NameOf(row.kind)}, {"n", row.n},       {"label", row.label}, {"value", row.value},
-            {"notes", row.notes},       {"lit", row.lit},   {"key", row.key},     {"locked", row.locked}};
+    return {{"kind", NameOf(row.kind)}, {"n", row.n},     {"label", row.label}, {"value", row.value},
+            {"notes", row.notes},       {"lit", row.lit}, {"key", row.key},     {"locked", row.locked}};
 }
 
 Json GridOf(const SelectionState& screen) {

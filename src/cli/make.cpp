@@ -10,8 +10,8 @@
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
 #include "production/create.h"
-#include "selection/document_catalogue.h"
 #include "production/pdf.h"
+#include "selection/document_catalogue.h"
 #include "word/start.h"
 #include "word/trace.h"
 

@@ -12,7 +12,8 @@ using testing::HasSubstr;
 class EngineApplication : public testing::Test, protected EngineSession {
  protected:
     /// The error of a late-bound call with these arguments.
-    static int ErrorOfCall(const Handle& object, std::string_view member, const std::vector<Argument>& arguments) {
+    static int ErrorOfCall(const Handle& object, std::string_view member,
+                           const std::vector<Argument>& arguments) {
         return ErrorOf([&] { object.Reach()->Call(member, arguments); });
     }
 };
@@ -66,7 +67,8 @@ TEST_F(EngineApplication, AMemberOutsideOfTheModelIsNamedInTheRefusal) {
 
 TEST_F(EngineApplication, WrongArgumentsAreToldApart) {
     EXPECT_EQ(ErrorOfCall(sel, "TypeText", {}), error::kArgumentNotOptional);
-    EXPECT_EQ(ErrorOfCall(sel, "TypeText", {{std::string("a")}, {std::string("b")}}), error::kWrongArgumentCount);
+    EXPECT_EQ(ErrorOfCall(sel, "TypeText", {{std::string("a")}, {std::string("b")}}),
+              error::kWrongArgumentCount);
     EXPECT_EQ(ErrorOfCall(sel, "TypeText", {{std::string("a"), "Words"}}), error::kNoSuchArgument);
     EXPECT_EQ(ErrorOfCall(sel, "TypeText", {{12.0}}), error::kTypeMismatch);
     EXPECT_EQ(ErrorOfCall(doc.Tables, "Add", {{sel.Reach()}, {1.0}, {1.0}}), error::kTypeMismatch);

@@ -99,8 +99,9 @@ TEST_F(EngineLists, BulletsGoOnAndOff) {
     sel.ListFormat().ApplyBulletDefault();
     sel.TypeText("race\rcolour");
     EXPECT_EQ(ListAt(0), ListAt(1));
-    EXPECT_EQ(Model().abstractLists.at(static_cast<std::size_t>(ListOf(0).abstractIndex)).levels[0].numberFormat,
-              "bullet");
+    EXPECT_EQ(
+        Model().abstractLists.at(static_cast<std::size_t>(ListOf(0).abstractIndex)).levels[0].numberFormat,
+        "bullet");
     sel.ListFormat().ApplyBulletDefault();
     EXPECT_NE(ListAt(0), 0);
     EXPECT_EQ(ListAt(1), 0);

@@ -178,8 +178,7 @@ TEST_F(EngineSections, TheDescriptiveFooterFillsItsLineWhateverTheNamesAre) {
     EXPECT_EQ(first.size(), 133u);
     EXPECT_EQ(second.size(), 133u);
 
-    const docx::Paragraph& line =
-        std::get<docx::Paragraph>(Model().lastSection.footers[0]->blocks.front());
+    const docx::Paragraph& line = std::get<docx::Paragraph>(Model().lastSection.footers[0]->blocks.front());
     ASSERT_EQ(line.objects.size(), 4u);
     EXPECT_EQ(std::get<docx::FieldInstruction>(line.objects[1]).text, " PAGE ");
     EXPECT_EQ(line.spans.size(), 1u) << "Courier New 8 throughout";

@@ -26,7 +26,8 @@ std::string FaultIn(const docx::Document& document, const docx::Paragraph& parag
     if (std::count(paragraph.text.begin(), paragraph.text.end(), docx::character::kObject) !=
         std::ssize(paragraph.objects))
         return "objects that do not match: " + Visible(paragraph);
-    if (paragraph.format >= document.paraFormats.size() || paragraph.markFormat >= document.charFormats.size())
+    if (paragraph.format >= document.paraFormats.size() ||
+        paragraph.markFormat >= document.charFormats.size())
         return "a paragraph without a format";
     const int numId = document.paraFormats[paragraph.format].numId.value_or(0);
     if (numId < 0 || numId > std::ssize(document.lists)) return "an item of no list";
@@ -55,8 +56,10 @@ std::string FaultIn(const docx::Document& document, const docx::Blocks& blocks) 
         return "blocks that do not end with a paragraph";
     for (const docx::Block& block : blocks) {
         std::string fault;
-        if (const auto* paragraph = std::get_if<docx::Paragraph>(&block)) fault = FaultIn(document, *paragraph);
-        if (const auto* table = std::get_if<std::unique_ptr<docx::Table>>(&block)) fault = FaultIn(document, **table);
+        if (const auto* paragraph = std::get_if<docx::Paragraph>(&block))
+            fault = FaultIn(document, *paragraph);
+        if (const auto* table = std::get_if<std::unique_ptr<docx::Table>>(&block))
+            fault = FaultIn(document, **table);
         if (!fault.empty()) return fault;
     }
     return {};
@@ -66,7 +69,8 @@ std::string FaultIn(const docx::Document& document, const docx::SectionPropertie
     for (const auto* stories : {&section.headers, &section.footers})
         for (const auto& story : *stories)
             if (story)
-                if (std::string fault = FaultIn(document, story->blocks); !fault.empty()) return "footer: " + fault;
+                if (std::string fault = FaultIn(document, story->blocks); !fault.empty())
+                    return "footer: " + fault;
     return {};
 }
 
@@ -82,7 +86,9 @@ void AppendChunk(std::string& bytes, const std::string& type, const std::string&
 }  // namespace
 
 EngineSession::EngineSession()
-    : app(docx::StartEngine({folder.path(), clipboard})), doc(app.Documents.Add()), sel(app.Selection.Reach()) {}
+    : app(docx::StartEngine({folder.path(), clipboard})),
+      doc(app.Documents.Add()),
+      sel(app.Selection.Reach()) {}
 
 std::vector<std::string> EngineSession::Texts() const {
     std::vector<std::string> texts;

@@ -150,7 +150,8 @@ TEST_F(EngineTables, BordersOfTheTableAndOfOneRow) {
     EXPECT_EQ(table.Rows(2).Borders.InsideLineStyle, LineStyleSingle);
     table.Rows(2).Borders.LineStyle = LineStyleNone;
     EXPECT_EQ(table.Rows(2).Borders.LineStyle, LineStyleNone);
-    EXPECT_EQ(TableOf(0).rows[0].cells[1].borders[2], docx::BorderLine{LineStyleNone}) << "the line they share";
+    EXPECT_EQ(TableOf(0).rows[0].cells[1].borders[2], docx::BorderLine{LineStyleNone})
+        << "the line they share";
     EXPECT_EQ(TableOf(0).rows[0].cells[1].borders[0], std::nullopt);
     table.Borders.LineStyle = LineStyleSingle;
     EXPECT_EQ(table.Rows(2).Borders.LineStyle, LineStyleSingle);

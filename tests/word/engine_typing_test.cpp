@@ -8,6 +8,8 @@ namespace {
 
 using testing::ElementsAre;
 
+using Stops = std::vector<docx::TabStop>;
+
 class EngineTyping : public testing::Test, protected EngineSession {
  protected:
     void TearDown() override { EXPECT_EQ(FaultIn(Model()), ""); }
@@ -30,7 +32,7 @@ TEST_F(EngineTyping, AReturnSplitsAndTheNewParagraphTakesAllOverFromTheOld) {
     EXPECT_EQ(FormatAt(2).alignment, AlignLeft);
     for (std::size_t i = 0; i < 3; ++i) {
         EXPECT_EQ(FormatAt(i).leftIndent, 270);
-        EXPECT_EQ(FormatAt(i).tabs, std::vector{docx::TabStop{5580, "left", ""}});
+        EXPECT_EQ(FormatAt(i).tabs, (Stops{{5580, "left", ""}}));
     }
     EXPECT_EQ(MarkFontAt(1).bold, true);
     EXPECT_EQ(MarkFontAt(1).halfPoints, 22);
@@ -86,9 +88,10 @@ TEST_F(EngineTyping, LineSpacingIsANumberOfLinesUnlessTheRuleIsAnother) {
 }
 
 TEST_F(EngineTyping, ControlCharactersOfTheFormatNeverReachTheText) {
-    sel.TypeText(std::string_view("a\x01z\0b\x02\x07y\x1f"
-                                  "c\r\nd\ne",
-                                  16));
+    sel.TypeText(
+        std::string_view("a\x01z\0b\x02\x07y\x1f"
+                         "c\r\nd\ne",
+                         16));
     EXPECT_THAT(Texts(), ElementsAre("azbyc", "d", "e"));
 }
 
@@ -149,7 +152,7 @@ TEST_F(EngineTyping, TabStopsAreSortedReplacedAndCleared) {
     stops.Add(288);
     stops.Add(288);
     stops.Reach()->Call("Add", std::vector<Argument>{{396.0}, {std::int32_t{2}}, {std::int32_t{1}}});
-    EXPECT_EQ(FormatAt(0).tabs, (std::vector{docx::TabStop{5760, "left", ""}, docx::TabStop{7920, "right", "dot"}}));
+    EXPECT_EQ(FormatAt(0).tabs, (Stops{{5760, "left", ""}, {7920, "right", "dot"}}));
     stops.Clear(288);
     EXPECT_EQ(FormatAt(0).tabs.size(), 1u);
     EXPECT_EQ(ErrorOf([&] { stops.Clear(288); }), error::kNoSuchElement);
@@ -163,7 +166,7 @@ TEST_F(EngineTyping, AStopOfTheStyleIsClearedByOneThatSaysSo) {
     inFooterStyle.style = "Footer";
     std::get<docx::Paragraph>(model.body.front()).format = model.paraFormats.Intern(inFooterStyle);
     sel.Paragraphs.TabStops.Clear(468);
-    EXPECT_EQ(FormatAt(0).tabs, (std::vector{docx::TabStop{9360, "clear", ""}}));
+    EXPECT_EQ(FormatAt(0).tabs, (Stops{{9360, "clear", ""}}));
     EXPECT_EQ(ErrorOf([&] { sel.Paragraphs.TabStops.Clear(468); }), error::kNoSuchElement);
     sel.Paragraphs.TabStops.ClearAll();
     EXPECT_EQ(FormatAt(0).tabs.size(), 2u);

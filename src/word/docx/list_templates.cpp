@@ -1,5 +1,7 @@
 #include "word/docx/list_templates.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <iterator>
 
@@ -27,7 +29,7 @@ constexpr const char* kBullets[] = {"\u2022", "\u25E6", "\u25AA"};
 
 ListLevelFormat LevelAt(int level) {
     ListLevelFormat format;
-    format.text = "%" + std::to_string(level + 1) + ".";
+    format.text = fmt::format("%{}.", level + 1);
     format.leftIndent = kIndentStep * (level + 1);
     format.firstLine = -kIndentStep;
     return format;

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "cli/console_request.h"
+#include "cli/console_session.h"
+
+namespace quillmark::cli {
+
+/// One `do`: its arguments and what it gives as `result`.
+struct Command {
+    std::string_view name;
+    std::vector<Argument> arguments;
+    Json (*run)(ConsoleSession& session, const Request& request);
+    /// The browser is a window that keeps the main screen waiting; few commands go with it.
+    bool whileBrowsing = false;
+};
+
+/// Every command, in the order in which the documentation has them.
+std::span<const Command> Commands();
+
+/// Carries out a request and gives its result. Throws BadRequest and NotAllowed, both with nothing changed,
+/// and what the action itself throws.
+Json RunCommand(ConsoleSession& session, const Request& request);
+
+// The commands of the browser (console_browser.cpp).
+Json Browse(ConsoleSession& session, const Request& request);
+Json Load(ConsoleSession& session, const Request& request);
+Json SpawnJob(ConsoleSession& session, const Request& request);
+Json DeleteEntry(ConsoleSession& session, const Request& request);
+
+// The commands of the package editor (console_packages.cpp).
+Json SavePackageAs(ConsoleSession& session, const Request& request);
+Json DeletePackageOf(ConsoleSession& session, const Request& request);
+
+}  // namespace quillmark::cli
