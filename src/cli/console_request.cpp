@@ -3,6 +3,8 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <limits>
 
 #include "platform/code_page.h"
@@ -27,23 +29,22 @@ void CheckText(const std::string& text, std::string_view what) {
                                      static_cast<unsigned>(static_cast<unsigned char>(*key))));
 }
 
+/// Larger numbers are no field, option or column, and would not fit.
+bool IsWholeNumber(const Json& value) {
+    constexpr std::int64_t kLimit = std::numeric_limits<int>::max();
+    if (value.is_number_unsigned()) return value.get<std::uint64_t>() <= kLimit;
+    return value.is_number_integer() && value.get<std::int64_t>() >= -kLimit;
+}
+
 void CheckKind(const Json& value, const Argument& argument) {
-    switch (argument.kind) {
-        case ArgumentKind::Text:
-        case ArgumentKind::Path:
-            if (!value.is_string()) throw BadRequest(fmt::format("{} is not a text", argument.name));
-            if (argument.kind == ArgumentKind::Text) CheckText(value.get<std::string>(), argument.name);
-            return;
-        case ArgumentKind::Number:
-            // Numbers beyond this are no field, option or column, and would not fit.
-            constexpr auto kLimit = std::numeric_limits<std::int32_t>::max();
-            if (!value.is_number_integer() || value > kLimit || value < -kLimit)
-                throw BadRequest(fmt::format("{} is not a whole number", argument.name));
-            return;
-        case ArgumentKind::Texts:
-            if (!value.is_array()) throw BadRequest(fmt::format("{} is not a list of texts", argument.name));
-            for (const Json& item : value) CheckKind(item, {argument.name, ArgumentKind::Text});
-            return;
+    if (argument.kind == ArgumentKind::Number) {
+        if (!IsWholeNumber(value)) throw BadRequest(fmt::format("{} is not a whole number", argument.name));
+    } else if (argument.kind == ArgumentKind::Texts) {
+        if (!value.is_array()) throw BadRequest(fmt::format("{} is not a list of texts", argument.name));
+        for (const Json& item : value) CheckKind(item, {argument.name, ArgumentKind::Text});
+    } else {
+        if (!value.is_string()) throw BadRequest(fmt::format("{} is not a text", argument.name));
+        if (argument.kind == ArgumentKind::Text) CheckText(value.get<std::string>(), argument.name);
     }
 }
 

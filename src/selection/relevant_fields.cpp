@@ -21,6 +21,7 @@ constexpr int kCondominiumCharges = 175;
 constexpr int kFiduciaryType = 209;
 constexpr int kSeller1Name = 21;
 constexpr int kSeller2Name = 28;
+constexpr int kPropertyAddress = 70;
 constexpr int kPrincipal = 156;
 constexpr int kForwardingAddress = 34;
 constexpr std::size_t kFormListLimit = 1024 * 1024;  ///< bytes of the largest list of markers
@@ -86,7 +87,8 @@ void StartAnew(SelectionState& screen) {
         FieldHolder& holder = screen.job.txtField(n);
         if (!holder.locked) screen.job.SetField(n, "");
         holder.relevant = false;
-        holder.tag.clear();
+        // The property's own mark, a multi-family rental, is not of the documents' making.
+        if (n != kPropertyAddress) holder.tag.clear();
     }
     for (OptionButton& button : screen.options) button.enabled = false;
     screen.lblJump.fill({});
@@ -167,7 +169,7 @@ void ApplyJobList(SelectionState& screen, const Office& office) {
     const std::string capacity = screen.job.txtField(kSeller1Name).tag;
     if (!capacity.empty())
         screen.job.SetField(kFiduciaryType, capacity);
-    else if (screen.job.optConf(EstateTrust))
+    else if (screen.job.optConf(EstateTrust) && !screen.List2.empty())
         AddField(kFiduciaryType, screen, office);
 }
 

@@ -100,6 +100,14 @@ void MainScreen::Templates() {
     OpenBrowser(true);
 }
 
+/// With the buyer's attorney's address at hand, the button writes to it.
+void MainScreen::ShowExit() {
+    if (screen_.job.IsFilled(kBuyerAttyEmail))
+        screen_.cmdExit = {"EMAIL", " email buyer attorney ", true, true};
+    else
+        screen_.cmdExit = {"EXIT", " shutdown Quillmark ", true, true};
+}
+
 void MainScreen::Mail() {
     Job& job = screen_.job;
     if (!job.IsFilled(kSellerLawfirm)) AddFields("D(2)_D(3)_D(4)_D(5)_D(6)_D(7)", screen_, office_);

@@ -134,6 +134,7 @@ std::string MainScreen::Commit(std::size_t row, std::string_view text) {
     }
     const std::string after = n > 0 ? screen_.job.D(n) : screen_.grid[row].value;
     if (after != before && n != kDocumentDate) FieldChanged();
+    ShowExit();
     Advance(row);
     return after;
 }

@@ -119,6 +119,7 @@ void MainScreen::Require(bool condition, const std::string& otherwise) const {
 
 void MainScreen::Refresh(bool headingsOnly) {
     RefreshFields(screen_, office_, headingsOnly);
+    ShowExit();
 }
 
 }  // namespace quillmark

@@ -178,6 +178,7 @@ class MainScreen {
     // CREATE and the rest of the buttons.
     void Create();
     void Mail();
+    void ShowExit();
     void Templates();
 
     void RequireOption(int n, OptionAction action) const;

@@ -1,5 +1,5 @@
 #include "core/field_registry.h"
-#include "entry/smart_fields.h"
+#include "selection/option_buttons.h"
 #include "session/main_screen.h"
 
 namespace quillmark {
@@ -9,37 +9,12 @@ namespace {
 constexpr std::string_view kUnsavedTitle = "  ALERT";
 constexpr std::string_view kUnsavedText = "You did not save your changes.\nSave them now ???";
 
-std::string OptionTooltip(int option) {
-    switch (option) {
-        case OneSeller:
-        case TwoSellers:
-            return " indicate number of sellers ";
-        case Person:
-        case Entity:
-            return " specify if seller is person or entity ";
-        case OneBuyer:
-        case TwoBuyers:
-            return " indicate number of buyers ";
-        case OnePayoff:
-        case TwoPayoffs:
-            return " number of mortgage payoffs (Dbl-Click for None) ";
-        case Condo:
-        case Commercial:
-        case LandMultiFamily:
-            return " special property types (Dbl-Click for None) ";
-        case Letterhead:
-        case DefaultLetterhead:
-            return " letterhead allowance, or use default ";
-        default:
-            return " indicate if seller is Fiduciary, or acting via POA (Dbl-Clk to clear) ";
-    }
-}
-
 void ResetOptions(SelectionState& screen) {
     for (int n = 1; n <= kOptions; ++n) {
         OptionButton& button = screen.options[static_cast<std::size_t>(n)];
-        button = {false, n != LandMultiFamily, OptionTooltip(n)};
+        button = {false, n != LandMultiFamily, {}};
     }
+    ShowOptionTooltips(screen);
 }
 
 void ResetButtons(SelectionState& screen, bool paraPro) {

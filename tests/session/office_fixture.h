@@ -36,7 +36,7 @@ class QuietShell final : public Shell {
 /// An office in a folder of its own, its program folder being the scratch folder, on March 9, 2026.
 class OfficeTest : public ::testing::Test {
  protected:
-    OfficeTest() { WriteBytes(scratch / "defaults.fld", FirmDefaultRecord("[seller lawfirm]", "Hale & Pike")); }
+    OfficeTest() { WriteBytes(scratch / "defaults.fld", FirmDefaultRecord("[seller atty]", "Nora Hale/412345")); }
 
     static std::string FirmDefaultRecord(std::string_view marker, std::string_view value) {
         return "\"" + FirmDefaultRow(marker, value) + "\"\r\n";
