@@ -52,6 +52,8 @@ class Recorder {
         line_(line);
     }
     std::size_t written() const { return written_; }
+    /// As if an operation had been written: ranges reached before this are kept ones from now on.
+    void Pass() { ++written_; }
     int NextKeptRange() { return ++keptRanges_; }
 
     KnownDocumentPtr Opened(const ObjectPtr& object);
@@ -104,7 +106,7 @@ void Recorder::Called(const KnownDocumentPtr& document, std::string_view method)
 // ---- Objects ----
 
 /// The objects that the naming rules single out.
-enum class Kind { Plain, Application, Documents, Document, Selection };
+enum class Kind { Plain, Application, Documents, Document, Selection, Range };
 
 class TracedObject : public Object, public std::enable_shared_from_this<TracedObject> {
  public:
@@ -185,6 +187,8 @@ void TracedObject::Put(std::string_view member, const Value& value) {
 /// The line is made first: the call may change what its object is named by.
 Value TracedObject::Call(std::string_view member, Arguments arguments) {
     const bool reaches = member == "Cell";
+    // A break goes in at a range that was kept for it, also where nothing was typed in between.
+    if (kind_ == Kind::Range && member == "InsertBreak") recorder_->Pass();
     std::string line = reaches ? ElementName(member, arguments) : MemberName(member);
     if (!reaches && !arguments.empty()) line += " " + Text(arguments);
     Value result = Attempt([&] { return line; }, [&] { return inner_->Call(member, Unwrap(arguments)); });
@@ -224,7 +228,7 @@ TracedObject::Name TracedObject::SelectionRange() const {
 }
 
 ObjectPtr TracedObject::Reached(const ObjectPtr& object, std::string_view member, Arguments arguments) {
-    if (kind_ == Kind::Selection && member == "Range") return Wrap(object, SelectionRange());
+    if (kind_ == Kind::Selection && member == "Range") return Wrap(object, SelectionRange(), Kind::Range);
     if (kind_ == Kind::Documents && member == "Item") {
         const Value index = arguments.empty() ? Value{} : arguments.front().value;
         return ReachedDocument(object, Below(fmt::format("({})", Text(arguments))),

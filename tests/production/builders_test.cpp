@@ -14,6 +14,7 @@
 #include "production/sample_deal.h"
 #include "production/typing.h"
 #include "support/scratch.h"
+#include "word/docx/engine.h"
 
 namespace quillmark::test {
 namespace {
@@ -119,6 +120,33 @@ TEST(Builders, UnfilledJobShowsMarkersOnly) {
                 EXPECT_TRUE(markers.count(marker) || markers.count(Lowered(marker)))
                     << builder.document << " with options " << options << ": " << marker;
             }
+        }
+    }
+}
+
+/// The paragraphs of the embedded engine's document, one a line.
+std::string EngineText(const word::docx::Document& document) {
+    std::string text;
+    for (const word::docx::Block& block : document.body) {
+        if (const auto* paragraph = std::get_if<word::docx::Paragraph>(&block))
+            text += paragraph->text + "\n";
+    }
+    return text;
+}
+
+// The recording word processor takes any member; the embedded engine only those that it knows.
+TEST(Builders, TypeTheSameIntoTheEmbeddedEngine) {
+    std::mt19937 random(19);
+    for (int round = 0; round < 10; ++round) {
+        Job job = FilledDeal();
+        const std::string options = ChooseOptions(job, random);
+        for (const Builder& builder : Builders()) {
+            SCOPED_TRACE(std::string(builder.document) + " with options " + options);
+            auto clipboard = std::make_shared<word::MemoryClipboard>();
+            WordSession session(word::docx::StartEngine({.folder = {}, .clipboard = clipboard}), clipboard);
+            SetUpWordSession(session);
+            TypeDocument(builder, job, session);
+            EXPECT_EQ(EngineText(word::docx::ModelOf(session.WordDoc.Reach())), TextOf(builder, job));
         }
     }
 }

@@ -165,7 +165,7 @@ class RandomModel {
 };
 
 TEST(ReaderRoundTrip, WhatIsWrittenIsReadBack) {
-    for (unsigned seed = 1; seed <= 300; ++seed) {
+    for (unsigned seed = 1; seed <= 120; ++seed) {
         SCOPED_TRACE(seed);
         const auto document = RandomModel(seed).Build();
         const std::string bytes = WriteDocx(*document);

@@ -41,7 +41,8 @@ bool IsControl(char c) {
 }  // namespace
 
 FileBrowser::FileBrowser(const Folders& folders, bool templates, Dialogs& dialogs)
-    : folders_(folders), dialogs_(dialogs), templates_(templates), open_(ReadFolder()) {
+    : folders_(folders), dialogs_(dialogs), templates_(templates) {
+    open_ = ReadFolder();
     if (!open_) {
         dialogs_.Tell("", "Data Path Not Found", DialogIcon::Warning);
         return;
