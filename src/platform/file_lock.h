@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -11,12 +12,15 @@ namespace quillmark {
 /// lock ends with the object, or with the program.
 class FileLock {
  public:
-    /// Called about twenty times a second while another holds the lock; false gives up waiting.
+    static constexpr std::chrono::milliseconds kPause{50};
+
+    /// Called before every pause while another holds the lock; false gives up waiting.
     using KeepWaiting = std::function<bool()>;
 
-    /// Waits as long as `keepWaiting` says, for ever without one. Throws FileError, kind InUse when it gave
-    /// up.
-    explicit FileLock(const std::filesystem::path& file, const KeepWaiting& keepWaiting = {});
+    /// Waits as long as `keepWaiting` says, for ever without one, and tries again after every pause. Throws
+    /// FileError, kind InUse when it gave up.
+    explicit FileLock(const std::filesystem::path& file, const KeepWaiting& keepWaiting = {},
+                      std::chrono::milliseconds pause = kPause);
     ~FileLock();
     FileLock(FileLock&&) noexcept;
     FileLock& operator=(FileLock&&) noexcept;

@@ -32,9 +32,8 @@ void TypeTitle(Typist& type, std::string_view title) {
 void TypeGenderParagraph(Typist& type) {
     type.Text(
         "In all references herein to any parties, persons, entities or corporations, the use of any "
-        "particular "
-        "gender or the plural or singular number is intended to include the appropriate gender or number as "
-        "the text of the within instrument may require.",
+        "particular gender or the plural or singular number is intended to include the appropriate gender "
+        "or number as the text of the within instrument may require.",
         RepeatReturn(2));
 }
 
@@ -56,18 +55,16 @@ void TypeAcknowledgment(const JobValues& job, Typist& type, std::string_view sig
     type.Text("Personally appeared ", signers);
     if (plural) {
         type.Text(
-            ", signers and sealers of the foregoing instrument, known to me (or satisfactorily proven) to be "
-            "the "
-            "persons whose names are subscribed to the within instrument and acknowledged that they executed "
-            "the "
-            "same for the purposes therein contained in the capacity therein stated, before me, on this ");
+            ", signers and sealers of the foregoing instrument, known to me (or satisfactorily proven) to "
+            "be the persons whose names are subscribed to the within instrument and acknowledged that they "
+            "executed the same for the purposes therein contained in the capacity therein stated, before "
+            "me, on this ");
     } else {
         type.Text(
             ", signer and sealer of the foregoing instrument, known to me (or satisfactorily proven) to be "
-            "the "
-            "person whose name is subscribed to the within instrument and acknowledged that he/she executed "
-            "the "
-            "same for the purposes therein contained in the capacity therein stated, before me, on this ");
+            "the person whose name is subscribed to the within instrument and acknowledged that he/she "
+            "executed the same for the purposes therein contained in the capacity therein stated, before "
+            "me, on this ");
     }
     type.Text(job.DayMonthYear(DocumentDate), ".");
 }

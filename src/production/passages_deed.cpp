@@ -53,28 +53,24 @@ void TypeAcknowledgmentByPower(const JobValues& job, Typist& type, const Sellers
     type.Text("On this the ", job.DayMonthYear(DocumentDate), ", before me, personally appeared ");
     if (!job.Has(TwoSellers)) {
         type.Text(attorney,
-                  ", known to me (or satisfactorily proven) to be the person whose name is subscribed to the "
-                  "within "
-                  "instrument as attorney in fact for ",
+                  ", known to me (or satisfactorily proven) to be the person whose name is subscribed to "
+                  "the within instrument as attorney in fact for ",
                   principal,
                   " and acknowledged that he/she executed the same as the act of his/her principal for the "
-                  "purposes "
-                  "therein contained.");
+                  "purposes therein contained.");
     } else if (attorney != job[Seller1Name] && attorney != job[Seller2Name]) {
         type.Text(
             power.OtherSellerName, " and personally appeared ", attorney, " attorney in fact for ", principal,
             ", known to me (or satisfactorily proven) to be the persons whose names are subscribed to the "
-            "within instrument, and acknowledged that they executed the same as their own free act and deed "
-            "and as that of the principal, for the purposes therein contained.");
+            "within instrument, and acknowledged that they executed the same as their own free act and "
+            "deed and as that of the principal, for the purposes therein contained.");
     } else {
         type.Text(attorney,
-                  ", known to me (or satisfactorily proven) to be the person whose name is subscribed to the "
-                  "within "
-                  "instrument on behalf of his/her own self and as attorney in fact for ",
+                  ", known to me (or satisfactorily proven) to be the person whose name is subscribed to "
+                  "the within instrument on behalf of his/her own self and as attorney in fact for ",
                   principal,
-                  ", and acknowledged that he/she executed the same as his/her own free act and deed and as "
-                  "that of "
-                  "the principal, for the purposes therein contained.");
+                  ", and acknowledged that he/she executed the same as his/her own free act and deed and "
+                  "as that of the principal, for the purposes therein contained.");
     }
 }
 
@@ -140,11 +136,10 @@ void TypeUsualEncumbrances(Typist& type) {
     type.Text("Said Premises are conveyed subject to:", RepeatReturn(2));
     type.NumberedList({
         "Any and all provisions of any municipal, ordinance or regulation or public or private law with "
-        "special "
-        "reference to the provisions of any zoning regulations and regulations governing the said Premises.",
+        "special reference to the provisions of any zoning regulations and regulations governing the said "
+        "Premises.",
         "Real property taxes on the current Grand List and any municipal liens or assessments becoming due "
-        "and "
-        "payable on or after the delivery of this Deed.",
+        "and payable on or after the delivery of this Deed.",
         "Such additional encumbrances, if any, as more particularly set forth in Schedule A attached hereto.",
     });
 }

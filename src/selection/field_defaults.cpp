@@ -25,11 +25,10 @@ constexpr FixedDefault kFixedDefaults[] = {
     {"[name change instr]",    "Marriage; Divorce Decree; Probate Decree"},
     {"[POA agent capacity]",   "Jointly; Severally"},
     {"[buyer title insur co]", "First American Title Insurance Company; Chicago Title Insurance Company; "
-                               "Commonwealth Land Title Insurance Company; "
-                               "Connecticut Attorneys Title Insurance Company; "
-                               "Fidelity National Title Insurance Company; Lawyers Title Insurance Corporation; "
-                               "Old Republic National Title Insurance Company; "
-                               "Stewart Title Guaranty Company; Ticor Title Insurance Company"},
+                               "Commonwealth Land Title Insurance Company; Connecticut Attorneys Title "
+                               "Insurance Company; Fidelity National Title Insurance Company; Lawyers "
+                               "Title Insurance Corporation; Old Republic National Title Insurance "
+                               "Company; Stewart Title Guaranty Company; Ticor Title Insurance Company"},
     {"[state of formation]",   "Connecticut"},
     {"[fiduciary type]",       "Administrator; Conservator; Executor; Testamentary Trustee; Trustee"},
 };

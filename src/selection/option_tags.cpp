@@ -91,6 +91,13 @@ TaggedValue SplitTag(std::string_view value, TagFamily family) {
     return {value.substr(0, value.size() - tag->text.size()), tag->text};
 }
 
+std::string_view TagLighting(std::array<bool, 2> lit, TagFamily family) {
+    const auto tag = std::find_if(std::begin(kTags), std::end(kTags), [&](const Tag& t) {
+        return t.family == family && t.first == lit[0] && t.second == lit[1];
+    });
+    return tag == std::end(kTags) ? std::string_view() : tag->text;
+}
+
 bool PayoffShowsNotes(std::string_view value, const SelectionState& screen) {
     return value.ends_with('T') || value.ends_with('R') ||
            std::any_of(screen.List2.begin(), screen.List2.end(),

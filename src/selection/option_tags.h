@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,8 @@ struct TaggedValue {
     std::string_view tag;  ///< empty where there is none
 };
 TaggedValue SplitTag(std::string_view value, TagFamily family);
+/// The tag that lights just these note cells, such as " - P"; empty where the family has none.
+std::string_view TagLighting(std::array<bool, 2> lit, TagFamily family);
 
 /// Whether a payoff row has note cells: the job list holds an SMS document, or the value has its tag.
 bool PayoffShowsNotes(std::string_view value, const SelectionState& screen);

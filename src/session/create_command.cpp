@@ -57,7 +57,8 @@ void MainScreen::Create() {
     const NameBox& box = screen_.txtJobName;
     screen_.job.name = box.IsSaveable() ? box.text : std::string();
     const fs::path document = DocumentPath(createTo_, screen_.job.name, machine_.shell);
-    std::string trace;
+    // The word processor outlives this run, and so must the trace that it writes to.
+    const auto trace = std::make_shared<std::string>();
     CreateOrder order;
     for (const JobListLine& line : screen_.List2) order.DocumentNames.push_back(line.name);
     order.LegalList = screen_.LegalList;
@@ -65,11 +66,11 @@ void MainScreen::Create() {
     order.today = machine_.clock.Today();
     order.nameUsable = box.IsSaveable();
     order.saveAs = TextOf(document);
-    order.startWord = [&] {
+    order.startWord = [this, trace] {
         word::StartedWordProcessor started = machine_.startWord();
         if (!createTrace_.empty())
             started.application = word::Trace(
-                started.application, [&](std::string_view line) { trace.append(line).append("\n"); });
+                started.application, [trace](std::string_view line) { trace->append(line).append("\n"); });
         return started;
     };
     auto run = std::make_unique<CreateRun>(screen_.job, std::move(order));
@@ -79,7 +80,7 @@ void MainScreen::Create() {
         machine_.dialogs.Tell(" FAILED !!!", failure.Message(), DialogIcon::Stop);
         throw;
     }
-    if (!createTrace_.empty()) ReplaceFile(createTrace_, trace);
+    if (!createTrace_.empty()) ReplaceFile(createTrace_, *trace);
     lastDocument_ = document;
     run_ = std::move(run);
     if (box.IsSaveable()) {

@@ -175,8 +175,8 @@ void MainScreen::Spawn(std::string_view entry) {
 std::optional<std::string> MainScreen::AskForName(bool rename) {
     InputDialog box{
         " NAME AS ...",
-        "ENTER A NAME FOR THE NEW FILE\n\nNote:  This allows you to save the current session as\na "
-        "new file, leaving the original file intact.",
+        "ENTER A NAME FOR THE NEW FILE\n\nNote:  This allows you to save the current session as\na new "
+        "file, leaving the original file intact.",
         screen_.txtJobName.text};
     if (rename) box = {" RE-NAME ...", "ENTER A NEW NAME FOR THIS FILE", screen_.txtJobName.text};
     for (;;) {

@@ -33,8 +33,8 @@ void MainScreen::ShowNameGuidance() {
     const NameBox& box = screen_.txtJobName;
     if (screen_.templateBeingSet) {
         screen_.picInfo =
-            " Enter the Client or Project/Development name for which you are setting defaults"
-            " (e.g.  Regency Estates)";
+            " Enter the Client or Project/Development name for which you are setting defaults (e.g.  "
+            "Regency Estates)";
     } else if (screen_.List1Enabled && box.locked) {
         screen_.picInfo = " Select document(s) from available forms and packages";
         if (!box.text.empty() && screen_.cmdOpen.enabled)

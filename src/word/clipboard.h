@@ -30,7 +30,8 @@ class MemoryClipboard final : public Clipboard {
     /// Empty when there is none. At most one of the two is filled.
     const std::string& text() const { return text_; }
     const std::string& picture() const { return picture_; }
-    /// Grows with every change, so that the word processor can tell whether what it copied is still the latest.
+    /// Grows with every change, so that the word processor can tell whether what it copied is still the
+    /// latest.
     std::uint64_t changes() const { return changes_; }
 
  private:

@@ -25,7 +25,8 @@ namespace quillmark::word {
 /// 1;
 /// - what else a collection's `Add` gave: its place in the collection, `ActiveDocument.Tables(1)`;
 /// - a range taken from the selection: `Selection.Range` while nothing else was done since, afterwards
-///   `Range(k)`, numbered in the order in which ranges came to be kept this way.
+///   `Range(k)`, numbered in the order in which ranges came to be kept this way. A range that a break goes in
+///   at was always kept for it.
 ObjectPtr Trace(ObjectPtr application, std::function<void(std::string_view line)> line);
 
 /// The object behind a traced one; any other object is given back as it is.

@@ -121,6 +121,16 @@ TEST_F(EngineTyping, BackspaceAtAParagraphsStartJoinsIt) {
     EXPECT_THAT(Texts(), ElementsAre("one more")) << "nothing is in front of the text";
 }
 
+TEST_F(EngineTyping, AFieldGoesAsAWhole) {
+    sel.TypeText("page ");
+    const Range range = sel.Range();
+    range.Fields.Add(range, FieldPage);
+    EXPECT_EQ(doc.Content.Text.Read(), "page 1\r");
+    sel.TypeBackspace();
+    EXPECT_THAT(Texts(), ElementsAre("page "));
+    EXPECT_TRUE(ParagraphAt(0).objects.empty());
+}
+
 TEST_F(EngineTyping, GoingToTheTopTypesInFrontInTheFontFoundThere) {
     sel.Font.Italic = true;
     sel.TypeText("second");

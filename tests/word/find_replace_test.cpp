@@ -131,7 +131,8 @@ TEST_F(FindTest, SectionBreaksBecomePageBreaks) {
     Add("");
     EndSection(0);
     document->body.emplace_back(std::make_unique<Table>());
-    AddParagraph(*document, std::get<1>(document->body.back())->rows.emplace_back().cells.emplace_back().blocks, "t");
+    AddParagraph(*document,
+                 std::get<1>(document->body.back())->rows.emplace_back().cells.emplace_back().blocks, "t");
     Add("end");
     document->lastSection.leftMargin = 99;
     EXPECT_TRUE(FindText("^b").found);
@@ -159,7 +160,8 @@ TEST_F(FindTest, RangesAndGoingOnAroundTheEnd) {
     Add("ab");
     const auto first = document->body.begin();
     const Place behind{&document->body, first, 4};
-    const auto find = [&](const Place& from, const Place& to, FindWrap wrap, FindReplace replace = ReplaceNone) {
+    const auto find = [&](const Place& from, const Place& to, FindWrap wrap,
+                          FindReplace replace = ReplaceNone) {
         return docx::Find(*document, document->body, {"AB", "x", replace, wrap}, TextRange{from, to});
     };
     FindResult found = find(behind, behind, FindStop);
@@ -172,7 +174,8 @@ TEST_F(FindTest, RangesAndGoingOnAroundTheEnd) {
     EXPECT_EQ(found.match->start.block, first);
     EXPECT_EQ(found.match->start.offset, 0u);
     EXPECT_FALSE(find({&document->body, first, 1}, {&document->body, first, 4}, FindStop).found);
-    EXPECT_EQ(find({&document->body, first, 1}, {&document->body, first, 5}, FindStop, ReplaceAll).replaced, 1);
+    EXPECT_EQ(find({&document->body, first, 1}, {&document->body, first, 5}, FindStop, ReplaceAll).replaced,
+              1);
     EXPECT_EQ(Text(document->body), "ab x\nab\n");
     EXPECT_EQ(find(last, last, FindContinue, ReplaceOne).replaced, 1);
     EXPECT_EQ(Text(document->body), "x x\nab\n");
@@ -222,7 +225,8 @@ TEST_F(FindTest, ReplacingAgreesWithPlainTextReplacing) {
         for (auto n = 1 + random() % 4; n > 0; --n) {
             Paragraph& paragraph = Add("");
             for (auto spans = random() % 4; spans > 0; --spans) {
-                Type(*document, paragraph, letters("aAb\t", 1 + random() % 4), {.halfPoints = 20 + static_cast<int>(random() % 3)});
+                Type(*document, paragraph, letters("aAb\t", 1 + random() % 4),
+                     {.halfPoints = 20 + static_cast<int>(random() % 3)});
             }
             paragraph.anchors = {{random() % (paragraph.text.size() + 1), true, 1, "x"}};
             whole += paragraph.text + "\r";
@@ -230,7 +234,8 @@ TEST_F(FindTest, ReplacingAgreesWithPlainTextReplacing) {
         whole.pop_back();
         const std::string find = letters("ab\r", 1 + random() % 3);
         const std::string with = letters("ab\r\t", random() % 4);
-        SCOPED_TRACE(testing::PrintToString(whole) + " find " + testing::PrintToString(find) + " with " + testing::PrintToString(with));
+        SCOPED_TRACE(testing::PrintToString(whole) + " find " + testing::PrintToString(find) + " with " +
+                     testing::PrintToString(with));
         ReplaceAllOf(find, with);
         std::string result;
         for (const Block& block : document->body) result += std::get<Paragraph>(block).text + "\r";

@@ -30,8 +30,12 @@ class PasteTest : public testing::Test {
         EXPECT_THAT(CheckPackage(WriteDocx(target)), IsEmpty());
         return behind;
     }
-    void TypeAtEnd(std::string_view text) { test::Type(target, std::get<Paragraph>(target.body.back()), text); }
-    const Paragraph& At(int index) const { return std::get<Paragraph>(*std::next(target.body.begin(), index)); }
+    void TypeAtEnd(std::string_view text) {
+        test::Type(target, std::get<Paragraph>(target.body.back()), text);
+    }
+    const Paragraph& At(int index) const {
+        return std::get<Paragraph>(*std::next(target.body.begin(), index));
+    }
     const ParaFormat& FormatAt(int index) const { return target.paraFormats[At(index).format]; }
     std::string StyleXml(const std::string& id) const {
         for (const StyleDefinition& style : target.styles) {
@@ -197,9 +201,8 @@ TEST_F(PasteTest, PartsAndNotesAreBroughtAlongOnceAndRenumbered) {
     form.body =
         R"(<w:p><w:r><w:t>see</w:t></w:r><w:r><w:footnoteReference w:id="2"/></w:r><w:r><w:pict><v:shape><v:imagedata )"
         R"(r:id="rId9"/><v:textbox><w:txbxContent><w:p/></w:txbxContent></v:textbox></v:shape></w:pict></w:r></w:p>)";
-    form.relationships =
-        R"(<Relationship Id="rId9" Type="t/image" Target="media/a.png"/>)"
-        R"(<Relationship Id="rId8" Type="t/footnotes" Target="footnotes.xml"/>)";
+    form.relationships = R"(<Relationship Id="rId9" Type="t/image" Target="media/a.png"/>)"
+                         R"(<Relationship Id="rId8" Type="t/footnotes" Target="footnotes.xml"/>)";
     form.extraPartName = "word/media/a.png";
     form.extraPart = test::PngBytes(2, 2);
     test::Parts parts = test::Unzip(form.Bytes());

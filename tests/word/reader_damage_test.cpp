@@ -6,10 +6,10 @@
 #include "support/scratch.h"
 #include "word/automation.h"
 #include "word/docx/document_reader.h"
+#include "word/docx/document_writer.h"
 #include "word/docx/zip_reader.h"
 #include "word/reader_dump.h"
 #include "word/writer_samples.h"
-#include "word/docx/document_writer.h"
 
 namespace quillmark::word::docx {
 namespace {
@@ -99,7 +99,8 @@ TEST(ReaderDamage, TornFilesAreRefusedOrRead) {
         SCOPED_TRACE(round);
         std::string torn = whole;
         if (round % 2) torn.resize(random() % torn.size());
-        for (int n = 0; n < 8 && !torn.empty(); ++n) torn[random() % torn.size()] = static_cast<char>(random());
+        for (int n = 0; n < 8 && !torn.empty(); ++n)
+            torn[random() % torn.size()] = static_cast<char>(random());
         const int number = Refusal(torn).first;
         EXPECT_TRUE(number == 0 || number == error::kFileDamaged) << number;
     }

@@ -13,8 +13,12 @@ namespace quillmark::word::docx::test {
 
 namespace {
 
-std::string Number(const std::optional<int>& value) { return value ? std::to_string(*value) : "-"; }
-std::string Flag(const std::optional<bool>& value) { return value ? (*value ? "on" : "off") : "-"; }
+std::string Number(const std::optional<int>& value) {
+    return value ? std::to_string(*value) : "-";
+}
+std::string Flag(const std::optional<bool>& value) {
+    return value ? (*value ? "on" : "off") : "-";
+}
 
 std::string Extra(const std::vector<std::pair<std::string, std::string>>& extra) {
     std::string text;
@@ -37,7 +41,8 @@ struct ObjectDump {
                            picture.widthEmu, picture.heightEmu);
     }
     std::string operator()(const FormFieldData& field) const {
-        return fmt::format("[field {} {} {} '{}']", field.name, field.isCheckBox, field.checked, Visible(field.result));
+        return fmt::format("[field {} {} {} '{}']", field.name, field.isCheckBox, field.checked,
+                           Visible(field.result));
     }
     std::string operator()(const FieldBegin& begin) const { return "[begin " + begin.formData + "]"; }
     std::string operator()(const FieldInstruction& instruction) const { return "[" + instruction.text + "]"; }
@@ -47,7 +52,7 @@ struct ObjectDump {
 };
 
 class Dumper {
-   public:
+ public:
     explicit Dumper(const Document& document) : document_(document) {}
 
     void Add(const Blocks& blocks, const std::string& margin) {
@@ -58,13 +63,15 @@ class Dumper {
         }
     }
     void Add(const SectionProperties& section, const std::string& margin) {
-        Line(margin, fmt::format("SECTION {} {}x{} {} {},{},{},{} {} {} {} #{} cols {} {} {} {} {}", section.start,
-                                 section.pageWidth, section.pageHeight, section.landscape, section.topMargin,
-                                 section.rightMargin, section.bottomMargin, section.leftMargin,
-                                 section.headerDistance, section.footerDistance, section.gutter,
-                                 Number(section.pageNumberStart), section.columns, section.columnSpacing,
-                                 section.protectedForForms, section.titlePage, Extra(section.extra)));
-        for (const auto& [width, space] : section.unequalColumns) Line(margin, fmt::format("{}+{}", width, space));
+        Line(margin,
+             fmt::format("SECTION {} {}x{} {} {},{},{},{} {} {} {} #{} cols {} {} {} {} {}", section.start,
+                         section.pageWidth, section.pageHeight, section.landscape, section.topMargin,
+                         section.rightMargin, section.bottomMargin, section.leftMargin,
+                         section.headerDistance, section.footerDistance, section.gutter,
+                         Number(section.pageNumberStart), section.columns, section.columnSpacing,
+                         section.protectedForForms, section.titlePage, Extra(section.extra)));
+        for (const auto& [width, space] : section.unequalColumns)
+            Line(margin, fmt::format("{}+{}", width, space));
         for (std::size_t pages = 0; pages < 3; ++pages) {
             AddStory(section.headers[pages], fmt::format("{}header {}: ", margin, pages));
             AddStory(section.footers[pages], fmt::format("{}footer {}: ", margin, pages));
@@ -72,7 +79,7 @@ class Dumper {
     }
     std::string Take() { return std::move(out_); }
 
-   private:
+ private:
     void Line(const std::string& margin, const std::string& text) { out_ += margin + text + "\n"; }
     void AddStory(const std::unique_ptr<Story>& story, const std::string& margin) {
         if (story) Add(story->blocks, margin);
@@ -108,14 +115,15 @@ class Dumper {
         }
     }
     void Add(const Table& table, const std::string& margin) {
-        Line(margin, fmt::format("TABLE {} {} {} {}", fmt::join(table.grid, ","), table.style, Lines(table.borders),
-                                 Extra(table.extra)));
+        Line(margin, fmt::format("TABLE {} {} {} {}", fmt::join(table.grid, ","), table.style,
+                                 Lines(table.borders), Extra(table.extra)));
         for (const TableRow& row : table.rows) {
             Line(margin, fmt::format(" ROW {} {} {}", Number(row.height), row.heightRule, Extra(row.extra)));
             for (const TableCell& cell : row.cells) {
-                Line(margin, fmt::format("  CELL {} {} {} {} {} {}", cell.span, static_cast<int>(cell.vertical),
-                                         Number(cell.fill), Number(cell.verticalAlignment), Lines(cell.borders),
-                                         Extra(cell.extra)));
+                Line(margin,
+                     fmt::format("  CELL {} {} {} {} {} {}", cell.span, static_cast<int>(cell.vertical),
+                                 Number(cell.fill), Number(cell.verticalAlignment), Lines(cell.borders),
+                                 Extra(cell.extra)));
                 Add(cell.blocks, margin + "    ");
             }
         }
@@ -138,9 +146,11 @@ void CheckParagraph(const Document& document, const Paragraph& paragraph, std::s
         if (span.format >= document.charFormats.size()) faults += "an unknown format; ";
         length += span.length;
     }
-    if (length != paragraph.text.size()) faults += "spans do not add up in '" + Visible(paragraph.text) + "'; ";
+    if (length != paragraph.text.size())
+        faults += "spans do not add up in '" + Visible(paragraph.text) + "'; ";
     const auto objects = std::ranges::count(paragraph.text, character::kObject);
-    if (objects != std::ssize(paragraph.objects)) faults += "objects do not match '" + Visible(paragraph.text) + "'; ";
+    if (objects != std::ssize(paragraph.objects))
+        faults += "objects do not match '" + Visible(paragraph.text) + "'; ";
     if (paragraph.text.find('\r') != std::string::npos) faults += "a paragraph end in a text; ";
     for (const Anchor& anchor : paragraph.anchors) {
         if (anchor.offset > paragraph.text.size()) faults += "a bookmark beyond the text; ";
@@ -148,9 +158,11 @@ void CheckParagraph(const Document& document, const Paragraph& paragraph, std::s
 }
 
 void CheckBlocks(const Document& document, const Blocks& blocks, std::string& faults) {
-    if (blocks.empty() || !std::holds_alternative<Paragraph>(blocks.back())) faults += "blocks without an end; ";
+    if (blocks.empty() || !std::holds_alternative<Paragraph>(blocks.back()))
+        faults += "blocks without an end; ";
     for (const Block& block : blocks) {
-        if (const auto* paragraph = std::get_if<Paragraph>(&block)) CheckParagraph(document, *paragraph, faults);
+        if (const auto* paragraph = std::get_if<Paragraph>(&block))
+            CheckParagraph(document, *paragraph, faults);
         const auto* table = std::get_if<std::unique_ptr<Table>>(&block);
         if (!table) continue;
         if ((*table)->rows.empty()) faults += "a table without rows; ";
@@ -163,14 +175,15 @@ void CheckBlocks(const Document& document, const Blocks& blocks, std::string& fa
 }  // namespace
 
 std::string Describe(const CharFormat& format) {
-    return fmt::format("{}/{}/{}/{}/{}/{}/{}{}", format.style, format.font, Flag(format.bold), Flag(format.italic),
-                       Number(format.halfPoints), Number(format.underline), Flag(format.superscript),
-                       Extra(format.extra));
+    return fmt::format("{}/{}/{}/{}/{}/{}/{}{}", format.style, format.font, Flag(format.bold),
+                       Flag(format.italic), Number(format.halfPoints), Number(format.underline),
+                       Flag(format.superscript), Extra(format.extra));
 }
 
 std::string Describe(const ParaFormat& format) {
     std::string tabs;
-    for (const TabStop& tab : format.tabs) tabs += fmt::format("{}{}{},", tab.position, tab.alignment, tab.leader);
+    for (const TabStop& tab : format.tabs)
+        tabs += fmt::format("{}{}{},", tab.position, tab.alignment, tab.leader);
     return fmt::format("{} list {}.{} tabs {} space {} {} line {} {} ind {} {} {} jc {} {}", format.style,
                        Number(format.numId), format.listLevel, tabs, Number(format.spaceBefore),
                        Number(format.spaceAfter), Number(format.line), static_cast<int>(format.lineRule),
@@ -228,7 +241,8 @@ std::string Faults(const Document& document) {
 
 std::string BareDocx::Bytes() const {
     std::string declarations;
-    for (const NamespaceName& name : kNamespaces) declarations += fmt::format(" {}=\"{}\"", name.declaration, name.uri);
+    for (const NamespaceName& name : kNamespaces)
+        declarations += fmt::format(" {}=\"{}\"", name.declaration, name.uri);
     const auto root = [&](const char* tag, const std::string& content) {
         return fmt::format("<w:{0}{1} mc:Ignorable=\"w14 w15\">{2}</w:{0}>", tag, declarations, content);
     };
@@ -237,8 +251,8 @@ std::string BareDocx::Bytes() const {
         return fmt::format(R"(<Relationship Id="{}" Type="{}/{}" Target="{}"/>)", id, base, type, target);
     };
     const auto links = [](const std::string& all) {
-        return R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)" + all +
-               "</Relationships>";
+        return R"(<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">)" +
+               all + "</Relationships>";
     };
     Parts parts;
     parts["[Content_Types].xml"] =
@@ -259,8 +273,12 @@ std::string BareDocx::Bytes() const {
     return Zip(parts);
 }
 
-std::unique_ptr<Document> BareDocx::Open() const { return OpenDocxBytes(Bytes(), "form.docx"); }
+std::unique_ptr<Document> BareDocx::Open() const {
+    return OpenDocxBytes(Bytes(), "form.docx");
+}
 
-std::unique_ptr<Document> OpenBody(std::string_view body) { return BareDocx{std::string(body)}.Open(); }
+std::unique_ptr<Document> OpenBody(std::string_view body) {
+    return BareDocx{std::string(body)}.Open();
+}
 
 }  // namespace quillmark::word::docx::test

@@ -13,7 +13,7 @@ namespace {
 
 /// Documents of everything that the model can say and a file can hold.
 class RandomModel {
-   public:
+ public:
     explicit RandomModel(unsigned seed) : random_(seed), document_(test::EmptyDocument()) {}
 
     std::unique_ptr<Document> Build() {
@@ -23,7 +23,8 @@ class RandomModel {
         for (Block& block : document_->body) {
             auto* paragraph = std::get_if<Paragraph>(&block);
             const bool isLast = &block == &document_->body.back();
-            if (paragraph && !isLast && OneIn(4)) paragraph->section = std::make_unique<SectionProperties>(Section());
+            if (paragraph && !isLast && OneIn(4))
+                paragraph->section = std::make_unique<SectionProperties>(Section());
         }
         document_->lastSection = Section();
         document_->defaultTabStop = Below(1000);
@@ -32,7 +33,7 @@ class RandomModel {
         return std::move(document_);
     }
 
-   private:
+ private:
     int Below(int bound) { return static_cast<int>(random_() % static_cast<unsigned>(bound)); }
     bool OneIn(int n) { return Below(n) == 0; }
     std::optional<int> Perhaps(int from, int to) {
@@ -41,7 +42,8 @@ class RandomModel {
     std::optional<bool> PerhapsFlag() { return OneIn(2) ? std::optional(OneIn(2)) : std::nullopt; }
 
     std::string Words() {
-        constexpr std::string_view kPieces[] = {"deed", " ", "&<>\"'", "\t", "\v", "\f", "\x0e", "\xC3\xA9", "]]>"};
+        constexpr std::string_view kPieces[] = {"deed", " ",    "&<>\"'",   "\t", "\v",
+                                                "\f",   "\x0e", "\xC3\xA9", "]]>"};
         std::string text;
         for (int n = Below(5); n >= 0; --n) text += kPieces[Below(static_cast<int>(std::size(kPieces)))];
         return text;
@@ -55,7 +57,8 @@ class RandomModel {
         return look;
     }
     ParaFormat Format() {
-        ParaFormat format{.numId = Perhaps(0, 3), .spaceBefore = Perhaps(0, 500), .spaceAfter = Perhaps(0, 500)};
+        ParaFormat format{
+            .numId = Perhaps(0, 3), .spaceBefore = Perhaps(0, 500), .spaceAfter = Perhaps(0, 500)};
         if (OneIn(2)) format.style = "ListParagraph";
         if (format.numId) format.listLevel = Below(9);
         if (OneIn(2)) format.tabs = {{-20, "clear", ""}, {300 + Below(9), "decimal", "dot"}};
@@ -65,7 +68,8 @@ class RandomModel {
         format.rightIndent = Perhaps(-999, 999);
         format.firstLine = Perhaps(-999, 999);
         format.alignment = Perhaps(0, 4);
-        if (OneIn(2)) format.extra = {{"keepNext", "<w:keepNext/>"}, {"outlineLvl", "<w:outlineLvl w:val=\"1\"/>"}};
+        if (OneIn(2))
+            format.extra = {{"keepNext", "<w:keepNext/>"}, {"outlineLvl", "<w:outlineLvl w:val=\"1\"/>"}};
         return format;
     }
     InlineObject Object() {
@@ -89,7 +93,8 @@ class RandomModel {
         test::Insert(*document_, paragraph, FieldEnd{}, look);
     }
     void AddParagraph(Blocks& blocks) {
-        Paragraph& paragraph = test::AddParagraph(*document_, blocks, OneIn(4) ? "" : Words(), Format(), Look());
+        Paragraph& paragraph =
+            test::AddParagraph(*document_, blocks, OneIn(4) ? "" : Words(), Format(), Look());
         for (int n = Below(4); n > 0; --n) {
             if (OneIn(3)) test::Insert(*document_, paragraph, Object(), Look());
             if (OneIn(6)) test::Insert(*document_, paragraph, RawInline{"<w:r><w:softHyphen/></w:r>"});
@@ -98,7 +103,8 @@ class RandomModel {
         }
         if (!OneIn(3)) return;
         const int id = document_->nextBookmarkId++;
-        paragraph.anchors = {{0, true, id, "mark" + std::to_string(++names_)}, {paragraph.text.size(), false, id, ""}};
+        paragraph.anchors = {{0, true, id, "mark" + std::to_string(++names_)},
+                             {paragraph.text.size(), false, id, ""}};
     }
     BorderLine Line() { return {OneIn(2) ? 1 : Below(2) * 7}; }
     void AddTable(Blocks& blocks, int depth) {

@@ -16,8 +16,12 @@ using test::Text;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-const Paragraph& First(const Document& document) { return std::get<Paragraph>(document.body.front()); }
-const ParaFormat& FirstFormat(const Document& document) { return document.paraFormats[First(document).format]; }
+const Paragraph& First(const Document& document) {
+    return std::get<Paragraph>(document.body.front());
+}
+const ParaFormat& FirstFormat(const Document& document) {
+    return document.paraFormats[First(document).format];
+}
 
 TEST(Reader, TextOfRunsIsFlat) {
     const auto document = OpenBody(
@@ -71,16 +75,16 @@ TEST(Reader, AlternativesOfDrawingsStayAndOthersAreDecided) {
         R"(</mc:Fallback></mc:AlternateContent></w:r><mc:AlternateContent><mc:Choice Requires="w14"><w:r><w:t>new)"
         R"(</w:t></w:r></mc:Choice><mc:Fallback><w:r><w:t>old</w:t></w:r></mc:Fallback></mc:AlternateContent></w:p>)");
     ASSERT_EQ(Text(document->body), "<1>old\n");
-    EXPECT_EQ(std::get<RawInline>(First(*document).objects.at(0)).xml,
-              R"(<w:r><mc:AlternateContent><mc:Choice Requires="wps"><w:drawing/></mc:Choice><mc:Fallback><w:pict/>)"
-              R"(</mc:Fallback></mc:AlternateContent></w:r>)");
+    EXPECT_EQ(
+        std::get<RawInline>(First(*document).objects.at(0)).xml,
+        R"(<w:r><mc:AlternateContent><mc:Choice Requires="wps"><w:drawing/></mc:Choice><mc:Fallback><w:pict/>)"
+        R"(</mc:Fallback></mc:AlternateContent></w:r>)");
 }
 
 TEST(Reader, HyperlinksAndSimpleFieldsBecomeFields) {
     BareDocx docx;
-    docx.body =
-        R"(<w:p><w:hyperlink r:id="rId9" w:anchor="top"><w:r><w:t>office</w:t></w:r></w:hyperlink>)"
-        R"(<w:fldSimple w:instr=" PAGE "><w:r><w:t>3</w:t></w:r></w:fldSimple></w:p>)";
+    docx.body = R"(<w:p><w:hyperlink r:id="rId9" w:anchor="top"><w:r><w:t>office</w:t></w:r></w:hyperlink>)"
+                R"(<w:fldSimple w:instr=" PAGE "><w:r><w:t>3</w:t></w:r></w:fldSimple></w:p>)";
     docx.relationships =
         R"(<Relationship Id="rId9" Type="t/hyperlink" Target="file:///c:\a&quot;b" TargetMode="External"/>)";
     const auto document = docx.Open();
@@ -130,7 +134,8 @@ TEST(Reader, ThemesAreNamedOutright) {
         R"(w:styleId="H1"><w:name w:val="heading 1"/><w:basedOn w:val="Missing"/><w:rPr><w:rFonts )"
         R"(w:asciiTheme="majorHAnsi"/><w:color w:val="2F5496" w:themeColor="accent1" w:themeShade="BF"/></w:rPr>)"
         R"(</w:style>)";
-    docx.body = R"(<w:p><w:pPr><w:pStyle w:val="H1"/></w:pPr></w:p><w:p><w:pPr><w:pStyle w:val="None"/></w:pPr></w:p>)";
+    docx.body =
+        R"(<w:p><w:pPr><w:pStyle w:val="H1"/></w:pPr></w:p><w:p><w:pPr><w:pStyle w:val="None"/></w:pPr></w:p>)";
     docx.relationships = R"(<Relationship Id="rId9" Type="t/theme" Target="/word/theme/theme1.xml"/>)";
     docx.extraPartName = "word/theme/theme1.xml";
     docx.extraPart =
@@ -140,7 +145,8 @@ TEST(Reader, ThemesAreNamedOutright) {
     const auto document = docx.Open();
     EXPECT_THAT(document->docDefaults, HasSubstr(R"(<w:rFonts w:ascii="Calibri" w:hAnsi="Calibri"/>)"));
     ASSERT_EQ(document->styles.size(), 1u);
-    EXPECT_THAT(document->styles[0].xml, HasSubstr(R"(<w:rFonts w:ascii="Calibri Light"/><w:color w:val="2F5496"/>)"));
+    EXPECT_THAT(document->styles[0].xml,
+                HasSubstr(R"(<w:rFonts w:ascii="Calibri Light"/><w:color w:val="2F5496"/>)"));
     EXPECT_THAT(document->styles[0].xml, testing::Not(HasSubstr("basedOn")));
     EXPECT_EQ(FirstFormat(*document).style, "H1");
     EXPECT_EQ(document->paraFormats[std::get<Paragraph>(document->body.back()).format].style, "");
@@ -154,9 +160,8 @@ TEST(Reader, ListsGetTheModelsNumbers) {
         R"(<w:num w:numId="31"><w:abstractNumId w:val="7"/></w:num><w:num w:numId="32"><w:abstractNumId w:val="7"/>)"
         R"(<w:lvlOverride w:ilvl="0"><w:startOverride w:val="1"/></w:lvlOverride></w:num><w:num w:numId="33">)"
         R"(<w:abstractNumId w:val="99"/></w:num>)";
-    docx.body =
-        R"(<w:p><w:pPr><w:numPr><w:ilvl w:val="2"/><w:numId w:val="32"/></w:numPr></w:pPr></w:p>)"
-        R"(<w:p><w:pPr><w:numPr><w:numId w:val="33"/></w:numPr></w:pPr></w:p>)";
+    docx.body = R"(<w:p><w:pPr><w:numPr><w:ilvl w:val="2"/><w:numId w:val="32"/></w:numPr></w:pPr></w:p>)"
+                R"(<w:p><w:pPr><w:numPr><w:numId w:val="33"/></w:numPr></w:pPr></w:p>)";
     const auto document = docx.Open();
     EXPECT_EQ(FirstFormat(*document).numId, 2);
     EXPECT_EQ(FirstFormat(*document).listLevel, 2);
@@ -164,7 +169,8 @@ TEST(Reader, ListsGetTheModelsNumbers) {
     ASSERT_EQ(document->lists.size(), 2u);
     EXPECT_TRUE(document->lists[1].restarts);
     // The schema wants the kind of number before the style.
-    EXPECT_THAT(document->abstractLists[0].xml, HasSubstr(R"(<w:numFmt w:val="decimal"/><w:pStyle w:val="A"/>)"));
+    EXPECT_THAT(document->abstractLists[0].xml,
+                HasSubstr(R"(<w:numFmt w:val="decimal"/><w:pStyle w:val="A"/>)"));
 }
 
 TEST(Reader, TablesAreMadeWhole) {

@@ -91,6 +91,13 @@ TEST_F(TraceTest, ARangeIsKeptOnceSomethingElseWasDoneSinceItWasTaken) {
                       }));
 }
 
+TEST_F(TraceTest, ARangeForABreakIsKeptEvenWhereNothingWasTyped) {
+    const Range empty = word_.Selection.Range();
+    empty.InsertBreak(SectionBreakNextPage);
+    word_.Selection.InsertBreak(PageBreak);
+    EXPECT_EQ(Take(), (Lines{"Range(1).InsertBreak 2", "Selection.InsertBreak 7"}));
+}
+
 TEST_F(TraceTest, ARangeUsedAtOnceIsTheSelections) {
     Document document = word_.Documents.Add();
     const Range range = word_.Selection.Range();

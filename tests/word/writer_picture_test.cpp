@@ -17,7 +17,7 @@ std::string Big(std::uint32_t value, int size) {
     return bytes;
 }
 
-std::string Little(std::uint32_t value, int size) {
+std::string Little(std::uint64_t value, int size) {
     std::string bytes;
     for (int i = 0; i < size; ++i) bytes += static_cast<char>(value >> (8 * i) & 0xFF);
     return bytes;

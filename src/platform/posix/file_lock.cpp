@@ -6,15 +6,12 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <chrono>
 #include <thread>
 
 #include "platform/atomic_file.h"
 
 namespace quillmark {
 namespace {
-
-constexpr std::chrono::milliseconds kPause{50};
 
 std::error_code LastError() {
     return {errno, std::generic_category()};
@@ -38,7 +35,8 @@ struct FileLock::Handle {
     }
 };
 
-FileLock::FileLock(const std::filesystem::path& file, const KeepWaiting& keepWaiting)
+FileLock::FileLock(const std::filesystem::path& file, const KeepWaiting& keepWaiting,
+                   std::chrono::milliseconds pause)
     : handle_(new Handle{::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)}) {
     if (handle_->descriptor < 0) throw FileError(file, LastError());
     while (!TryLock(handle_->descriptor)) {
@@ -46,7 +44,7 @@ FileLock::FileLock(const std::filesystem::path& file, const KeepWaiting& keepWai
         if (errno != EAGAIN && errno != EACCES) throw FileError(file, LastError());
         if (keepWaiting && !keepWaiting())
             throw FileError(file, FileError::Kind::InUse, "is locked by another user");
-        std::this_thread::sleep_for(kPause);
+        std::this_thread::sleep_for(pause);
     }
 }
 

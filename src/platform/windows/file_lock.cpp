@@ -7,11 +7,6 @@
 #include "platform/atomic_file.h"
 
 namespace quillmark {
-namespace {
-
-constexpr DWORD kPause = 50;  // milliseconds
-
-}  // namespace
 
 struct FileLock::Handle {
     HANDLE file = INVALID_HANDLE_VALUE;
@@ -21,7 +16,9 @@ struct FileLock::Handle {
 };
 
 // Opened for this program alone, the file is held as long as it is open.
-FileLock::FileLock(const std::filesystem::path& file, const KeepWaiting& keepWaiting) : handle_(new Handle) {
+FileLock::FileLock(const std::filesystem::path& file, const KeepWaiting& keepWaiting,
+                   std::chrono::milliseconds pause)
+    : handle_(new Handle) {
     while (true) {
         handle_->file = CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_ALWAYS,
                                     FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -29,7 +26,7 @@ FileLock::FileLock(const std::filesystem::path& file, const KeepWaiting& keepWai
         const std::error_code error(static_cast<int>(GetLastError()), std::system_category());
         const FileError failure(file, error);
         if (failure.kind != FileError::Kind::InUse || (keepWaiting && !keepWaiting())) throw failure;
-        Sleep(kPause);
+        Sleep(static_cast<DWORD>(pause.count()));
     }
 }
 

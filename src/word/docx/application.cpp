@@ -64,7 +64,8 @@ class ApplicationObject::Documents final : public LateBound<Documents> {
 
  private:
     Value Open(Arguments arguments) {
-        const ArgumentReader reader(arguments, {"FileName", "ConfirmConversions", "ReadOnly", "AddToRecentFiles"});
+        const ArgumentReader reader(arguments,
+                                    {"FileName", "ConfirmConversions", "ReadOnly", "AddToRecentFiles"});
         return ObjectPtr(engine_.OpenFile(TextOf(reader["FileName"])).Self());
     }
     Value Item(Arguments arguments) {

@@ -6,8 +6,8 @@
 #include "word/docx/document.h"
 
 /// What a new document looks like before anything is set: Times New Roman 12 point, single-spaced, nothing
-/// after paragraphs. The defaults of the document stay at the word processor's own (10 point); the look is the
-/// style Normal's, so that styles which come with pasted text need not fight it.
+/// after paragraphs. The defaults of the document stay at the word processor's own (10 point); the look is
+/// the style Normal's, so that styles which come with pasted text need not fight it.
 namespace quillmark::word::docx {
 
 /// The styles of a new document, Normal first.

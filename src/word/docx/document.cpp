@@ -30,8 +30,8 @@ class Mixer {
 
 std::size_t HashOf(const CharFormat& format) {
     Mixer mixer;
-    mixer << format.style << format.font << format.bold << format.italic << format.halfPoints << format.underline
-          << format.superscript;
+    mixer << format.style << format.font << format.bold << format.italic << format.halfPoints
+          << format.underline << format.superscript;
     for (const auto& [name, xml] : format.extra) mixer << xml;
     return mixer.hash();
 }
@@ -39,8 +39,8 @@ std::size_t HashOf(const CharFormat& format) {
 std::size_t HashOf(const ParaFormat& format) {
     Mixer mixer;
     mixer << format.style << format.numId << static_cast<std::size_t>(format.listLevel) << format.spaceBefore
-          << format.spaceAfter << format.line << static_cast<std::size_t>(format.lineRule) << format.leftIndent
-          << format.rightIndent << format.firstLine << format.alignment;
+          << format.spaceAfter << format.line << static_cast<std::size_t>(format.lineRule)
+          << format.leftIndent << format.rightIndent << format.firstLine << format.alignment;
     for (const TabStop& stop : format.tabs) mixer << static_cast<std::size_t>(stop.position);
     for (const auto& [name, xml] : format.extra) mixer << xml;
     return mixer.hash();

@@ -61,7 +61,8 @@ const MemberTable<ZoomObject>& ZoomObject::Members() {
              zoom.document_.view().pageFit = WholeWithin(value, kNoPageFit, 3);
              zoom.document_.model().zoomToPageWidth = zoom.document_.view().pageFit == PageFitBestFit;
          }},
-        {"Percentage", [](ZoomObject& zoom, Arguments) { return Whole(zoom.document_.view().zoomPercentage); },
+        {"Percentage",
+         [](ZoomObject& zoom, Arguments) { return Whole(zoom.document_.view().zoomPercentage); },
          [](ZoomObject& zoom, const Value& value) {
              zoom.document_.view().zoomPercentage = WholeWithin(value, 10, 500);
              zoom.document_.view().pageFit = kNoPageFit;

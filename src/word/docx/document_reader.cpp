@@ -17,12 +17,12 @@ namespace {
 
 /// Opens one document, part by part.
 class DocumentReader {
-   public:
+ public:
     DocumentReader(Package& package, Document& document) : package_(package), context_(package, document) {}
 
     void Read();
 
-   private:
+ private:
     std::unique_ptr<XmlTree> PartOfType(std::string_view type);
     std::unique_ptr<XmlTree> TextPart(const std::string& name);
     void ReadTheme();
@@ -62,8 +62,7 @@ void DocumentReader::Read() {
         KeepNotes("footnotes");
         KeepNotes("endnotes");
     }
-    // Drawings name its colours.
-    if (!context_.document.relations.empty()) KeepPart("theme");
+    if (context_.usesTheme) KeepPart("theme");
 }
 
 void DocumentReader::ReadTheme() {

@@ -28,16 +28,27 @@ void ShiftAnchors(Paragraph& paragraph, std::size_t offset, std::size_t length) 
 void EraseAnchors(Paragraph& paragraph, std::size_t from, std::size_t to) {
     const auto isInside = [&](const Anchor& anchor) { return anchor.offset > from && anchor.offset < to; };
     const auto goes = [&](const Anchor& anchor) {
-        return isInside(anchor) && std::count_if(paragraph.anchors.begin(), paragraph.anchors.end(),
-                                                 [&](const Anchor& other) {
-                                                     return other.id == anchor.id && isInside(other);
-                                                 }) == 2;
+        return isInside(anchor) &&
+               std::count_if(paragraph.anchors.begin(), paragraph.anchors.end(), [&](const Anchor& other) {
+                   return other.id == anchor.id && isInside(other);
+               }) == 2;
     };
     std::vector<Anchor> kept;
-    std::copy_if(paragraph.anchors.begin(), paragraph.anchors.end(), std::back_inserter(kept), std::not_fn(goes));
+    std::copy_if(paragraph.anchors.begin(), paragraph.anchors.end(), std::back_inserter(kept),
+                 std::not_fn(goes));
     for (Anchor& anchor : kept)
         if (anchor.offset > from) anchor.offset = anchor.offset <= to ? from : anchor.offset - (to - from);
     paragraph.anchors = std::move(kept);
+}
+
+/// Whether the character is a mark of a field that goes on in another paragraph.
+bool IsLoneFieldMark(const Paragraph& paragraph, std::size_t from, std::size_t to) {
+    if (paragraph.text[from] != character::kObject) return false;
+    const InlineObject& object = paragraph.objects[ObjectsBefore(paragraph.text, from)];
+    const bool isMark =
+        std::holds_alternative<FieldBegin>(object) || std::holds_alternative<FieldInstruction>(object) ||
+        std::holds_alternative<FieldSeparator>(object) || std::holds_alternative<FieldEnd>(object);
+    return isMark && WithWholeFields(paragraph, {from, to}) == TextPart{from, to};
 }
 
 void CollectContainers(Block& block, std::vector<const Blocks*>& containers) {
@@ -90,6 +101,14 @@ FormatId Editor::FormatAt(const Place& place) {
     return paragraph.text.empty() ? paragraph.markFormat : SpanFormatBefore(paragraph.spans, place.offset);
 }
 
+bool Editor::InOrder(const Place& first, const Place& second) {
+    if (first.blocks != second.blocks) return false;
+    if (first.block == second.block) return first.offset <= second.offset;
+    for (auto block = first.block; block != first.blocks->end(); ++block)
+        if (block == second.block) return true;
+    return false;
+}
+
 Place Editor::InParagraph(const Place& place) {
     if (std::holds_alternative<Paragraph>(*place.block)) return place;
     return {place.blocks, InsertParagraphBefore(*place.blocks, place.block, 0, 0), 0};
@@ -99,7 +118,8 @@ Place Editor::InParagraph(const Place& place) {
 
 Place Editor::InsertPlain(const Place& at, std::string_view text, FormatId format) {
     Paragraph& paragraph = ParagraphAt(at);
-    if (at.offset == paragraph.text.size() && !paragraph.spans.empty() && paragraph.spans.back().format == format)
+    if (at.offset == paragraph.text.size() && !paragraph.spans.empty() &&
+        paragraph.spans.back().format == format)
         paragraph.spans.back().length += text.size();
     else
         InsertIntoSpans(paragraph.spans, at.offset, text.size(), format);
@@ -110,11 +130,10 @@ Place Editor::InsertPlain(const Place& at, std::string_view text, FormatId forma
 }
 
 Place Editor::InsertText(const Place& at, std::string_view text, FormatId format) {
-    Touch();
     Place place = at;
     while (!text.empty()) {
-        const auto stop = std::find_if(text.begin(), text.end(),
-                                       [](char c) { return IsControl(c) && !IsTextControl(c); });
+        const auto stop =
+            std::find_if(text.begin(), text.end(), [](char c) { return IsControl(c) && !IsTextControl(c); });
         const auto length = static_cast<std::size_t>(stop - text.begin());
         if (length > 0) place = InsertPlain(place, text.substr(0, length), format);
         text.remove_prefix(length);
@@ -126,7 +145,6 @@ Place Editor::InsertText(const Place& at, std::string_view text, FormatId format
 }
 
 Place Editor::InsertObject(const Place& at, InlineObject object, FormatId format) {
-    Touch();
     Paragraph& paragraph = ParagraphAt(at);
     const std::size_t index = ObjectsBefore(paragraph.text, at.offset);
     const bool isFormField = std::holds_alternative<FormFieldData>(object);
@@ -140,7 +158,6 @@ Place Editor::InsertObject(const Place& at, InlineObject object, FormatId format
 
 Blocks::iterator Editor::InsertParagraphBefore(Blocks& blocks, Blocks::iterator block, FormatId format,
                                                FormatId markFormat) {
-    Touch();
     Paragraph paragraph;
     paragraph.format = format;
     paragraph.markFormat = markFormat;
@@ -171,8 +188,9 @@ Place Editor::Split(const Place& at, FormatId markFormat) {
         first.text.erase(at.offset);
         second.spans = CutSpans(first.spans, at.offset);
     }
-    const auto moved = std::stable_partition(first.anchors.begin(), first.anchors.end(),
-                                             [&](const Anchor& anchor) { return anchor.offset <= at.offset; });
+    const auto moved =
+        std::stable_partition(first.anchors.begin(), first.anchors.end(),
+                              [&](const Anchor& anchor) { return anchor.offset <= at.offset; });
     for (auto anchor = moved; anchor != first.anchors.end(); ++anchor) {
         anchor->offset -= at.offset;
         second.anchors.push_back(std::move(*anchor));
@@ -183,7 +201,6 @@ Place Editor::Split(const Place& at, FormatId markFormat) {
 }
 
 Table& Editor::InsertTable(const Place& at, std::unique_ptr<Table> table) {
-    Touch();
     ForgetObjectPlaces();
     const Paragraph& paragraph = ParagraphAt(at);
     const Place behind = at.offset > 0 ? Split(at, paragraph.markFormat) : at;
@@ -205,9 +222,11 @@ Table& Editor::InsertTable(const Place& at, std::unique_ptr<Table> table) {
 
 // ---- Taking out ----
 
-void Editor::EraseInParagraph(Blocks::iterator block, std::size_t from, std::size_t to) {
-    if (from == to) return;
+std::size_t Editor::EraseInParagraph(Blocks::iterator block, std::size_t first, std::size_t last) {
+    if (first == last) return first;
     Paragraph& paragraph = std::get<Paragraph>(*block);
+    const auto [from, to] =
+        paragraph.objects.empty() ? TextPart{first, last} : WithWholeFields(paragraph, {first, last});
     const std::size_t firstObject = ObjectsBefore(paragraph.text, from);
     const std::size_t lastObject = ObjectsBefore(paragraph.text, to);
     if (lastObject > firstObject) ForgetObjectPlaces();
@@ -216,6 +235,7 @@ void Editor::EraseInParagraph(Blocks::iterator block, std::size_t from, std::siz
     EraseFromSpans(paragraph.spans, from, to);
     paragraph.text.erase(from, to - from);
     marks_.Removed(block, from, to);
+    return from;
 }
 
 void Editor::JoinWithNext(Blocks& blocks, Blocks::iterator block) {
@@ -246,11 +266,14 @@ void Editor::JoinWithNext(Blocks& blocks, Blocks::iterator block) {
     blocks.erase(next);
 }
 
-void Editor::Erase(const Place& from, const Place& to) {
-    Touch();
-    if (from.block == to.block) return EraseInParagraph(from.block, from.offset, to.offset);
+Place Editor::Erase(const Place& start, const Place& to) {
+    Place from = start;
+    if (from.block == to.block) {
+        from.offset = EraseInParagraph(from.block, from.offset, to.offset);
+        return from;
+    }
     EraseInParagraph(to.block, 0, to.offset);
-    EraseInParagraph(from.block, from.offset, ParagraphAt(from).text.size());
+    from.offset = EraseInParagraph(from.block, from.offset, ParagraphAt(from).text.size());
     std::vector<const Block*> gone;
     std::vector<const Blocks*> containers;
     for (auto block = std::next(from.block); block != to.block; ++block) {
@@ -266,15 +289,18 @@ void Editor::Erase(const Place& from, const Place& to) {
         ForgetObjectPlaces();
     }
     JoinWithNext(*from.blocks, from.block);
+    return from;
 }
 
 bool Editor::EraseBefore(const Place& at) {
     if (at.offset > 0) {
-        Erase({at.blocks, at.block, CharacterBefore(ParagraphAt(at).text, at.offset)}, at);
+        const Place before = {at.blocks, at.block, CharacterBefore(ParagraphAt(at).text, at.offset)};
+        if (IsLoneFieldMark(ParagraphAt(at), before.offset, at.offset)) return false;
+        Erase(before, at);
         return true;
     }
-    if (at.block == at.blocks->begin() || !std::holds_alternative<Paragraph>(*std::prev(at.block))) return false;
-    Touch();
+    if (at.block == at.blocks->begin() || !std::holds_alternative<Paragraph>(*std::prev(at.block)))
+        return false;
     JoinWithNext(*at.blocks, std::prev(at.block));
     return true;
 }
@@ -285,7 +311,6 @@ void Editor::Abandon(Blocks& blocks, const Place& refuge) {
     marks_.Abandon({}, containers, refuge);
     ForgetObjectPlaces();
     ++removals_;
-    Touch();
 }
 
 }  // namespace quillmark::word::docx

@@ -24,9 +24,6 @@ class Editor {
     Document& document() { return *document_; }
     const Document& document() const { return *document_; }
     MarkList& marks() { return marks_; }
-    /// Grows with every change through this class, and where `Touch` says so.
-    std::uint64_t version() const { return version_; }
-    void Touch() { ++version_; }
     /// Grows whenever whole paragraphs or tables may have gone.
     std::uint64_t removals() const { return removals_; }
 
@@ -44,23 +41,27 @@ class Editor {
     /// The block of the body that the place is in or below; the body's end for a place in a header or footer.
     Blocks::iterator TopLevelBlock(const Place& place);
 
+    /// Whether the second place can be reached by going on from the first one within the same blocks.
+    static bool InOrder(const Place& first, const Place& second);
     /// The place itself, or in an empty paragraph put in front of the block when that is no paragraph.
     Place InParagraph(const Place& place);
 
     // ---- Text. Each gives the place behind what was put in. ----
 
-    /// Puts text in: "\r" (also "\n" and "\r\n") ends a paragraph, "\v", "\t", "\f" and "\x0e" are the model's
-    /// characters; other control characters are left out, since no file could hold them.
+    /// Puts text in: "\r" (also "\n" and "\r\n") ends a paragraph, "\v", "\t", "\f" and "\x0e" are the
+    /// model's characters; other control characters are left out, since no file could hold them.
     Place InsertText(const Place& at, std::string_view text, FormatId format);
     Place InsertObject(const Place& at, InlineObject object, FormatId format);
     /// Ends the paragraph here. The part before gets a mark of this format, the part behind keeps the old
     /// mark unless it is empty; both have the paragraph's format, and the later one the section that it ends.
     Place Split(const Place& at, FormatId markFormat);
-    /// Takes out what is between two places of the same blocks. Where a paragraph mark goes, what is left of
-    /// both paragraphs takes the later one's format, unless nothing is left of that one.
-    void Erase(const Place& from, const Place& to);
-    /// Takes out the character before the place, or the paragraph mark. False at the start of the blocks and
-    /// behind a table, where there is nothing to take out.
+    /// Takes out what is between two places of the same blocks, and all of a field that would lose a mark.
+    /// Where a paragraph mark goes, what is left of both paragraphs takes the later one's format, unless
+    /// nothing is left of that one. Gives the place where the text was.
+    Place Erase(const Place& from, const Place& to);
+    /// Takes out the character before the place (a field as a whole), or the paragraph mark. False where
+    /// there is nothing to take out: at the start of the blocks, behind a table, and at the mark of a field
+    /// that goes on in another paragraph.
     bool EraseBefore(const Place& at);
     /// Puts an empty paragraph in front of a block.
     Blocks::iterator InsertParagraphBefore(Blocks& blocks, Blocks::iterator block, FormatId format,
@@ -76,8 +77,8 @@ class Editor {
     const std::vector<SectionProperties*>& Sections();
     /// The section that the place is in; null in a header or footer.
     SectionProperties* SectionAt(const Place& place);
-    /// Ends the section here. The part before keeps how the section starts, its page and its footers; the part
-    /// behind starts as `kind` says, keeps the page and shows the footers of the part before.
+    /// Ends the section here. The part before keeps how the section starts, its page and its footers; the
+    /// part behind starts as `kind` says, keeps the page and shows the footers of the part before.
     Place InsertSectionBreak(const Place& at, int kind);
 
     // ---- After others changed the document ----
@@ -93,14 +94,14 @@ class Editor {
 
  private:
     Place InsertPlain(const Place& at, std::string_view text, FormatId format);
-    void EraseInParagraph(Blocks::iterator block, std::size_t from, std::size_t to);
+    /// Gives the offset where the text was.
+    std::size_t EraseInParagraph(Blocks::iterator block, std::size_t from, std::size_t to);
     void JoinWithNext(Blocks& blocks, Blocks::iterator block);
     void ForgetObjectPlaces() { formFieldsKnown_ = false; }
     void CountFormFieldNames();
 
     std::unique_ptr<Document> document_;
     MarkList marks_;
-    std::uint64_t version_ = 0;
     std::uint64_t removals_ = 0;
     std::vector<SectionProperties*> sections_;
     bool sectionsKnown_ = false;

@@ -11,7 +11,8 @@ bool Holds(const std::vector<const T*>& list, const T* wanted) {
 }
 
 bool IsBehind(const Mark& mark, std::size_t offset) {
-    return mark.place().offset > offset || (mark.place().offset == offset && mark.gravity() == Gravity::Behind);
+    return mark.place().offset > offset ||
+           (mark.place().offset == offset && mark.gravity() == Gravity::Behind);
 }
 
 }  // namespace

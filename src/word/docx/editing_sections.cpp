@@ -103,12 +103,10 @@ Place Editor::InsertSectionBreak(const Place& at, int kind) {
     section->start = kind;
     std::get<Paragraph>(*end).section = std::move(before);
     sectionsKnown_ = false;
-    Touch();
     return behind;
 }
 
 void Editor::Reattach() {
-    Touch();
     ++removals_;
     sectionsKnown_ = false;
     ForgetObjectPlaces();
@@ -140,7 +138,8 @@ const std::vector<FormFieldPlace>& Editor::FormFields() {
     ForEachParagraph(document_->body, [&](Blocks& blocks, Blocks::iterator block) {
         const auto& objects = std::get<Paragraph>(*block).objects;
         for (std::size_t i = 0; i < objects.size(); ++i)
-            if (std::holds_alternative<FormFieldData>(objects[i])) formFields_.push_back({{&blocks, block, 0}, i});
+            if (std::holds_alternative<FormFieldData>(objects[i]))
+                formFields_.push_back({{&blocks, block, 0}, i});
     });
     formFieldsKnown_ = true;
     return formFields_;

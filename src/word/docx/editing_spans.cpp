@@ -59,4 +59,23 @@ std::size_t CharacterBefore(std::string_view text, std::size_t offset) {
     return offset;
 }
 
+TextPart WithWholeFields(const Paragraph& paragraph, TextPart part) {
+    std::vector<std::size_t> begins;
+    std::size_t object = 0;
+    for (std::size_t i = 0; i < paragraph.text.size() && object < paragraph.objects.size(); ++i) {
+        if (paragraph.text[i] != character::kObject) continue;
+        const InlineObject& mark = paragraph.objects[object++];
+        if (std::holds_alternative<FieldBegin>(mark)) begins.push_back(i);
+        if (!std::holds_alternative<FieldEnd>(mark) || begins.empty()) continue;
+        const TextPart field{begins.back(), i + 1};
+        begins.pop_back();
+        const bool isCut = std::any_of(
+            paragraph.text.begin() + std::max(field.from, part.from),
+            paragraph.text.begin() + std::max({std::min(field.to, part.to), field.from, part.from}),
+            [](char c) { return c == character::kObject; });
+        if (isCut) part = {std::min(part.from, field.from), std::max(part.to, field.to)};
+    }
+    return part;
+}
+
 }  // namespace quillmark::word::docx

@@ -24,6 +24,15 @@ std::size_t ObjectsBefore(std::string_view text, std::size_t offset);
 /// Where the character that ends at `offset` begins; `offset` is above 0.
 std::size_t CharacterBefore(std::string_view text, std::size_t offset);
 
+/// Part of a paragraph's text, in bytes.
+struct TextPart {
+    std::size_t from = 0;
+    std::size_t to = 0;
+    bool operator==(const TextPart&) const = default;
+};
+/// The part and, with any mark of a field in it, all of that field, as far as it lies in the paragraph.
+TextPart WithWholeFields(const Paragraph& paragraph, TextPart part);
+
 /// Gives the characters between two offsets new formats: `change(FormatId) -> FormatId` for each stretch.
 template <class Change>
 void ChangeSpans(std::vector<Span>& spans, std::size_t from, std::size_t to, const Change& change) {

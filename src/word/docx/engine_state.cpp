@@ -15,7 +15,8 @@ EngineState::EngineState(EngineOptions options) : options_(std::move(options)) {
 
 void EngineState::CheckRunning() const {
     if (hasQuit_)
-        throw AutomationError(error::kServerGone, "The remote server machine does not exist or is unavailable");
+        throw AutomationError(error::kServerGone,
+                              "The remote server machine does not exist or is unavailable");
 }
 
 void EngineState::Quit() {
@@ -35,7 +36,8 @@ OpenDocument& EngineState::Keep(std::shared_ptr<OpenDocument> document) {
 
 OpenDocument& EngineState::AddDocument() {
     const std::string name = "Document" + std::to_string(nextDocumentNumber_++);
-    return Keep(std::make_shared<OpenDocument>(weak_from_this(), std::make_unique<Document>(), name, fs::path()));
+    return Keep(
+        std::make_shared<OpenDocument>(weak_from_this(), std::make_unique<Document>(), name, fs::path()));
 }
 
 OpenDocument& EngineState::OpenFile(const std::string& fileName) {
@@ -46,7 +48,8 @@ OpenDocument& EngineState::OpenFile(const std::string& fileName) {
         Activate(*document);
         return *document;
     }
-    return Keep(std::make_shared<OpenDocument>(weak_from_this(), OpenDocx(path), path.filename().string(), path));
+    return Keep(
+        std::make_shared<OpenDocument>(weak_from_this(), OpenDocx(path), path.filename().string(), path));
 }
 
 void EngineState::Close(OpenDocument& document) {
@@ -62,7 +65,8 @@ void EngineState::Activate(OpenDocument& document) {
 
 OpenDocument& EngineState::Active() {
     if (active_) return *active_;
-    throw AutomationError(error::kNoDocumentOpen, "This command is not available because no document is open.");
+    throw AutomationError(error::kNoDocumentOpen,
+                          "This command is not available because no document is open.");
 }
 
 fs::path EngineState::PathOf(const std::string& fileName) const {

@@ -20,10 +20,9 @@ struct Stretch {
 };
 
 class Finder {
-   public:
+ public:
     Finder(Document& document, Blocks& story, const FindRequest& request)
         : document_(document),
-          story_(story),
           request_(request),
           pattern_(ParsePattern(request.text)),
           stops_(CollectStops(story)) {
@@ -39,7 +38,7 @@ class Finder {
         return std::move(result_);
     }
 
-   private:
+ private:
     std::vector<Stretch> Stretches(const std::optional<TextRange>& range) const;
     std::size_t StopOf(const Place& place) const;
     void SearchPlain(const Stretch& stretch);
@@ -56,7 +55,6 @@ class Finder {
     bool IsDone() const { return result_.found && request_.replace != ReplaceAll; }
 
     Document& document_;
-    Blocks& story_;
     const FindRequest& request_;
     Pattern pattern_;
     std::vector<ReplacementPiece> replacement_;
@@ -65,7 +63,8 @@ class Finder {
 };
 
 std::size_t Finder::StopOf(const Place& place) const {
-    const auto found = std::ranges::find_if(stops_, [&](const Stop& stop) { return stop.block == place.block; });
+    const auto found =
+        std::ranges::find_if(stops_, [&](const Stop& stop) { return stop.block == place.block; });
     return static_cast<std::size_t>(found - stops_.begin()) % stops_.size();
 }
 
@@ -125,12 +124,14 @@ void Finder::ReplacePlain(const Stop& stop, std::size_t from, std::size_t until)
     std::size_t lastBegin = 0;
     std::size_t lastEnd = 0;
     while (const auto match = FindPlain(paragraph.text, from, until, pattern_)) {
-        const std::string_view found = std::string_view(paragraph.text).substr(match->begin, match->end - match->begin);
+        const std::string_view found =
+            std::string_view(paragraph.text).substr(match->begin, match->end - match->begin);
         std::vector<NewContent> content = ContentFor(found);
         lastBegin = match->begin + shift;
         lastEnd = lastBegin + LengthOf(content);
         shift += LengthOf(content) - found.size();
-        rewrites.push_back({match->begin, match->end, std::move(content), FormatFrom(paragraph, match->begin)});
+        rewrites.push_back(
+            {match->begin, match->end, std::move(content), FormatFrom(paragraph, match->begin)});
         from = match->end;
         if (request_.replace == ReplaceOne) break;
     }
@@ -141,7 +142,8 @@ void Finder::ReplacePlain(const Stop& stop, std::size_t from, std::size_t until)
     SplitAtReturns(stop);
 }
 
-/// Ends a paragraph at each "\r" of its text, which the last match may have brought, and moves the match along.
+/// Ends a paragraph at each "\r" of its text, which the last match may have brought, and moves the match
+/// along.
 void Finder::SplitAtReturns(const Stop& stop) {
     std::vector<Paragraph> before = docx::SplitAtReturns(stop.paragraph());
     std::vector<Place> starts;
@@ -167,7 +169,8 @@ void Finder::SearchAcross(const Stretch& stretch) {
     for (std::size_t k = stretch.firstStop; k <= stretch.lastStop && !IsDone();) {
         const auto match = FindAcross(stops_[k], from, pattern_);
         const std::size_t endStop = match ? k + match->paragraphs : 0;
-        const bool isWithin = match && (endStop < stretch.lastStop || (endStop == stretch.lastStop && match->end <= until));
+        const bool isWithin =
+            match && (endStop < stretch.lastStop || (endStop == stretch.lastStop && match->end <= until));
         from = 0;
         if (!isWithin) {
             ++k;

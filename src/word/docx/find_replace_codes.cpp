@@ -105,7 +105,8 @@ std::vector<ReplacementPiece> ParseReplacement(const FindRequest& request) {
     std::vector<ReplacementPiece> pieces;
     const std::string plain = PlainText(request.replaceWith);
     for (std::string_view rest = plain; !rest.empty();) {
-        const bool isCode = rest[0] == '^' && rest.size() > 1 && AppendCode(pieces, rest[1], request.clipboard);
+        const bool isCode =
+            rest[0] == '^' && rest.size() > 1 && AppendCode(pieces, rest[1], request.clipboard);
         if (!isCode) AppendText(pieces, rest.substr(0, 1));
         rest.remove_prefix(isCode ? 2 : 1);
     }

@@ -20,9 +20,13 @@ void Collect(Blocks& blocks, std::vector<Stop>& stops) {
     }
 }
 
-bool IsMark(char32_t unit) { return unit == kParagraphMark || unit == kSectionMark; }
+bool IsMark(char32_t unit) {
+    return unit == kParagraphMark || unit == kSectionMark;
+}
 
-char32_t MarkOf(const Paragraph& paragraph) { return paragraph.section ? kSectionMark : kParagraphMark; }
+char32_t MarkOf(const Paragraph& paragraph) {
+    return paragraph.section ? kSectionMark : kParagraphMark;
+}
 
 /// A character of the text in the form of patterns; broken bytes stand for nothing.
 CodePoint Folded(std::string_view text, std::size_t offset) {
@@ -68,7 +72,9 @@ std::vector<Stop> CollectStops(Blocks& story) {
     return stops;
 }
 
-bool HasMarks(const Pattern& pattern) { return std::ranges::any_of(pattern, IsMark); }
+bool HasMarks(const Pattern& pattern) {
+    return std::ranges::any_of(pattern, IsMark);
+}
 
 std::optional<std::size_t> MatchAt(std::string_view text, std::size_t offset, const Pattern& pattern) {
     for (const char32_t unit : pattern) {

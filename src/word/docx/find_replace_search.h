@@ -46,8 +46,9 @@ struct MarkMatch {
     std::size_t begin = 0;
     std::size_t paragraphs = 0;  ///< how many paragraphs on its end stands
     std::size_t end = 0;
-    bool takesLastMark = false;  ///< the mark of the container's last paragraph: it can be found, not replaced
-    bool isSectionBreak = false; ///< nothing but one section break
+    bool takesLastMark =
+        false;  ///< the mark of the container's last paragraph: it can be found, not replaced
+    bool isSectionBreak = false;  ///< nothing but one section break
 };
 std::optional<MarkMatch> FindAcross(const Stop& stop, std::size_t from, const Pattern& pattern);
 

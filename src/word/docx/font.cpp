@@ -17,7 +17,7 @@ struct Name {
 
 struct Size {
     static Value Read(const CharFormat& format) { return *format.halfPoints / 2.0; }
-    static void Set(CharFormat& patch, const Value& value) { 
+    static void Set(CharFormat& patch, const Value& value) {
         patch.halfPoints = static_cast<int>(std::lround(TwipsOf(value, 1, 1638) / 10.0));
     }
 };
@@ -49,7 +49,8 @@ Member<FontObject> FontObject::Property(std::string_view name) {
                     const Value value = T::Read(format);
                     const bool isFirst = std::holds_alternative<std::monostate>(common);
                     if (!isFirst && common != value)
-                        common = std::holds_alternative<std::string>(value) ? Value(std::string()) : Whole(kUndefined);
+                        common = std::holds_alternative<std::string>(value) ? Value(std::string())
+                                                                            : Whole(kUndefined);
                     else
                         common = value;
                 });

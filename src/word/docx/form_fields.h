@@ -15,8 +15,8 @@ class FormFieldsObject final : public DocumentPart<FormFieldsObject> {
     using DocumentPart::DocumentPart;
 
  private:
-    /// Puts a field (70 a text field, 71 a check box) in place of the range's text, named "Text1", "Check1" and
-    /// so on. An insertion point that stood there stands behind it.
+    /// Puts a field (70 a text field, 71 a check box) in place of the range's text, named "Text1", "Check1"
+    /// and so on. An insertion point that stood there stands behind it.
     Value Add(Arguments arguments);
     /// By number from 1, or by name.
     Value Item(Arguments arguments);

@@ -39,8 +39,8 @@ std::unique_ptr<Table> Clone(const Table& table) {
     for (const TableRow& row : table.rows) {
         TableRow& newRow = copy->rows.emplace_back(TableRow{{}, row.height, row.heightRule, row.extra});
         for (const TableCell& cell : row.cells) {
-            newRow.cells.push_back({Clone(cell.blocks), cell.span, cell.vertical, cell.fill, cell.verticalAlignment,
-                                    cell.borders, cell.extra});
+            newRow.cells.push_back({Clone(cell.blocks), cell.span, cell.vertical, cell.fill,
+                                    cell.verticalAlignment, cell.borders, cell.extra});
         }
     }
     return copy;
@@ -50,7 +50,8 @@ Blocks Clone(const Blocks& blocks) {
     Blocks copy;
     for (const Block& block : blocks) {
         if (const auto* paragraph = std::get_if<Paragraph>(&block)) copy.emplace_back(Clone(*paragraph));
-        if (const auto* table = std::get_if<std::unique_ptr<Table>>(&block)) copy.emplace_back(Clone(**table));
+        if (const auto* table = std::get_if<std::unique_ptr<Table>>(&block))
+            copy.emplace_back(Clone(**table));
         if (const auto* raw = std::get_if<RawBlock>(&block)) copy.emplace_back(*raw);
     }
     return copy;

@@ -38,7 +38,9 @@ std::string UnlinkedOverrides(const std::string& xml) {
     return whole.substr(kOpen, whole.size() - kOpen - kClose);
 }
 
-bool Holds(const std::vector<AbstractList>& lists, int index) { return index >= 0 && index < std::ssize(lists); }
+bool Holds(const std::vector<AbstractList>& lists, int index) {
+    return index >= 0 && index < std::ssize(lists);
+}
 
 }  // namespace
 
@@ -49,7 +51,8 @@ int ListImport::ResolveLink(int index) const {
     const auto tree = ParseFragment(xml);
     const auto* style = sheet_.Find(Val(tree->document_element().child("w:numStyleLink")));
     if (!style) return index;
-    const auto numId = NumberAttribute(style->root().child("w:pPr").child("w:numPr").child("w:numId"), "w:val");
+    const auto numId =
+        NumberAttribute(style->root().child("w:pPr").child("w:numPr").child("w:numId"), "w:val");
     const bool known = numId && *numId > 0 && *numId <= std::ssize(source_.lists);
     const int linked = known ? source_.lists[static_cast<std::size_t>(*numId - 1)].abstractIndex : index;
     return Holds(source_.abstractLists, linked) ? linked : index;
@@ -57,7 +60,8 @@ int ListImport::ResolveLink(int index) const {
 
 int ListImport::MapAbstract(int index) {
     const int resolved = ResolveLink(index);
-    const auto [place, isNew] = abstracts_.try_emplace(resolved, static_cast<int>(target_.abstractLists.size()));
+    const auto [place, isNew] =
+        abstracts_.try_emplace(resolved, static_cast<int>(target_.abstractLists.size()));
     if (isNew) {
         const AbstractList& list = source_.abstractLists[static_cast<std::size_t>(resolved)];
         target_.abstractLists.push_back({list.levels, UnlinkedDefinition(list.xml)});
@@ -71,7 +75,8 @@ int ListImport::Map(int numId) {
     if (known != numbers_.end()) return known->second;
     const ListInstance& list = source_.lists[static_cast<std::size_t>(numId - 1)];
     if (!Holds(source_.abstractLists, list.abstractIndex)) return 0;
-    target_.lists.push_back({MapAbstract(list.abstractIndex), list.restarts, UnlinkedOverrides(list.overrides)});
+    target_.lists.push_back(
+        {MapAbstract(list.abstractIndex), list.restarts, UnlinkedOverrides(list.overrides)});
     return numbers_[numId] = static_cast<int>(target_.lists.size());
 }
 
@@ -88,10 +93,12 @@ std::optional<StyleNumbering> ListImport::Compute(const std::string& styleId) co
     for (const StyleSheet::Style* style : sheet_.Chain(styleId)) {
         const pugi::xml_node properties = style->root().child("w:pPr");
         const pugi::xml_node indents = properties.child("w:ind");
-        const auto left = indents.attribute("w:left") ? NumberAttribute(indents, "w:left") : NumberAttribute(indents, "w:start");
+        const auto left = indents.attribute("w:left") ? NumberAttribute(indents, "w:left")
+                                                      : NumberAttribute(indents, "w:start");
         const auto hanging = NumberAttribute(indents, "w:hanging");
         if (!numbering.leftIndent) numbering.leftIndent = left;
-        if (!numbering.firstLine) numbering.firstLine = hanging ? -*hanging : NumberAttribute(indents, "w:firstLine");
+        if (!numbering.firstLine)
+            numbering.firstLine = hanging ? -*hanging : NumberAttribute(indents, "w:firstLine");
         const pugi::xml_node number = properties.child("w:numPr");
         if (!level) level = NumberAttribute(number.child("w:ilvl"), "w:val");
         numId = NumberAttribute(number.child("w:numId"), "w:val");

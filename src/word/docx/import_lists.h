@@ -17,7 +17,7 @@ struct StyleNumbering {
 };
 
 class ListImport {
-   public:
+ public:
     ListImport(const Document& source, const StyleSheet& sheet, Document& target)
         : source_(source), sheet_(sheet), target_(target) {}
 
@@ -26,7 +26,7 @@ class ListImport {
     /// The numbering of paragraphs of a style, with the copied document's numbers.
     const std::optional<StyleNumbering>& OfStyle(const std::string& styleId);
 
-   private:
+ private:
     int MapAbstract(int index);
     int ResolveLink(int index) const;
     std::optional<StyleNumbering> Compute(const std::string& styleId) const;

@@ -51,7 +51,8 @@ void ForStories(const SectionProperties& section, const Function& function) {
 std::string Numbered(const std::string& name, int number, std::size_t longest) {
     const std::string ending = fmt::format("_{}", number);
     std::size_t kept = std::min(name.size(), longest - ending.size());
-    while (kept > 0 && kept < name.size() && (static_cast<unsigned char>(name[kept]) & 0xC0u) == 0x80u) --kept;
+    while (kept > 0 && kept < name.size() && (static_cast<unsigned char>(name[kept]) & 0xC0u) == 0x80u)
+        --kept;
     return name.substr(0, kept) + ending;
 }
 
@@ -75,7 +76,9 @@ NameImport::NameImport(Document& target) : target_(target) {
     }
 }
 
-bool NameImport::Take(const std::string& name) { return taken_.insert(SmallLetters(name)).second; }
+bool NameImport::Take(const std::string& name) {
+    return taken_.insert(SmallLetters(name)).second;
+}
 
 std::string NameImport::Map(const std::string& name, std::size_t longest) {
     const auto known = renamed_.find(name);

@@ -11,7 +11,7 @@
 namespace quillmark::word::docx {
 
 class NameImport {
-   public:
+ public:
     explicit NameImport(Document& target);
 
     /// The name that a bookmark or a field gets: its own, or with a number when the target has it already.
@@ -26,7 +26,7 @@ class NameImport {
     /// Notes the names that the copied document's bookmarks are to have, before fields speak of them.
     void Prepare(const Blocks& blocks);
 
-   private:
+ private:
     bool Take(const std::string& name);
 
     Document& target_;

@@ -24,7 +24,8 @@ int LargestId(pugi::xml_node notes) {
 
 void RenameReferences(pugi::xml_node element, const std::map<std::string, std::string>& ids) {
     for (pugi::xml_attribute attribute : element.attributes()) {
-        const auto renamed = std::string_view(attribute.name()).starts_with("r:") ? ids.find(attribute.value()) : ids.end();
+        const auto renamed =
+            std::string_view(attribute.name()).starts_with("r:") ? ids.find(attribute.value()) : ids.end();
         if (renamed != ids.end()) attribute.set_value(renamed->second.c_str());
     }
     for (const pugi::xml_node child : element.children()) RenameReferences(child, ids);

@@ -10,7 +10,7 @@
 namespace quillmark::word::docx {
 
 class NoteImport {
-   public:
+ public:
     /// Puts an element of the copied document's XML in terms of the target.
     using Translate = std::function<void(pugi::xml_node)>;
 
@@ -20,7 +20,7 @@ class NoteImport {
     /// What is to be added to the number of a note of the copied document ("footnotes" or "endnotes").
     int Offset(const char* kind);
 
-   private:
+ private:
     int Take(const char* kind);
     int Merge(const Relation& from, Relation& into) const;
 

@@ -9,8 +9,9 @@ namespace quillmark::word::docx {
 namespace {
 
 bool IsSame(const Relation& a, const Relation& b) {
-    return a.type == b.type && a.external == b.external && a.contentType == b.contentType && a.bytes == b.bytes &&
-           (!a.external || a.target == b.target) && a.relations.empty() && b.relations.empty();
+    return a.type == b.type && a.external == b.external && a.contentType == b.contentType &&
+           a.bytes == b.bytes && (!a.external || a.target == b.target) && a.relations.empty() &&
+           b.relations.empty();
 }
 
 }  // namespace
@@ -24,7 +25,8 @@ std::string NewRelationId(const std::map<std::string, Relation>& relations) {
 std::string FindRelation(const Document& document, std::string_view type) {
     const auto found = std::ranges::find_if(document.relations, [&](const auto& entry) {
         const std::string_view whole = entry.second.type;
-        return whole.size() > type.size() && whole.ends_with(type) && whole[whole.size() - type.size() - 1] == '/';
+        return whole.size() > type.size() && whole.ends_with(type) &&
+               whole[whole.size() - type.size() - 1] == '/';
     });
     return found == document.relations.end() ? std::string() : found->first;
 }
@@ -41,12 +43,10 @@ std::optional<std::string> RelationImport::Map(std::string_view id) {
     return ids_[std::string(id)] = std::move(newId);
 }
 
-std::optional<std::string> RelationImport::TakeSole(std::string_view type) {
+void RelationImport::TakeSole(std::string_view type) {
     const std::string id = FindRelation(source_, type);
-    if (id.empty() || !FindRelation(target_, type).empty()) return {};
-    std::string newId = NewRelationId(target_.relations);
-    target_.relations.emplace(newId, source_.relations.at(id));
-    return newId;
+    if (id.empty() || !FindRelation(target_, type).empty()) return;
+    target_.relations.emplace(NewRelationId(target_.relations), source_.relations.at(id));
 }
 
 }  // namespace quillmark::word::docx

@@ -11,17 +11,16 @@
 namespace quillmark::word::docx {
 
 class RelationImport {
-   public:
+ public:
     RelationImport(const Document& source, Document& target) : source_(source), target_(target) {}
 
     /// The target's id for one of the copied document's; unset for an unknown one. A part that the target has
     /// already is shared.
     std::optional<std::string> Map(std::string_view id);
-    /// Brings the part of this type along when the target has none, and tells its id there.
-    std::optional<std::string> TakeSole(std::string_view type);
-    bool broughtAny() const { return !ids_.empty(); }
+    /// Brings the part of this type along when the target has none.
+    void TakeSole(std::string_view type);
 
-   private:
+ private:
     const Document& source_;
     Document& target_;
     std::map<std::string, std::string, std::less<>> ids_;

@@ -4,7 +4,9 @@
 
 namespace quillmark::word::docx {
 
-std::string_view StyleSheet::Style::basedOn() const { return Val(root().child("w:basedOn")); }
+std::string_view StyleSheet::Style::basedOn() const {
+    return Val(root().child("w:basedOn"));
+}
 
 StyleSheet::StyleSheet(const Document& document) {
     for (const StyleDefinition& definition : document.styles) {

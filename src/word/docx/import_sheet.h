@@ -13,7 +13,7 @@
 namespace quillmark::word::docx {
 
 class StyleSheet {
-   public:
+ public:
     explicit StyleSheet(const Document& document);
 
     struct Style {
@@ -39,7 +39,7 @@ class StyleSheet {
     pugi::xml_node defaultRun() const;
     pugi::xml_node defaultParagraph() const;
 
-   private:
+ private:
     std::map<std::string, Style, std::less<>> styles_;
     std::map<std::string, std::string, std::less<>> defaults_;
     std::unique_ptr<pugi::xml_document> docDefaults_;

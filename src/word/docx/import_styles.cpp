@@ -38,7 +38,8 @@ void Underlay(pugi::xml_node into, pugi::xml_node from, ChildOrder order) {
     for (const pugi::xml_node child : from.children()) {
         const std::string_view name = child.name();
         if (const pugi::xml_node own = into.child(child.name())) {
-            if (std::ranges::find(kByAttribute, name) != std::end(kByAttribute)) AddMissingAttributes(own, child);
+            if (std::ranges::find(kByAttribute, name) != std::end(kByAttribute))
+                AddMissingAttributes(own, child);
             continue;
         }
         pugi::xml_node behind = into.first_child();
@@ -48,7 +49,8 @@ void Underlay(pugi::xml_node into, pugi::xml_node from, ChildOrder order) {
 }
 
 void CollectFrom(std::string_view xml, std::set<std::string, std::less<>>& used) {
-    for (const std::string_view element : {"<w:pStyle w:val=\"", "<w:rStyle w:val=\"", "<w:tblStyle w:val=\""}) {
+    for (const std::string_view element :
+         {"<w:pStyle w:val=\"", "<w:rStyle w:val=\"", "<w:tblStyle w:val=\""}) {
         for (std::size_t at = xml.find(element); at != std::string_view::npos; at = xml.find(element, at)) {
             at += element.size();
             used.emplace(xml.substr(at, xml.find('"', at) - at));
@@ -102,8 +104,8 @@ std::set<std::string, std::less<>> UsedStyles(const Document& document) {
     return used;
 }
 
-StyleImport::StyleImport(const StyleSheet& sheet, const std::set<std::string, std::less<>>& used, Document& target,
-                         bool byName)
+StyleImport::StyleImport(const StyleSheet& sheet, const std::set<std::string, std::less<>>& used,
+                         Document& target, bool byName)
     : sheet_(sheet), target_(target) {
     AddWithBases(sheet.DefaultOf("paragraph"));
     AddWithBases(sheet.DefaultOf("table"));
@@ -114,7 +116,8 @@ StyleImport::StyleImport(const StyleSheet& sheet, const std::set<std::string, st
     while (!Fits(family)) family = Render(++number);
     for (auto& [id, style] : family) {
         newIds_[id] = style.id;
-        const bool isThere = std::ranges::find(target_.styles, style.id, &StyleDefinition::id) != target_.styles.end();
+        const bool isThere =
+            std::ranges::find(target_.styles, style.id, &StyleDefinition::id) != target_.styles.end();
         if (!isThere) target_.styles.push_back(std::move(style));
     }
 }
@@ -149,18 +152,21 @@ StyleDefinition StyleImport::RenderStyle(const StyleSheet::Style& style, int num
     };
     const StyleDefinition& old = *style.definition;
     StyleDefinition renamed{newId(old.id), {}, old.type, {}};
-    renamed.name = number == 1 ? fmt::format("{} (pasted)", old.name) : fmt::format("{} (pasted {})", old.name, number);
+    renamed.name =
+        number == 1 ? fmt::format("{} (pasted)", old.name) : fmt::format("{} (pasted {})", old.name, number);
     pugi::xml_document xml;
     pugi::xml_node root = xml.append_copy(style.root());
     root.attribute("w:styleId").set_value(renamed.id.c_str());
     root.remove_attribute("w:default");
     // What goes by name or number, or leads to styles that stay behind.
-    for (const char* name : {"w:aliases", "w:next", "w:link", "w:autoRedefine", "w:locked"}) root.remove_child(name);
+    for (const char* name : {"w:aliases", "w:next", "w:link", "w:autoRedefine", "w:locked"})
+        root.remove_child(name);
     pugi::xml_node name = root.child("w:name");
     if (!name) name = root.prepend_child("w:name");
     name.remove_attributes();
     name.append_attribute("w:val") = renamed.name.c_str();
-    if (pugi::xml_node base = root.child("w:basedOn")) base.attribute("w:val").set_value(newId(style.basedOn()).c_str());
+    if (pugi::xml_node base = root.child("w:basedOn"))
+        base.attribute("w:val").set_value(newId(style.basedOn()).c_str());
     root.child("w:pPr").remove_child("w:numPr");
     if (old.type == "paragraph" && !root.child("w:basedOn")) Bake(root);
     renamed.xml = PrintFragment(xml);
@@ -176,9 +182,11 @@ void StyleImport::Bake(pugi::xml_node style) const {
     Underlay(paragraph, sheet_.defaultParagraph(), kParagraphOrder);
     Underlay(run, sheet_.defaultRun(), kRunOrder);
     Underlay(run, ParseFragment(kBuiltInRun)->document_element(), kRunOrder);
-    const auto defaults = ParseFragment(target_.docDefaults.empty() ? "<w:docDefaults/>" : target_.docDefaults);
+    const auto defaults =
+        ParseFragment(target_.docDefaults.empty() ? "<w:docDefaults/>" : target_.docDefaults);
     const bool targetHasOwn = defaults->document_element().child("w:pPrDefault").child("w:pPr").first_child();
-    if (targetHasOwn) Underlay(paragraph, ParseFragment(kBuiltInParagraph)->document_element(), kParagraphOrder);
+    if (targetHasOwn)
+        Underlay(paragraph, ParseFragment(kBuiltInParagraph)->document_element(), kParagraphOrder);
 }
 
 /// Whether no other style of the target has one of the ids or names.

@@ -14,7 +14,7 @@ namespace quillmark::word::docx {
 std::set<std::string, std::less<>> UsedStyles(const Document& document);
 
 class StyleImport {
-   public:
+ public:
     /// Puts those of the copied document's styles that its texts use into the target, under ids and names of
     /// their own, with the formats of the whole document written into those that are based on none. Styles
     /// that an earlier paste brought and that are the same are used again. With `byName`, styles that the
@@ -27,7 +27,7 @@ class StyleImport {
     /// The target's id for a style; the default style's of the type for an empty or unknown one.
     const std::string& Map(std::string_view id, std::string_view type) const;
 
-   private:
+ private:
     using Family = std::map<std::string, StyleDefinition, std::less<>>;
 
     void AddWithBases(std::string_view id);

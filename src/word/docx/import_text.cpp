@@ -23,10 +23,12 @@ TextImport::TextImport(const Document& source, Document& target, bool keepsSourc
     names_.Prepare(source.body);
 }
 
-Blocks TextImport::Body() { return Convert(source_.body, nullptr); }
+Blocks TextImport::Body() {
+    return Convert(source_.body, nullptr);
+}
 
 void TextImport::Finish() {
-    if (relations_.broughtAny()) relations_.TakeSole("theme");
+    if (usesTheme_) relations_.TakeSole("theme");
 }
 
 Blocks TextImport::Convert(const Blocks& blocks, const TableLook* look) {
@@ -57,7 +59,8 @@ Paragraph TextImport::Convert(const Paragraph& paragraph, const TableLook* look)
         if (anchor.isStart) anchor.name = names_.Map(anchor.name, kLongestBookmark);
         converted.anchors.push_back(std::move(anchor));
     }
-    if (paragraph.section) converted.section = std::make_unique<SectionProperties>(Section(*paragraph.section));
+    if (paragraph.section)
+        converted.section = std::make_unique<SectionProperties>(Section(*paragraph.section));
     return converted;
 }
 
@@ -168,6 +171,7 @@ bool TextImport::Translate(pugi::xml_node element) {
         if (own && *own.value()) own.set_value(names_.Map(own.value(), kLongestFormField).c_str());
     }
     if (name == "w:p") TranslateParagraph(element);
+    if (name == "a:schemeClr") usesTheme_ = true;
     const bool isFootnote = name == "w:footnoteReference";
     if (isFootnote || name == "w:endnoteReference") {
         const int offset = notes_.Offset(isFootnote ? "footnotes" : "endnotes");

@@ -16,7 +16,7 @@
 namespace quillmark::word::docx {
 
 class TextImport {
-   public:
+ public:
     TextImport(const Document& source, Document& target, bool keepsSourceFormatting);
 
     /// The body, with the sections inside of it.
@@ -25,7 +25,7 @@ class TextImport {
     /// Brings along what the text refers to without naming it.
     void Finish();
 
-   private:
+ private:
     /// What a table's style says of the text in it, as far as the document's defaults would hide it once they
     /// stand in the paragraphs' styles.
     struct TableLook {
@@ -64,6 +64,7 @@ class TextImport {
     NameImport names_;
     NoteImport notes_;
     bool inNotes_ = false;
+    bool usesTheme_ = false;
     std::map<std::string, TableLook> looks_;
     std::map<std::pair<FormatId, const TableLook*>, FormatId> paragraphs_;
     std::map<std::tuple<FormatId, FormatId, const TableLook*>, FormatId> characters_;

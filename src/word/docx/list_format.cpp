@@ -23,9 +23,9 @@ void DropIndents(ParaFormat& format) {
 }
 
 int NewList(Document& document, int abstractIndex) {
-    const bool wasUsed = std::any_of(document.lists.begin(), document.lists.end(), [&](const ListInstance& list) {
-        return list.abstractIndex == abstractIndex;
-    });
+    const bool wasUsed =
+        std::any_of(document.lists.begin(), document.lists.end(),
+                    [&](const ListInstance& list) { return list.abstractIndex == abstractIndex; });
     document.lists.push_back({abstractIndex, wasUsed, {}});
     return static_cast<int>(document.lists.size());
 }
@@ -90,7 +90,8 @@ void ListFormatObject::CheckAlive() const {
 }
 
 void ListFormatObject::ApplyListTemplate(Arguments arguments) {
-    const ArgumentReader reader(arguments, {"ListTemplate", "ContinuePreviousList", "ApplyTo", "DefaultListBehavior"});
+    const ArgumentReader reader(arguments,
+                                {"ListTemplate", "ContinuePreviousList", "ApplyTo", "DefaultListBehavior"});
     const auto list = ObjectOf<ListTemplateObject>(reader["ListTemplate"]);
     if (&list->document() != &target_.document())
         throw AutomationError(error::kBadValue, "The list template belongs to another document");
@@ -108,7 +109,8 @@ void ListFormatObject::ApplyListTemplate(Arguments arguments) {
 int ListFormatObject::BulletList() {
     Document& document = target_.document().model();
     for (std::size_t i = 0; i < document.lists.size(); ++i)
-        if (IsBulletedList(document.abstractLists[document.lists[i].abstractIndex])) return static_cast<int>(i) + 1;
+        if (IsBulletedList(document.abstractLists[document.lists[i].abstractIndex]))
+            return static_cast<int>(i) + 1;
     document.abstractLists.push_back(BulletedList());
     return NewList(document, static_cast<int>(document.abstractLists.size()) - 1);
 }

@@ -64,7 +64,8 @@ class ListLevelObject final : public LateBound<ListLevelObject> {
     static constexpr const char* kName = "ListLevel";
     static const MemberTable<ListLevelObject>& Members();
 
-    ListLevelObject(std::shared_ptr<ListTemplateObject> list, int level) : list_(std::move(list)), level_(level) {}
+    ListLevelObject(std::shared_ptr<ListTemplateObject> list, int level)
+        : list_(std::move(list)), level_(level) {}
     void CheckAlive() const { list_->CheckAlive(); }
 
  private:
@@ -78,9 +79,11 @@ class ListLevelObject final : public LateBound<ListLevelObject> {
     }
     void SetNumberStyle(const Value& value) {
         const int number = WholeOf(value);
-        const auto format = std::find_if(std::begin(kNumberFormats), std::end(kNumberFormats),
-                                         [&](const NumberFormatName& other) { return other.number == number; });
-        if (format == std::end(kNumberFormats)) throw AutomationError(error::kBadValue, "No such number style");
+        const auto format =
+            std::find_if(std::begin(kNumberFormats), std::end(kNumberFormats),
+                         [&](const NumberFormatName& other) { return other.number == number; });
+        if (format == std::end(kNumberFormats))
+            throw AutomationError(error::kBadValue, "No such number style");
         Format().numberFormat = format->name;
         list_->document().Changed();
     }
@@ -131,7 +134,9 @@ class ListTemplateObject::Levels final : public LateBound<Levels> {
 };
 
 ListTemplateObject::ListTemplateObject(std::shared_ptr<OpenDocument> document, int abstractIndex)
-    : document_(std::move(document)), abstractIndex_(abstractIndex), levels_(std::make_unique<Levels>(*this)) {}
+    : document_(std::move(document)),
+      abstractIndex_(abstractIndex),
+      levels_(std::make_unique<Levels>(*this)) {}
 
 ListTemplateObject::~ListTemplateObject() = default;
 
@@ -141,10 +146,8 @@ void ListTemplateObject::CheckAlive() const {
 
 const MemberTable<ListTemplateObject>& ListTemplateObject::Members() {
     static const MemberTable<ListTemplateObject> members = {
-        {"ListLevels",
-         [](ListTemplateObject& list, Arguments index) {
-             return CollectionOrItem(list.Share(*list.levels_), index);
-         }},
+        {"ListLevels", [](ListTemplateObject& list,
+                          Arguments index) { return CollectionOrItem(list.Share(*list.levels_), index); }},
     };
     return members;
 }
@@ -153,7 +156,8 @@ const MemberTable<ListTemplatesObject>& ListTemplatesObject::Members() {
     static const MemberTable<ListTemplatesObject> members = {
         {"Add", nullptr, nullptr,
          [](ListTemplatesObject& templates, Arguments arguments) { return templates.Add(arguments); }},
-        {"Item", [](ListTemplatesObject& templates, Arguments arguments) { return templates.Item(arguments); }},
+        {"Item",
+         [](ListTemplatesObject& templates, Arguments arguments) { return templates.Item(arguments); }},
         {"Count",
          [](ListTemplatesObject& templates, Arguments) {
              return Whole(static_cast<int>(templates.document_.model().abstractLists.size()));
@@ -163,7 +167,8 @@ const MemberTable<ListTemplatesObject>& ListTemplatesObject::Members() {
 }
 
 Value ListTemplatesObject::Add(Arguments arguments) {
-    const bool isOutline = ArgumentReader(arguments, {"OutlineNumbered", "Name"}).Flag("OutlineNumbered", false);
+    const bool isOutline =
+        ArgumentReader(arguments, {"OutlineNumbered", "Name"}).Flag("OutlineNumbered", false);
     auto& lists = document_.model().abstractLists;
     lists.push_back(NumberedList(isOutline ? kListLevels : 1));
     document_.Changed();

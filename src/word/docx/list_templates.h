@@ -6,8 +6,8 @@
 
 /// The lists that a document's paragraphs can be items of.
 ///
-/// A level's number stands at the level's indent, its text hangs a quarter of an inch behind it: 18 points for
-/// the first level, 36 for the second and so on.
+/// A level's number stands at the level's indent, its text hangs a quarter of an inch behind it: 18 points
+/// for the first level, 36 for the second and so on.
 namespace quillmark::word::docx {
 
 inline constexpr int kListLevels = 9;

@@ -84,7 +84,8 @@ const Value* ArgumentReader::Find(std::string_view name) const {
 
 const Value& ArgumentReader::operator[](std::string_view name) const {
     const Value* const value = Find(name);
-    if (!value) throw AutomationError(error::kArgumentNotOptional, fmt::format("Argument not optional: {}", name));
+    if (!value)
+        throw AutomationError(error::kArgumentNotOptional, fmt::format("Argument not optional: {}", name));
     return *value;
 }
 
@@ -105,8 +106,9 @@ void ExpectNoArguments(Arguments arguments) {
 // ---- Refusals ----
 
 void RefuseMember(std::string_view object, std::string_view member) {
-    throw AutomationError(error::kNoSuchMember,
-                          fmt::format("Object doesn't support this property or method: {}.{}", object, member));
+    throw AutomationError(
+        error::kNoSuchMember,
+        fmt::format("Object doesn't support this property or method: {}.{}", object, member));
 }
 
 void RefuseElement() {

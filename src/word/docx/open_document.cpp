@@ -20,8 +20,8 @@ std::filesystem::path WithEnding(std::filesystem::path path) {
 
 }  // namespace
 
-OpenDocument::OpenDocument(std::weak_ptr<EngineState> engine, std::unique_ptr<Document> model, std::string name,
-                           std::filesystem::path path)
+OpenDocument::OpenDocument(std::weak_ptr<EngineState> engine, std::unique_ptr<Document> model,
+                           std::string name, std::filesystem::path path)
     : engine_(std::move(engine)),
       editor_(std::move(model)),
       name_(std::move(name)),
@@ -32,7 +32,8 @@ OpenDocument::~OpenDocument() = default;
 
 void OpenDocument::CheckAlive() const {
     if (isServerGone_ || engine_.expired())
-        throw AutomationError(error::kServerGone, "The remote server machine does not exist or is unavailable");
+        throw AutomationError(error::kServerGone,
+                              "The remote server machine does not exist or is unavailable");
     if (isClosed_) throw AutomationError(error::kObjectDeleted, "Object has been deleted.");
 }
 
@@ -50,8 +51,9 @@ void OpenDocument::RequireEditable(const Place& place) {
     if (model().protection != AllowOnlyFormFields) return;
     const SectionProperties* const section = editor_.SectionAt(place);
     if (section && !section->protectedForForms) return;
-    throw AutomationError(error::kNotAvailable,
-                          "This method or property is not available because the document is a protected document.");
+    throw AutomationError(
+        error::kNotAvailable,
+        "This method or property is not available because the document is a protected document.");
 }
 
 // ---- Members ----

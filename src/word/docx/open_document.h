@@ -47,7 +47,6 @@ class OpenDocument final : public Shared, public LateBound<OpenDocument> {
 
     /// Notes that the document differs from its file.
     void Changed() {
-        editor_.Touch();
         isSaved_ = false;
     }
     bool isSaved() const { return isSaved_; }
@@ -55,7 +54,9 @@ class OpenDocument final : public Shared, public LateBound<OpenDocument> {
     /// header or footer.
     void RequireEditable(const Place& place);
 
-    std::shared_ptr<OpenDocument> Self() { return std::static_pointer_cast<OpenDocument>(shared_from_this()); }
+    std::shared_ptr<OpenDocument> Self() {
+        return std::static_pointer_cast<OpenDocument>(shared_from_this());
+    }
 
  private:
     friend struct DocumentMembers;

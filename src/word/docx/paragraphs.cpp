@@ -29,7 +29,8 @@ template <class Change>
 void ChangeAll(TextTarget& target, const Change& change) {
     target.RequireEditable();
     OpenDocument& document = target.document();
-    target.ForEachParagraph([&](Paragraph& paragraph) { ChangeParagraph(document.model(), paragraph, change); });
+    target.ForEachParagraph(
+        [&](Paragraph& paragraph) { ChangeParagraph(document.model(), paragraph, change); });
     document.Changed();
 }
 
@@ -51,7 +52,8 @@ TabStop StopOf(const ArgumentReader& reader) {
     static constexpr const char* kLeaders[] = {"", "dot", "hyphen", "underscore", "heavy", "middleDot"};
     TabStop stop;
     stop.position = TwipsOf(reader["Position"], -kLongestDistance, kLongestDistance);
-    if (const Value* alignment = reader.Find("Alignment")) stop.alignment = kAlignments[WholeWithin(*alignment, 0, 4)];
+    if (const Value* alignment = reader.Find("Alignment"))
+        stop.alignment = kAlignments[WholeWithin(*alignment, 0, 4)];
     if (const Value* leader = reader.Find("Leader")) stop.leader = kLeaders[WholeWithin(*leader, 0, 5)];
     return stop;
 }
@@ -238,7 +240,8 @@ Value TabStopsObject::Item(Arguments arguments) {
     };
     if (std::any_of(stops.begin(), stops.end(), here)) return give(position);
     const double number = NumberOf(index);
-    if (number < 1 || number > static_cast<double>(stops.size()) || number != std::floor(number)) RefuseElement();
+    if (number < 1 || number > static_cast<double>(stops.size()) || number != std::floor(number))
+        RefuseElement();
     return give(stops[static_cast<std::size_t>(number) - 1].position);
 }
 

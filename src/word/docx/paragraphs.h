@@ -55,9 +55,9 @@ class ParagraphsObject final : public LateBound<ParagraphsObject> {
     TabStopsObject tabStops_;
 };
 
-/// What setting the line spacing to a number of points makes of a paragraph's spacing. A rule of "at least" or
-/// "exactly" stays and takes the number; otherwise the number means lines, 12 points to the line, and 0 is a
-/// single line.
+/// What setting the line spacing to a number of points makes of a paragraph's spacing. A rule of "at least"
+/// or "exactly" stays and takes the number; otherwise the number means lines, 12 points to the line, and 0 is
+/// a single line.
 void SetLineSpacing(ParaFormat& format, int twips);
 
 }  // namespace quillmark::word::docx

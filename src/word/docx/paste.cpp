@@ -26,7 +26,8 @@ Place SplitAt(const Place& place) {
     head.text = rest.text.substr(0, place.offset);
     std::vector<Span> tail = CutSpans(rest.spans, place.offset);
     head.spans = std::exchange(rest.spans, std::move(tail));
-    const auto objects = rest.objects.begin() + static_cast<std::ptrdiff_t>(ObjectsBefore(rest.text, place.offset));
+    const auto objects =
+        rest.objects.begin() + static_cast<std::ptrdiff_t>(ObjectsBefore(rest.text, place.offset));
     head.objects.assign(std::make_move_iterator(rest.objects.begin()), std::make_move_iterator(objects));
     rest.objects.erase(rest.objects.begin(), objects);
     std::vector<Anchor> later;
@@ -84,7 +85,8 @@ SectionProperties& SectionAt(Document& document, Blocks::const_iterator place, S
 }
 
 /// Gives the section stories of its own wherever the pasted ones would show through.
-void KeepStories(Stories& own, const std::array<const Story*, 3>& shown, const std::array<const Story*, 3>& pasted) {
+void KeepStories(Stories& own, const std::array<const Story*, 3>& shown,
+                 const std::array<const Story*, 3>& pasted) {
     for (std::size_t pages = 0; pages < own.size(); ++pages) {
         if (own[pages] || !pasted[pages]) continue;
         own[pages] = std::make_unique<Story>();
@@ -107,7 +109,9 @@ void ShieldSection(Document& target, Blocks::const_iterator place, const Blocks&
 
 }  // namespace
 
-CopiedText CopyAll(const Document& document) { return CopiedText(CloneDocument(document)); }
+CopiedText CopyAll(const Document& document) {
+    return CopiedText(CloneDocument(document));
+}
 
 bool IsEmpty(const Document& document) {
     if (document.body.size() != 1) return false;

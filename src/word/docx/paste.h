@@ -9,14 +9,14 @@ namespace quillmark::word::docx {
 
 /// A document's content on the clipboard, independent of the document it came from.
 class CopiedText {
-   public:
+ public:
     CopiedText() = default;
     explicit CopiedText(std::shared_ptr<const Document> document) : document_(std::move(document)) {}
 
     explicit operator bool() const { return document_ != nullptr; }
     const Document& document() const { return *document_; }
 
-   private:
+ private:
     std::shared_ptr<const Document> document_;
 };
 
@@ -37,7 +37,8 @@ CopiedText CopyAll(const Document& document);
 /// is the one that the place stands in.
 ///
 /// Names of bookmarks and form fields that the target has already get a number.
-Place PasteAt(Document& target, const Place& place, const CopiedText& copied, bool keepSourceFormatting = true);
+Place PasteAt(Document& target, const Place& place, const CopiedText& copied,
+              bool keepSourceFormatting = true);
 
 /// Whether nothing has been typed into the document: one paragraph without text.
 bool IsEmpty(const Document& document);

@@ -21,8 +21,8 @@ void FitPicture(Picture& picture, int width, int height);
 /// behind it.
 Place InsertPicture(OpenDocument& document, const Place& place, Picture picture, FormatId format);
 
-/// `Selection.InlineShapes` and `Document.InlineShapes`. `AddPicture` keeps the file's bytes in the document; it
-/// stands at the range given, else at the insertion point.
+/// `Selection.InlineShapes` and `Document.InlineShapes`. `AddPicture` keeps the file's bytes in the document;
+/// it stands at the range given, else at the insertion point.
 class InlineShapesObject final : public DocumentPart<InlineShapesObject> {
  public:
     static constexpr const char* kName = "InlineShapes";

@@ -50,8 +50,8 @@ RangeObject::~RangeObject() = default;
 
 std::shared_ptr<RangeObject> RangeOver(OpenDocument& document, Blocks& blocks, RangeObject::Extent extent,
                                        int storyType) {
-    return std::make_shared<RangeObject>(document.Self(), Place{&blocks, blocks.begin(), 0}, Editor::EndOf(blocks),
-                                         extent, storyType);
+    return std::make_shared<RangeObject>(document.Self(), Place{&blocks, blocks.begin(), 0},
+                                         Editor::EndOf(blocks), extent, storyType);
 }
 
 // ---- Members ----
@@ -102,6 +102,17 @@ const MemberTable<RangeObject>& RangeObject::Members() {
     return members;
 }
 
+void RangeObject::CheckAlive() {
+    document_->CheckAlive();
+    Settle();
+}
+
+void RangeObject::Settle() {
+    if (Editor::InOrder(start(), end())) return;
+    const Place place = Editor::FrontOf(*start().blocks, start().block);
+    MoveTo(place, place);
+}
+
 // ---- The text ----
 
 Blocks& RangeObject::Story() {
@@ -119,16 +130,17 @@ int RangeObject::StoryLength() {
 
 std::string RangeObject::Text() {
     std::string text;
-    ForEachStretch(start(), end(), WithLastMark(), [&](const Stretch& stretch) { text += PlainText(stretch); });
+    ForEachStretch(start(), end(), WithLastMark(),
+                   [&](const Stretch& stretch) { text += PlainText(stretch); });
     if (extent_ == Extent::Cell) text += '\a';
     return text;
 }
 
 Place RangeObject::BeginInsertion() {
+    Settle();
     RequireEditable();
     if (IsEmpty()) return start();
-    const Place place = document_->editor().InParagraph(start());
-    document_->editor().Erase(place, end());
+    const Place place = document_->editor().Erase(document_->editor().InParagraph(start()), end());
     start_.MoveTo(place);
     return place;
 }
@@ -191,6 +203,7 @@ FindResult RangeObject::FindIn(const FindRequest& request) {
 // ---- Its looks ----
 
 void RangeObject::ChangeFont(const CharFormat& patch) {
+    Settle();
     RequireEditable();
     ForEachStretch(start(), end(), WithLastMark(),
                    [&](const Stretch& stretch) { ChangeFontOf(document_->model(), stretch, patch); });
@@ -198,11 +211,13 @@ void RangeObject::ChangeFont(const CharFormat& patch) {
 }
 
 void RangeObject::ForEachFont(const std::function<void(const CharFormat&)>& look) {
+    Settle();
     ForEachStretch(start(), end(), WithLastMark(),
                    [&](const Stretch& stretch) { LookAtFontsOf(document_->model(), stretch, look); });
 }
 
 void RangeObject::ForEachParagraph(const std::function<void(Paragraph&)>& visit) {
+    Settle();
     ForEachStretch(start(), end(), WithLastMark(), [&](const Stretch& stretch) { visit(stretch.paragraph); });
 }
 

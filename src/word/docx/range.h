@@ -27,7 +27,7 @@ class RangeObject final : public Shared, public LateBound<RangeObject>, public T
     RangeObject(std::shared_ptr<OpenDocument> document, const Place& start, const Place& end, Extent extent,
                 int storyType = MainTextStory);
     ~RangeObject() override;
-    void CheckAlive() const { document_->CheckAlive(); }
+    void CheckAlive();
 
     const Place& start() const { return start_.place(); }
     const Place& end() const { return end_.place(); }
@@ -61,6 +61,8 @@ class RangeObject final : public Shared, public LateBound<RangeObject>, public T
     void InsertAfter(const std::string& text);
     void InsertBreak(Arguments arguments);
     void Select();
+    /// Empties the range when edits have brought its ends out of order: its start went into a table, say.
+    void Settle();
     bool WithLastMark() const { return extent_ != Extent::Text; }
 
     std::shared_ptr<OpenDocument> document_;

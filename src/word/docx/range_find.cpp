@@ -47,9 +47,9 @@ void FindObject::CheckAlive() const {
 }
 
 bool FindObject::Execute(Arguments arguments) {
-    const ArgumentReader reader(arguments,
-                                {"FindText", "MatchCase", "MatchWholeWord", "MatchWildcards", "MatchSoundsLike",
-                                 "MatchAllWordForms", "Forward", "Wrap", "Format", "ReplaceWith", "Replace"});
+    const ArgumentReader reader(
+        arguments, {"FindText", "MatchCase", "MatchWholeWord", "MatchWildcards", "MatchSoundsLike",
+                    "MatchAllWordForms", "Forward", "Wrap", "Format", "ReplaceWith", "Replace"});
     RefuseUnusedSwitches(reader);
     FindRequest request{TextOf(reader["FindText"])};
     if (const Value* replacement = reader.Find("ReplaceWith")) request.replaceWith = TextOf(*replacement);
@@ -108,8 +108,8 @@ void InsertBreakAt(OpenDocument& document, const Place& place, int kind, FormatI
     if (kind == PageBreak)
         document.editor().InsertText(place, std::string_view(&character::kPageBreak, 1), format);
     else
-        document.editor().InsertSectionBreak(place,
-                                             kind == SectionBreakNextPage ? SectionNewPage : SectionContinuous);
+        document.editor().InsertSectionBreak(
+            place, kind == SectionBreakNextPage ? SectionNewPage : SectionContinuous);
     document.Changed();
 }
 

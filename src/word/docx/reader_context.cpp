@@ -20,6 +20,7 @@ bool RenameReferences(const ReadPart& part, pugi::xml_node element) {
     if (IsNamed(element, "w:footnoteReference") || IsNamed(element, "w:endnoteReference")) {
         part.context.usesNotes = true;
     }
+    if (IsNamed(element, "a:schemeClr")) part.context.usesTheme = true;
     for (const pugi::xml_node child : element.children()) {
         if (child.type() == pugi::node_element && !RenameReferences(part, child)) return false;
     }

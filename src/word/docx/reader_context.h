@@ -25,6 +25,7 @@ struct ReadContext {
     /// The layout rules that the file asks for: 15 is the word processor's of 2013 and later.
     int compatibilityMode = 12;
     bool usesNotes = false;  ///< some text refers to a footnote or an endnote
+    bool usesTheme = false;  ///< some drawing names the theme's colours
 
     /// The model's number for the file's; 0, which is no list, for one that the file does not define.
     int ListNumber(int fileNumber) const {

@@ -24,7 +24,7 @@ struct OpenField {
 
 /// Finds the marks that belong to no whole field.
 class FieldMatcher {
-   public:
+ public:
     void Take(const MarkPlace& place) {
         const InlineObject& object = place.paragraph->objects[place.object];
         const bool waits = !open_.empty() && !open_.back().isSeparated;
@@ -41,11 +41,12 @@ class FieldMatcher {
     }
 
     std::vector<MarkPlace> Loose() {
-        for (const OpenField& field : open_) loose_.insert(loose_.end(), field.marks.begin(), field.marks.end());
+        for (const OpenField& field : open_)
+            loose_.insert(loose_.end(), field.marks.begin(), field.marks.end());
         return std::move(loose_);
     }
 
-   private:
+ private:
     std::vector<OpenField> open_;
     std::vector<MarkPlace> loose_;
 };
@@ -80,7 +81,7 @@ std::optional<FormFieldData> ReadFormData(const std::string& formData, bool isCh
 
 /// Finds the form fields of one paragraph that consist of marks and a result in one format.
 class FormFieldFinder {
-   public:
+ public:
     explicit FormFieldFinder(const Paragraph& paragraph) : paragraph_(paragraph) {
         for (std::size_t at = paragraph.text.find(character::kObject); at != std::string::npos;
              at = paragraph.text.find(character::kObject, at + 1)) {
@@ -94,7 +95,7 @@ class FormFieldFinder {
     std::optional<Rewrite> At(std::size_t first);
     const std::set<int>& ownBookmarks() const { return ownBookmarks_; }
 
-   private:
+ private:
     struct Marks {
         std::size_t last = 0;  ///< the object that ends the field
         std::size_t resultStart = 0;
@@ -154,7 +155,8 @@ std::optional<Rewrite> FormFieldFinder::At(std::size_t first) {
     constexpr std::string_view kEmptyResult = "\u2002\u2002\u2002\u2002\u2002";
     field->result = paragraph_.text.substr(marks->resultStart, resultEnd - marks->resultStart);
     if (field->result == kEmptyResult) field->result.clear();
-    return Rewrite{offsets_[first], resultEnd + 1, {InlineObject{std::move(*field)}}, paragraph_.spans[look].format};
+    return Rewrite{
+        offsets_[first], resultEnd + 1, {InlineObject{std::move(*field)}}, paragraph_.spans[look].format};
 }
 
 }  // namespace
@@ -180,7 +182,8 @@ void CollapseFormFields(Paragraph& paragraph) {
         if (auto rewrite = finder.At(object)) rewrites.push_back(std::move(*rewrite));
     }
     if (rewrites.empty()) return;
-    std::erase_if(paragraph.anchors, [&](const Anchor& anchor) { return finder.ownBookmarks().contains(anchor.id); });
+    std::erase_if(paragraph.anchors,
+                  [&](const Anchor& anchor) { return finder.ownBookmarks().contains(anchor.id); });
     Apply(paragraph, std::move(rewrites));
 }
 

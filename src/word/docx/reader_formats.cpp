@@ -105,7 +105,8 @@ std::vector<TabStop> ReadTabs(pugi::xml_node tabs) {
     return stops;
 }
 
-std::optional<int> ReadSpace(pugi::xml_node spacing, const char* plain, const char* automatic, const char* lines) {
+std::optional<int> ReadSpace(pugi::xml_node spacing, const char* plain, const char* automatic,
+                             const char* lines) {
     constexpr double kTwipsPerHundredthLine = 2.4;
     if (IsOnText(Attribute(spacing, automatic), false)) return kAutomaticSpace;
     if (const auto hundredths = NumberAttribute(spacing, lines); hundredths && *hundredths > 0) {
@@ -165,19 +166,24 @@ bool TakeParaProperty(const ReadPart& part, pugi::xml_node child, ParaFormat& fo
 
 }  // namespace
 
-std::optional<int> Twips(pugi::xml_node node, const char* name) { return NumberAttribute(node, name); }
+std::optional<int> Twips(pugi::xml_node node, const char* name) {
+    return NumberAttribute(node, name);
+}
 
-void KeepExtra(const ReadPart& part, pugi::xml_node child, std::span<const std::string_view> order, Extra& extra) {
+void KeepExtra(const ReadPart& part, pugi::xml_node child, std::span<const std::string_view> order,
+               Extra& extra) {
     const std::string_view name = LocalName(child);
-    const auto rank = [&](std::string_view wanted) { return std::ranges::find(order, wanted) - order.begin(); };
+    const auto rank = [&](std::string_view wanted) {
+        return std::ranges::find(order, wanted) - order.begin();
+    };
     const bool known = rank(name) < std::ssize(order);
     const bool dropped = std::ranges::find(kDroppedProperties, name) != std::end(kDroppedProperties);
     const bool repeated = std::ranges::find(extra, name, &Extra::value_type::first) != extra.end();
     if (!known || dropped || repeated) return;
     std::string xml = part.Keep(child);
     if (xml.empty()) return;
-    const auto behind = std::ranges::find_if(
-        extra, [&](const auto& other) { return rank(other.first) > rank(name); });
+    const auto behind =
+        std::ranges::find_if(extra, [&](const auto& other) { return rank(other.first) > rank(name); });
     extra.emplace(behind, std::string(name), std::move(xml));
 }
 
@@ -187,7 +193,8 @@ CharFormat ReadCharFormat(const ReadPart& part, pugi::xml_node properties) {
         if (!TakeCharProperty(part, child, format)) KeepExtra(part, child, kRunOrder, format.extra);
     }
     // The size for complex scripts goes with the size.
-    if (format.halfPoints) std::erase_if(format.extra, [](const auto& extra) { return extra.first == "szCs"; });
+    if (format.halfPoints)
+        std::erase_if(format.extra, [](const auto& extra) { return extra.first == "szCs"; });
     return format;
 }
 

@@ -22,7 +22,8 @@ SectionProperties ReadSectionFormat(const ReadPart& part, pugi::xml_node propert
 /// Keeps a child as (local name, XML) unless the schema has no such child or there is one already; the
 /// result is in the schema's order.
 using Extra = std::vector<std::pair<std::string, std::string>>;
-void KeepExtra(const ReadPart& part, pugi::xml_node child, std::span<const std::string_view> order, Extra& extra);
+void KeepExtra(const ReadPart& part, pugi::xml_node child, std::span<const std::string_view> order,
+               Extra& extra);
 
 /// Twips of an attribute, unset when it is absent.
 std::optional<int> Twips(pugi::xml_node node, const char* name);

@@ -31,7 +31,8 @@ bool IsAmong(const std::string_view (&names)[N], std::string_view name) {
 std::string TextOf(pugi::xml_node node) {
     std::string text;
     for (const pugi::xml_node child : node.children()) text += child.value();
-    std::ranges::replace_if(text, [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
+    std::ranges::replace_if(
+        text, [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
     if (Attribute(node, "xml:space") == "preserve") return text;
     text.erase(0, text.find_first_not_of(' '));
     text.erase(text.find_last_not_of(' ') + 1);
@@ -61,7 +62,9 @@ FormatId StoryReader::FormatOf(pugi::xml_node runProperties) {
     return part_.context.document.charFormats.Intern(ReadCharFormat(part_, runProperties));
 }
 
-FormatId StoryReader::FirstFormat(pugi::xml_node content) { return FormatOf(content.child("w:r").child("w:rPr")); }
+FormatId StoryReader::FirstFormat(pugi::xml_node content) {
+    return FormatOf(content.child("w:r").child("w:rPr"));
+}
 
 void StoryReader::ReadInlines(pugi::xml_node parent) {
     GrowingParagraph& growing = growing_;
@@ -80,7 +83,8 @@ void StoryReader::ReadInlines(pugi::xml_node parent) {
         } else if (name == "w:bookmarkStart" || name == "w:bookmarkEnd") {
             ReadBookmark(child, growing.paragraph.anchors, growing.paragraph.text.size());
         } else if (name == "m:oMath" || name == "m:oMathPara") {
-            if (std::string xml = part_.Keep(child); !xml.empty()) growing.Object(RawInline{std::move(xml)}, 0);
+            if (std::string xml = part_.Keep(child); !xml.empty())
+                growing.Object(RawInline{std::move(xml)}, 0);
         }
     }
 }

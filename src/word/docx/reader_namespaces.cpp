@@ -90,11 +90,11 @@ std::string_view UriOfUsual(std::string_view prefix) {
 enum class Fate { Keep, Rename, Drop };
 
 class Normaliser {
-   public:
+ public:
     void Root(pugi::xml_node root);
     std::map<std::string, std::string, std::less<>> Take() { return std::move(uriByPrefix_); }
 
-   private:
+ private:
     struct Declared {
         std::string prefix;
         std::string usual;  ///< empty for a default that is taken back (xmlns="")
@@ -157,7 +157,8 @@ void Normaliser::DeclareIgnorable(pugi::xml_node node) {
         while (!list.empty()) {
             const std::string_view prefix = list.substr(0, list.find(' '));
             const Declared* ignored = Find(prefix);
-            if (ignored && !IsUnderstood(ignored->usual)) scope_.push_back({ignored->prefix, ignored->usual, true});
+            if (ignored && !IsUnderstood(ignored->usual))
+                scope_.push_back({ignored->prefix, ignored->usual, true});
             list.remove_prefix(std::min(list.size(), prefix.size() + 1));
             lastFound_ = -1;
         }
@@ -216,7 +217,8 @@ void Normaliser::Attributes(pugi::xml_node node) {
         if (fate == Fate::Drop || isNoise || std::ranges::find(seen, name) != seen.end()) {
             node.remove_attribute(attribute);
         } else {
-            if (!IsCleanXmlText(attribute.value())) attribute.set_value(CleanXmlText(attribute.value()).c_str());
+            if (!IsCleanXmlText(attribute.value()))
+                attribute.set_value(CleanXmlText(attribute.value()).c_str());
             seen.push_back(name);
         }
         attribute = next;
@@ -332,7 +334,9 @@ std::string_view PrefixOf(std::string_view name) {
     return colon == std::string_view::npos ? std::string_view() : name.substr(0, colon);
 }
 
-bool IsUsualPrefix(std::string_view prefix) { return !UriOfUsual(prefix).empty(); }
+bool IsUsualPrefix(std::string_view prefix) {
+    return !UriOfUsual(prefix).empty();
+}
 
 std::map<std::string, std::string, std::less<>> NormaliseNames(pugi::xml_node root) {
     CheckDepth(root);

@@ -56,7 +56,9 @@ std::string TargetBelowWord(const std::string& part) {
 
 }  // namespace
 
-Package::Package(ZipReader& zip) : zip_(zip) { ReadContentTypes(); }
+Package::Package(ZipReader& zip) : zip_(zip) {
+    ReadContentTypes();
+}
 
 void Package::ReadContentTypes() {
     const std::unique_ptr<XmlTree> types = Xml(kContentTypesPart);
@@ -67,7 +69,8 @@ void Package::ReadContentTypes() {
             typeByExtension_.try_emplace(SmallLetters(Attribute(type, "Extension")), contentType);
         }
         if (name.ends_with("Override")) {
-            typeByPart_.try_emplace(SmallLetters(ResolveTarget("", Attribute(type, "PartName"))), contentType);
+            typeByPart_.try_emplace(SmallLetters(ResolveTarget("", Attribute(type, "PartName"))),
+                                    contentType);
         }
     }
 }
@@ -101,7 +104,8 @@ const std::vector<PackageLink>& Package::Links(const std::string& part) {
         const bool external = Attribute(node, "TargetMode") == "External";
         place->second.push_back(
             {std::string(Attribute(node, "Id")), type,
-             fullType.starts_with(kStrictRelationships) ? fmt::format("{}/{}", kOfficeRelationships, type) : fullType,
+             fullType.starts_with(kStrictRelationships) ? fmt::format("{}/{}", kOfficeRelationships, type)
+                                                        : fullType,
              external ? std::string(target) : ResolveTarget(FolderOf(part), target), external});
     }
     return place->second;
@@ -120,7 +124,9 @@ const PackageLink* Package::FindById(const std::string& part, std::string_view i
     return found == links.end() ? nullptr : &*found;
 }
 
-std::optional<Relation> RelationReader::Read(const PackageLink& link) { return ReadNested(link, 1); }
+std::optional<Relation> RelationReader::Read(const PackageLink& link) {
+    return ReadNested(link, 1);
+}
 
 std::optional<Relation> RelationReader::ReadNested(const PackageLink& link, int depth) {
     if (++read_ > kMostRelations) package_.Refuse("has more relationships than any document");

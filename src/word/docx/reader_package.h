@@ -16,14 +16,14 @@ namespace quillmark::word::docx {
 
 struct PackageLink {
     std::string id;
-    std::string type;    ///< the last word of the type's address: "header", "image", ...
+    std::string type;  ///< the last word of the type's address: "header", "image", ...
     std::string fullType;
     std::string target;  ///< the name of the part in the package, or the address of an outside one
     bool external = false;
 };
 
 class Package {
-   public:
+ public:
     explicit Package(ZipReader& zip);
 
     /// The relationships of a part; those of the package itself for an empty name.
@@ -39,7 +39,7 @@ class Package {
 
     [[noreturn]] void Refuse(std::string_view reason) const { zip_.Refuse(reason); }
 
-   private:
+ private:
     void ReadContentTypes();
 
     ZipReader& zip_;
@@ -50,7 +50,7 @@ class Package {
 
 /// Takes the relationships that kept XML names over into the document.
 class RelationReader {
-   public:
+ public:
     RelationReader(Package& package, Document& document) : package_(package), document_(document) {}
 
     /// The id in `Document::relations` of what the part's id leads to; unset when it leads nowhere.
@@ -58,7 +58,7 @@ class RelationReader {
     /// The relation with its part's bytes and all that these lead to; unset when the part is not there.
     std::optional<Relation> Read(const PackageLink& link);
 
-   private:
+ private:
     std::optional<Relation> ReadNested(const PackageLink& link, int depth);
 
     Package& package_;

@@ -44,8 +44,8 @@ bool IsPlainShape(pugi::xml_node picture) {
     const pugi::xml_node turn = shape.child("a:xfrm");
     const pugi::xml_node line = shape.child("a:ln");
     return HasOnlyChildren(picture.child("pic:nvPicPr").child("pic:cNvPr"), {"a:extLst"}) &&
-           HasOnlyChildren(fill, {"a:blip", "a:stretch"}) && HasOnlyChildren(fill.child("a:blip"), {"a:extLst"}) &&
-           !fill.child("a:blip").attribute("r:link") &&
+           HasOnlyChildren(fill, {"a:blip", "a:stretch"}) &&
+           HasOnlyChildren(fill.child("a:blip"), {"a:extLst"}) && !fill.child("a:blip").attribute("r:link") &&
            HasOnlyChildren(shape, {"a:xfrm", "a:prstGeom", "a:noFill", "a:ln"}) && !turn.first_attribute() &&
            Attribute(shape.child("a:prstGeom"), "prst") == "rect" && (!line || line.child("a:noFill"));
 }

@@ -10,7 +10,7 @@ namespace {
 
 /// Copies a paragraph's content piece by piece.
 class Copier {
-   public:
+ public:
     explicit Copier(Paragraph& source) : source_(source) {}
 
     void CopyTo(std::size_t offset) {
@@ -36,7 +36,7 @@ class Copier {
         source_.objects = std::move(objects_);
     }
 
-   private:
+ private:
     void PutText(std::string_view text, FormatId format) {
         if (text.empty()) return;
         text_ += text;

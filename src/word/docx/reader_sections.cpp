@@ -49,7 +49,8 @@ void ReadColumns(pugi::xml_node columns, SectionProperties& section) {
 /// False for what the model cannot hold whole.
 bool TakeSectionProperty(pugi::xml_node child, SectionProperties& section) {
     const std::string_view name = child.name();
-    if (name == "w:headerReference" || name == "w:footerReference" || name == "w:printerSettings") return true;
+    if (name == "w:headerReference" || name == "w:footerReference" || name == "w:printerSettings")
+        return true;
     if (name == "w:type") {
         section.start = StartNumber(Val(child));
     } else if (name == "w:pgSz") {

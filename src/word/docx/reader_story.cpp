@@ -10,7 +10,8 @@ namespace quillmark::word::docx {
 namespace {
 
 /// Containers that only say something about the blocks in them.
-constexpr std::string_view kTransparent[] = {"w:customXml", "w:smartTag", "w:ins", "w:moveTo", "w:sdtContent"};
+constexpr std::string_view kTransparent[] = {"w:customXml", "w:smartTag", "w:ins", "w:moveTo",
+                                             "w:sdtContent"};
 constexpr std::size_t kLongestBookmarkName = 40;
 /// Where the author typed last: of no use to anyone else.
 constexpr std::string_view kLastEditBookmark = "_GoBack";
@@ -78,7 +79,8 @@ void StoryReader::ReadBlocks(pugi::xml_node parent, Blocks& blocks) {
         } else if (name == "w:bookmarkStart" || name == "w:bookmarkEnd") {
             ReadBookmark(child, pendingAnchors_, 0);
         } else if (name == "w:altChunk") {
-            if (std::string xml = part_.Keep(child); !xml.empty()) blocks.emplace_back(RawBlock{std::move(xml)});
+            if (std::string xml = part_.Keep(child); !xml.empty())
+                blocks.emplace_back(RawBlock{std::move(xml)});
         }
     }
 }

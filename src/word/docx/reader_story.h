@@ -14,7 +14,7 @@
 namespace quillmark::word::docx {
 
 class StoryReader {
-   public:
+ public:
     /// Reads a w:sectPr within the text; without one, text does not divide into sections.
     using SectionReader = std::function<SectionProperties(pugi::xml_node)>;
 
@@ -24,7 +24,7 @@ class StoryReader {
     /// The blocks of w:body, w:hdr or w:ftr. Fields and bookmarks in them are whole.
     Blocks Read(pugi::xml_node container);
 
-   private:
+ private:
     // Blocks
     Blocks ReadContainer(pugi::xml_node container);
     void ReadBlocks(pugi::xml_node parent, Blocks& blocks);
@@ -49,9 +49,9 @@ class StoryReader {
     ReadPart part_;
     SectionReader readSection_;
     GrowingParagraph growing_;
-    std::vector<Anchor> pendingAnchors_;   ///< between blocks: they go to the next paragraph
-    std::optional<Paragraph> carried_;     ///< of a deleted paragraph mark: it goes before the next paragraph
-    std::map<int, int> openBookmarks_;     ///< the file's ids to the model's
+    std::vector<Anchor> pendingAnchors_;  ///< between blocks: they go to the next paragraph
+    std::optional<Paragraph> carried_;    ///< of a deleted paragraph mark: it goes before the next paragraph
+    std::map<int, int> openBookmarks_;    ///< the file's ids to the model's
     std::set<int> closedBookmarks_;
     int tableDepth_ = 0;
 };

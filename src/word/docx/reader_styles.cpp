@@ -17,8 +17,9 @@ using AbstractIndices = std::unordered_map<int, int>;
 /// Puts a level's children in the schema's order, each once: some programs do not, and Word minds. Picture
 /// bullets lead to parts that stay behind.
 void MendLevel(pugi::xml_node level) {
-    constexpr const char* kOrder[] = {"w:start", "w:numFmt",  "w:lvlRestart", "w:pStyle", "w:isLgl", "w:suff",
-                                      "w:lvlText", "w:legacy", "w:lvlJc",      "w:pPr",    "w:rPr"};
+    constexpr const char* kOrder[] = {"w:start", "w:numFmt", "w:lvlRestart", "w:pStyle",
+                                      "w:isLgl", "w:suff",   "w:lvlText",    "w:legacy",
+                                      "w:lvlJc", "w:pPr",    "w:rPr"};
     level.remove_child("w:lvlPicBulletId");
     for (const char* name : kOrder) {
         const pugi::xml_node child = level.child(name);
@@ -92,7 +93,8 @@ void DropDanglingReferences(pugi::xml_node style, StyleBases& bases) {
 
 void RenumberList(const ReadContext& context, pugi::xml_node style) {
     pugi::xml_node number = style.child("w:pPr").child("w:numPr").child("w:numId");
-    if (number) number.attribute("w:val").set_value(context.ListNumber(NumberAttribute(number, "w:val").value_or(0)));
+    if (number)
+        number.attribute("w:val").set_value(context.ListNumber(NumberAttribute(number, "w:val").value_or(0)));
 }
 
 void NoteStyle(ReadContext& context, const StyleDefinition& style) {
@@ -126,7 +128,8 @@ void ReadNumbering(ReadContext& context, const XmlTree& tree) {
     const AbstractIndices indices = ReadAbstractLists(context, tree);
     for (const pugi::xml_node number : tree.root().children("w:num")) {
         const auto id = NumberAttribute(number, "w:numId");
-        const auto abstract = indices.find(NumberAttribute(number.child("w:abstractNumId"), "w:val").value_or(-1));
+        const auto abstract =
+            indices.find(NumberAttribute(number.child("w:abstractNumId"), "w:val").value_or(-1));
         if (!id || *id <= 0 || abstract == indices.end() || context.listNumbers.contains(*id)) continue;
         context.document.lists.push_back(ReadInstance(tree, number, abstract->second));
         context.listNumbers.emplace(*id, static_cast<int>(context.document.lists.size()));
@@ -140,7 +143,8 @@ void ReadStyles(ReadContext& context, const XmlTree& tree) {
     for (const pugi::xml_node style : UsableStyles(tree, bases)) {
         DropDanglingReferences(style, bases);
         RenumberList(context, style);
-        document.styles.push_back({std::string(Attribute(style, "w:styleId")), std::string(Val(style.child("w:name"))),
+        document.styles.push_back({std::string(Attribute(style, "w:styleId")),
+                                   std::string(Val(style.child("w:name"))),
                                    std::string(Attribute(style, "w:type")), tree.PlainFragment(style)});
         NoteStyle(context, document.styles.back());
     }

@@ -79,11 +79,13 @@ bool IsElement(const std::pair<std::string, std::string>& extra, std::string_vie
 /// Tables of older layout rules stick out by their left cell margin; those of 15 start at the text's edge.
 void MoveOutByCellMargin(pugi::xml_node properties, Table& table) {
     const std::string_view alignment = Val(properties.child("w:jc"));
-    if (alignment == "center" || alignment == "right" || alignment == "end" || properties.child("w:tblpPr")) return;
+    if (alignment == "center" || alignment == "right" || alignment == "end" || properties.child("w:tblpPr"))
+        return;
     const pugi::xml_node indent = properties.child("w:tblInd");
     const std::string_view unit = Attribute(indent, "w:type");
     if (indent && unit != "dxa" && unit != "auto" && unit != "nil") return;
-    const int margin = Twips(properties.child("w:tblCellMar").child("w:left"), "w:w").value_or(kUsualCellMargin);
+    const int margin =
+        Twips(properties.child("w:tblCellMar").child("w:left"), "w:w").value_or(kUsualCellMargin);
     const int moved = (unit == "dxa" ? Twips(indent, "w:w").value_or(0) : 0) - margin;
     std::erase_if(table.extra, [](const auto& extra) { return IsElement(extra, "tblInd"); });
     table.extra.emplace_back("tblInd", "<w:tblInd w:w=\"" + std::to_string(moved) + "\" w:type=\"dxa\"/>");
@@ -101,7 +103,8 @@ int FreeColumns(pugi::xml_node row, const char* which) {
 
 void ReadGrid(pugi::xml_node node, Table& table) {
     for (const pugi::xml_node column : node.child("w:tblGrid").children("w:gridCol")) {
-        if (table.grid.size() < kMostColumns) table.grid.push_back(std::max(Twips(column, "w:w").value_or(0), 0));
+        if (table.grid.size() < kMostColumns)
+            table.grid.push_back(std::max(Twips(column, "w:w").value_or(0), 0));
     }
 }
 
@@ -131,7 +134,8 @@ void ReadRowFormat(const ReadPart& part, pugi::xml_node node, TableRow& row) {
         if (rule == "exact" || rule == "atLeast") row.heightRule = rule;
     }
     if (const pugi::xml_node exceptions = node.child("w:tblPrEx")) {
-        if (std::string xml = part.Keep(exceptions); !xml.empty()) row.extra.emplace_back("tblPrEx", std::move(xml));
+        if (std::string xml = part.Keep(exceptions); !xml.empty())
+            row.extra.emplace_back("tblPrEx", std::move(xml));
     }
 }
 
@@ -146,7 +150,8 @@ void ReadCellFormat(const ReadPart& part, pugi::xml_node properties, TableCell& 
             continue;
         } else if (name == "w:shd" && (cell.fill = ReadFill(child))) {
             continue;
-        } else if (name == "w:vAlign" && (cell.verticalAlignment = NumberOf(kVerticalAlignments, Val(child)))) {
+        } else if (name == "w:vAlign" &&
+                   (cell.verticalAlignment = NumberOf(kVerticalAlignments, Val(child)))) {
             continue;
         } else if (name != "w:hMerge") {
             KeepExtra(part, child, kCellOrder, cell.extra);
@@ -175,7 +180,8 @@ void CompleteGrid(pugi::xml_node node, Table& table) {
 
 /// Widths that only repeat what the grid says are left to it.
 void ForgetGridWidths(pugi::xml_node node, Table& table) {
-    const auto repeats = [](const std::pair<std::string, std::string>& extra, std::string_view name, int width) {
+    const auto repeats = [](const std::pair<std::string, std::string>& extra, std::string_view name,
+                            int width) {
         return IsElement(extra, name) && IsWidth(ParseFragment(extra.second)->document_element(), width);
     };
     const int whole = std::accumulate(table.grid.begin(), table.grid.end(), 0);
@@ -184,7 +190,8 @@ void ForgetGridWidths(pugi::xml_node node, Table& table) {
         std::erase_if(table.extra, [](const auto& extra) { return IsElement(extra, "tblLayout"); });
     }
     for (TableRow& row : table.rows) {
-        if (std::ranges::any_of(row.extra, [](const auto& extra) { return IsElement(extra, "gridBefore"); })) continue;
+        if (std::ranges::any_of(row.extra, [](const auto& extra) { return IsElement(extra, "gridBefore"); }))
+            continue;
         std::size_t column = 0;
         for (TableCell& cell : row.cells) {
             const auto first = table.grid.begin() + static_cast<std::ptrdiff_t>(column);
@@ -209,7 +216,8 @@ std::unique_ptr<Table> StoryReader::ReadTable(pugi::xml_node node) {
     ReadGrid(node, *table);
     ReadTableProperties(part_, properties, *table);
     constexpr int kRulesOf2013 = 15;
-    if (tableDepth_ == 0 && part_.context.compatibilityMode < kRulesOf2013) MoveOutByCellMargin(properties, *table);
+    if (tableDepth_ == 0 && part_.context.compatibilityMode < kRulesOf2013)
+        MoveOutByCellMargin(properties, *table);
     ++tableDepth_;
     ReadRows(node, *table);
     --tableDepth_;

@@ -26,7 +26,9 @@ bool HasEvenCapitals(char32_t c) {
            (c >= 0x48A && c <= 0x4BF) || (c >= 0x1E00 && c <= 0x1E95);
 }
 
-bool HasOddCapitals(char32_t c) { return (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E); }
+bool HasOddCapitals(char32_t c) {
+    return (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
+}
 
 char32_t FoldCase(char32_t c) {
     if (c >= 'A' && c <= 'Z') return c + 32;

@@ -8,7 +8,7 @@
 namespace quillmark::word::docx {
 
 class Theme {
-   public:
+ public:
     Theme() = default;
     /// From the theme part's root.
     explicit Theme(pugi::xml_node root);
@@ -17,7 +17,7 @@ class Theme {
     /// whose plain values stand beside them.
     void Resolve(pugi::xml_node element) const;
 
-   private:
+ private:
     void ResolveFonts(pugi::xml_node fonts) const;
 
     std::map<std::string, std::string, std::less<>> fontByName_;

@@ -21,8 +21,10 @@ constexpr unsigned kPrintOptions = pugi::format_raw | pugi::format_no_declaratio
 constexpr double kLargestNumber = 1'000'000;
 
 class StringSink : public pugi::xml_writer {
-   public:
-    void write(const void* data, std::size_t size) override { text.append(static_cast<const char*>(data), size); }
+ public:
+    void write(const void* data, std::size_t size) override {
+        text.append(static_cast<const char*>(data), size);
+    }
     std::string text;
 };
 
@@ -79,8 +81,12 @@ std::string XmlTree::Print(pugi::xml_node element, Declare which) const {
     return std::move(sink.text);
 }
 
-std::string XmlTree::Fragment(pugi::xml_node element) const { return Print(element, Declare::Unknown); }
-std::string XmlTree::Part() const { return Print(root(), Declare::All); }
+std::string XmlTree::Fragment(pugi::xml_node element) const {
+    return Print(element, Declare::Unknown);
+}
+std::string XmlTree::Part() const {
+    return Print(root(), Declare::All);
+}
 std::string XmlTree::PlainFragment(pugi::xml_node element) const {
     return Print(element, Declare::AllButPlain);
 }
@@ -98,9 +104,13 @@ std::string PrintFragment(const pugi::xml_document& fragment) {
     return std::move(sink.text);
 }
 
-bool IsNamed(pugi::xml_node node, std::string_view name) { return name == node.name(); }
+bool IsNamed(pugi::xml_node node, std::string_view name) {
+    return name == node.name();
+}
 
-std::string_view Attribute(pugi::xml_node node, const char* name) { return node.attribute(name).value(); }
+std::string_view Attribute(pugi::xml_node node, const char* name) {
+    return node.attribute(name).value();
+}
 
 std::optional<int> ToNumber(std::string_view text, double perPoint) {
     double value = 0;
@@ -118,6 +128,8 @@ bool IsOnText(std::string_view text, bool absent) {
     return text != "0" && text != "false" && text != "off" && text != "no";
 }
 
-bool IsOn(pugi::xml_node node) { return node && IsOnText(Val(node), true); }
+bool IsOn(pugi::xml_node node) {
+    return node && IsOnText(Val(node), true);
+}
 
 }  // namespace quillmark::word::docx

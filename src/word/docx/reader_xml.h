@@ -12,7 +12,7 @@ namespace quillmark::word::docx {
 
 /// What is wrong with a part's XML, without the name of file and part.
 class XmlDamage : public std::runtime_error {
-   public:
+ public:
     using std::runtime_error::runtime_error;
 };
 
@@ -24,7 +24,7 @@ class XmlDamage : public std::runtime_error {
 /// whose alternatives stay together. Marks of proofing, revisions' numbers, comments and the former state
 /// of changed properties are dropped. Texts are UTF-8 without control characters.
 class XmlTree {
-   public:
+ public:
     /// Throws XmlDamage for text that is no XML, and for trees too deep or too large.
     explicit XmlTree(std::string_view bytes);
 
@@ -38,7 +38,7 @@ class XmlTree {
     /// An element for a part that declares the prefix w alone.
     std::string PlainFragment(pugi::xml_node element) const;
 
-   private:
+ private:
     using UriByPrefix = std::map<std::string, std::string, std::less<>>;
 
     enum class Declare { All, AllButPlain, Unknown };
@@ -55,7 +55,9 @@ std::string PrintFragment(const pugi::xml_document& fragment);
 bool IsNamed(pugi::xml_node node, std::string_view name);
 /// The attribute's text, empty when there is none.
 std::string_view Attribute(pugi::xml_node node, const char* name);
-inline std::string_view Val(pugi::xml_node node) { return Attribute(node, "w:val"); }
+inline std::string_view Val(pugi::xml_node node) {
+    return Attribute(node, "w:val");
+}
 
 /// A number, or a measure with its unit ("1in", "12pt"), as a whole number of `perPoint` to the point; unset
 /// for anything else. Values beyond any page are cut.

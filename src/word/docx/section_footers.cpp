@@ -125,8 +125,7 @@ Story& FooterObject::Shown() const {
 
 Value FooterObject::Range() {
     const int storyType = kFooters[static_cast<std::size_t>(pages_)].storyType;
-    return ObjectPtr(
-        RangeOver(section_->document(), Shown().blocks, RangeObject::Extent::Story, storyType));
+    return ObjectPtr(RangeOver(section_->document(), Shown().blocks, RangeObject::Extent::Story, storyType));
 }
 
 bool FooterObject::IsLinked() const {

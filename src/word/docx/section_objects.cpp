@@ -39,13 +39,11 @@ int TextWidth(const SectionProperties& section) {
 /// What all sections agree on.
 template <class Read>
 Value CommonOf(SectionTarget& target, const Read& read) {
-    std::optional<Value> common;
-    for (SectionProperties* section : target.TargetSections()) {
-        const Value value = read(*section);
-        if (common && *common != value) return Whole(kUndefined);
-        common = value;
-    }
-    return *common;
+    const std::vector<SectionProperties*> sections = target.TargetSections();
+    Value common = read(*sections.front());
+    const bool isMixed = std::any_of(sections.begin(), sections.end(),
+                                     [&](SectionProperties* section) { return read(*section) != common; });
+    return isMixed ? Whole(kUndefined) : common;
 }
 
 template <class Change>
@@ -57,7 +55,8 @@ void ChangeSections(SectionTarget& target, const Change& change) {
 }  // namespace
 
 int ColumnWidth(const SectionProperties& section) {
-    return (TextWidth(section) - (section.columns - 1) * section.columnSpacing) / std::max(section.columns, 1);
+    return (TextWidth(section) - (section.columns - 1) * section.columnSpacing) /
+           std::max(section.columns, 1);
 }
 
 int TextHeight(const SectionProperties& section) {
@@ -79,12 +78,14 @@ const MemberTable<TextColumnsObject>& TextColumnsObject::Members() {
          }},
         {"Width",
          [](TextColumnsObject& columns, Arguments) {
-             return CommonOf(columns.target_, [](const SectionProperties& s) { return PointsOf(ColumnWidth(s)); });
+             return CommonOf(columns.target_,
+                             [](const SectionProperties& s) { return PointsOf(ColumnWidth(s)); });
          },
          [](TextColumnsObject& columns, const Value& value) { columns.SetWidth(value); }},
         {"Spacing",
          [](TextColumnsObject& columns, Arguments) {
-             return CommonOf(columns.target_, [](const SectionProperties& s) { return PointsOf(s.columnSpacing); });
+             return CommonOf(columns.target_,
+                             [](const SectionProperties& s) { return PointsOf(s.columnSpacing); });
          },
          [](TextColumnsObject& columns, const Value& value) { columns.SetSpacing(value); }},
     };

@@ -114,7 +114,8 @@ const MemberTable<SelectionObject>& SelectionObject::Members() {
         {"PasteAndFormat", nullptr, nullptr,
          [](SelectionObject& selection, Arguments arguments) {
              const int type = WholeOf(ArgumentReader(arguments, {"Type"})["Type"]);
-             if (type != FormatOriginalFormatting) throw AutomationError(error::kBadValue, "No such way of pasting");
+             if (type != FormatOriginalFormatting)
+                 throw AutomationError(error::kBadValue, "No such way of pasting");
              selection.Paste(true);
              return Value();
          }},
@@ -155,8 +156,8 @@ Place SelectionObject::BeginInsertion() {
     RequireEditable();
     if (!selectsAll_) return place();
     selectsAll_ = false;
-    const Place start = document_.editor().InParagraph(place());
-    document_.editor().Erase(start, end_.place());
+    Place start = document_.editor().InParagraph(place());
+    if (Editor::InOrder(start, end_.place())) start = document_.editor().Erase(start, end_.place());
     start_.MoveTo(start);
     start_.SetGravity(Gravity::Behind);
     end_.MoveTo(start);

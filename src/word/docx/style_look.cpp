@@ -15,9 +15,8 @@ using pugi::xml_node;
 constexpr int kDeepestStyle = 20;
 
 bool SameName(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](unsigned char x, unsigned char y) {
-        return std::tolower(x) == std::tolower(y);
-    });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](unsigned char x, unsigned char y) { return std::tolower(x) == std::tolower(y); });
 }
 
 template <class T>
@@ -71,7 +70,8 @@ void FillTabs(ParaFormat& format, xml_node tabs) {
         TabStop stop{tab.attribute("w:pos").as_int(), tab.attribute("w:val").as_string(),
                      tab.attribute("w:leader").as_string()};
         const auto isThere = [&](const TabStop& other) { return other.position == stop.position; };
-        if (std::none_of(format.tabs.begin(), format.tabs.end(), isThere)) format.tabs.push_back(std::move(stop));
+        if (std::none_of(format.tabs.begin(), format.tabs.end(), isThere))
+            format.tabs.push_back(std::move(stop));
     }
 }
 
@@ -104,7 +104,8 @@ const StyleDefinition* StyleById(const Document& document, std::string_view id) 
 
 const StyleDefinition* DefaultParagraphStyle(const Document& document) {
     for (const StyleDefinition& style : document.styles)
-        if (style.type == "paragraph" && style.xml.find("w:default=\"1\"") != std::string::npos) return &style;
+        if (style.type == "paragraph" && style.xml.find("w:default=\"1\"") != std::string::npos)
+            return &style;
     return nullptr;
 }
 
@@ -206,10 +207,12 @@ void SetContextualSpacing(StyleDefinition& style, bool on) {
     properties.remove_child("w:contextualSpacing");
     if (on) {
         // Behind these in the schema's order; whatever else a style's w:pPr holds stands further on.
-        static constexpr const char* kBefore[] = {"w:ind", "w:spacing", "w:tabs", "w:numPr", "w:widowControl",
-                                                  "w:pageBreakBefore", "w:keepLines", "w:keepNext"};
+        static constexpr const char* kBefore[] = {"w:ind",       "w:spacing",      "w:tabs",
+                                                  "w:numPr",     "w:widowControl", "w:pageBreakBefore",
+                                                  "w:keepLines", "w:keepNext"};
         xml_node root = xml.child("w:style");
-        if (!properties && root.child("w:rPr")) properties = root.insert_child_before("w:pPr", root.child("w:rPr"));
+        if (!properties && root.child("w:rPr"))
+            properties = root.insert_child_before("w:pPr", root.child("w:rPr"));
         if (!properties) properties = root.append_child("w:pPr");
         xml_node before;
         for (const char* name : kBefore)

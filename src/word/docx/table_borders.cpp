@@ -41,7 +41,9 @@ class Agreement {
         isMixed_ = isMixed_ || (common_ && *common_ != style);
         common_ = style;
     }
-    std::optional<int> Result() const { return isMixed_ ? std::nullopt : common_ ? common_ : std::optional(0); }
+    std::optional<int> Result() const {
+        return isMixed_ ? std::nullopt : common_ ? common_ : std::optional(0);
+    }
 
  private:
     std::optional<int> common_;

@@ -61,7 +61,8 @@ void JoinRun(Editor& editor, TableRow& row, CellRun run) {
     std::vector<const Blocks*> old;
     for (auto cell = begin + run.count; cell != row.cells.end(); ++cell) old.push_back(&cell->blocks);
     row.cells.erase(begin + 1, begin + run.count);
-    for (std::size_t i = 0; i < old.size(); ++i) editor.marks().Rehomed(old[i], row.cells[run.first + 1 + i].blocks);
+    for (std::size_t i = 0; i < old.size(); ++i)
+        editor.marks().Rehomed(old[i], row.cells[run.first + 1 + i].blocks);
 }
 
 }  // namespace
@@ -81,14 +82,16 @@ bool HasVerticalMerges(const Table& table) {
 
 bool HasMixedWidths(const Table& table) {
     return std::any_of(table.rows.begin(), table.rows.end(), [](const TableRow& row) {
-        return std::any_of(row.cells.begin(), row.cells.end(), [](const TableCell& cell) { return cell.span != 1; });
+        return std::any_of(row.cells.begin(), row.cells.end(),
+                           [](const TableCell& cell) { return cell.span != 1; });
     });
 }
 
 void MergeCells(Editor& editor, Table& table, std::size_t row, std::size_t column, std::size_t toRow,
                 std::size_t toColumn) {
     const int from = std::min(GridColumn(table.rows[row], column), GridColumn(table.rows[toRow], toColumn));
-    const int to = std::max(GridColumn(table.rows[row], column + 1), GridColumn(table.rows[toRow], toColumn + 1));
+    const int to =
+        std::max(GridColumn(table.rows[row], column + 1), GridColumn(table.rows[toRow], toColumn + 1));
     const auto [first, last] = std::minmax(row, toRow);
     std::vector<CellRun> runs;
     for (std::size_t i = first; i <= last; ++i) runs.push_back(CellsWithin(table.rows[i], from, to));
@@ -104,7 +107,6 @@ void MergeCells(Editor& editor, Table& table, std::size_t row, std::size_t colum
             MoveText(editor, cell, table.rows[first].cells[runs.front().first]);
         }
     }
-    editor.Touch();
 }
 
 }  // namespace quillmark::word::docx

@@ -42,7 +42,8 @@ std::unique_ptr<Table> MakeTable(Document& document, int rows, int columns, int 
 }
 
 /// The cell whose own blocks these are, in the table or one nested in it.
-std::pair<const Table*, std::pair<std::size_t, std::size_t>> FindCell(const Table& table, const Blocks* blocks) {
+std::pair<const Table*, std::pair<std::size_t, std::size_t>> FindCell(const Table& table,
+                                                                      const Blocks* blocks) {
     for (std::size_t row = 0; row < table.rows.size(); ++row)
         for (std::size_t cell = 0; cell < table.rows[row].cells.size(); ++cell) {
             const Blocks& own = table.rows[row].cells[cell].blocks;
@@ -63,9 +64,10 @@ int CellTextWidth(OpenDocument& document, const Place& place) {
     const auto [table, position] = FindCell(*std::get<std::unique_ptr<Table>>(*block), place.blocks);
     if (!table) return 0;
     const TableRow& row = table->rows[position.first];
-    const auto first = table->grid.begin() + std::min<std::ptrdiff_t>(GridColumn(row, position.second),
-                                                                      std::ssize(table->grid));
-    const auto last = first + std::min<std::ptrdiff_t>(row.cells[position.second].span, table->grid.end() - first);
+    const auto first = table->grid.begin() +
+                       std::min<std::ptrdiff_t>(GridColumn(row, position.second), std::ssize(table->grid));
+    const auto last =
+        first + std::min<std::ptrdiff_t>(row.cells[position.second].span, table->grid.end() - first);
     return std::max(std::accumulate(first, last, 0) - kCellPadding, 1);
 }
 
@@ -73,7 +75,8 @@ int CellTextWidth(OpenDocument& document, const Place& place) {
 
 const MemberTable<TablesObject>& TablesObject::Members() {
     static const MemberTable<TablesObject> members = {
-        {"Add", nullptr, nullptr, [](TablesObject& tables, Arguments arguments) { return tables.Add(arguments); }},
+        {"Add", nullptr, nullptr,
+         [](TablesObject& tables, Arguments arguments) { return tables.Add(arguments); }},
         {"Item", [](TablesObject& tables, Arguments arguments) { return tables.Item(arguments); }},
         {"Count",
          [](TablesObject& tables, Arguments) { return Whole(static_cast<int>(tables.All().size())); }},
@@ -159,9 +162,10 @@ TableObject::~TableObject() = default;
 
 const MemberTable<TableObject>& TableObject::Members() {
     static const MemberTable<TableObject> members = {
-        {"Cell", nullptr, nullptr, [](TableObject& table, Arguments arguments) { return table.Cell(arguments); }},
-        {"Rows",
-         [](TableObject& table, Arguments index) { return CollectionOrItem(table.Share(table.parts_->rows), index); }},
+        {"Cell", nullptr, nullptr,
+         [](TableObject& table, Arguments arguments) { return table.Cell(arguments); }},
+        {"Rows", [](TableObject& table,
+                    Arguments index) { return CollectionOrItem(table.Share(table.parts_->rows), index); }},
         {"Columns",
          [](TableObject& table, Arguments index) {
              return CollectionOrItem(table.Share(table.parts_->columns), index);
@@ -202,15 +206,17 @@ Value TableObject::Cell(Arguments arguments) {
 
 Value TableObject::Row(std::size_t row) {
     if (HasVerticalMerges(*table_))
-        throw AutomationError(error::kMergedRows, "Cannot access individual rows in this collection because the "
-                                                  "table has vertically merged cells.");
+        throw AutomationError(error::kMergedRows,
+                              "Cannot access individual rows in this collection because the "
+                              "table has vertically merged cells.");
     return ObjectPtr(std::make_shared<RowObject>(Self(), row));
 }
 
 Value TableObject::Column(std::size_t column) {
     if (HasMixedWidths(*table_))
-        throw AutomationError(error::kMixedCellWidths, "Cannot access individual columns in this collection because "
-                                                       "the table has mixed cell widths.");
+        throw AutomationError(error::kMixedCellWidths,
+                              "Cannot access individual columns in this collection because "
+                              "the table has mixed cell widths.");
     return ObjectPtr(std::make_shared<ColumnObject>(Self(), column));
 }
 

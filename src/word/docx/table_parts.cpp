@@ -23,7 +23,9 @@ const MemberTable<CellObject>& CellObject::Members() {
     static const MemberTable<CellObject> members = {
         {"Range", [](CellObject& cell, Arguments) { return cell.Range(); }},
         {"VerticalAlignment",
-         [](CellObject& cell, Arguments) { return Whole(cell.Data().verticalAlignment.value_or(CellAlignTop)); },
+         [](CellObject& cell, Arguments) {
+             return Whole(cell.Data().verticalAlignment.value_or(CellAlignTop));
+         },
          [](CellObject& cell, const Value& value) { cell.SetVerticalAlignment(value); }},
         {"Select", nullptr, nullptr,
          [](CellObject& cell, Arguments arguments) {
@@ -209,7 +211,9 @@ void RowObject::ForEachParagraph(const std::function<void(Paragraph&)>& visit) {
 const MemberTable<ColumnObject>& ColumnObject::Members() {
     static const MemberTable<ColumnObject> members = {
         {"Width",
-         [](ColumnObject& column, Arguments) { return PointsOf(column.table_->table().grid[column.column_]); },
+         [](ColumnObject& column, Arguments) {
+             return PointsOf(column.table_->table().grid[column.column_]);
+         },
          [](ColumnObject& column, const Value& value) {
              column.table_->table().grid[column.column_] = TwipsOf(value, 1, kTallestRow);
              column.table_->document().Changed();

@@ -71,7 +71,8 @@ class ColumnObject final : public LateBound<ColumnObject> {
     static constexpr const char* kName = "Column";
     static const MemberTable<ColumnObject>& Members();
 
-    ColumnObject(std::shared_ptr<TableObject> table, std::size_t column) : table_(std::move(table)), column_(column) {}
+    ColumnObject(std::shared_ptr<TableObject> table, std::size_t column)
+        : table_(std::move(table)), column_(column) {}
     void CheckAlive() const { table_->CheckAlive(); }
 
  private:

@@ -20,7 +20,8 @@ class TextTarget {
 
     /// Throws kNotAvailable where the document is protected.
     virtual void RequireEditable() = 0;
-    /// Sets what the patch has set, for the characters of the text; for an insertion point, for those typed next.
+    /// Sets what the patch has set, for the characters of the text; for an insertion point, for those typed
+    /// next.
     virtual void ChangeFont(const CharFormat& patch) = 0;
     /// Gives every font in the text, completed by its styles.
     virtual void ForEachFont(const std::function<void(const CharFormat&)>& look) = 0;

@@ -76,7 +76,9 @@ void ZipReader::ListEntries() {
     }
 }
 
-bool ZipReader::Has(std::string_view name) const { return indexByName_.contains(LowerCase(name)); }
+bool ZipReader::Has(std::string_view name) const {
+    return indexByName_.contains(LowerCase(name));
+}
 
 std::vector<std::string> ZipReader::Names() const {
     std::vector<std::string> names;

@@ -27,7 +27,7 @@ struct ZipLimits {
 /// Everything throws AutomationError kFileDamaged for bytes that are no zip file, for torn or encrypted
 /// entries and for what exceeds the limits. The text begins with the name of the file.
 class ZipReader {
-   public:
+ public:
     /// `fileName` is for messages only.
     ZipReader(std::string bytes, std::string fileName, ZipLimits limits = {});
     ~ZipReader();
@@ -44,7 +44,7 @@ class ZipReader {
     /// Throws kFileDamaged: the file's name and this reason.
     [[noreturn]] void Refuse(std::string_view reason) const;
 
-   private:
+ private:
     struct Archive;
 
     void ListEntries();

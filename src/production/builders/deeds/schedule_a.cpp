@@ -28,10 +28,11 @@ std::string ExceptionParagraphs(std::string_view text) {
 void TypeDescription(const JobValues& job, Typist& type) {
     if (const std::string& picture = job.Picture(SchedADescription); !picture.empty()) {
         type.Picture(picture);
-        return;
+    } else {
+        type.Align(word::AlignJustified);
+        type.Text(job[SchedADescription]);
     }
-    type.Align(word::AlignJustified);
-    type.Text(job[SchedADescription], RepeatReturn(3));
+    type.Text(RepeatReturn(3));
 }
 
 }  // namespace

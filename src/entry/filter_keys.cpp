@@ -1,0 +1,133 @@
+#include "entry/filter_keys.h"
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+
+#include "core/field_registry.h"
+
+namespace quillmark {
+
+namespace {
+
+enum class KeyRule { Any, Amount, AmountOrPoc, Commission, DescribedAmount, FixedList };
+
+struct RuleRow {
+    KeyRule rule;
+    std::initializer_list<int> fields;
+};
+
+// clang-format off
+const RuleRow kRules[] = {
+    {KeyRule::Amount,          {10, 76, 77, 78, 100, 118, 170, 175, 177, 178, 179, 180, 181}},
+    {KeyRule::AmountOrPoc,     {171, 173, 174, 176}},
+    {KeyRule::Commission,      {86, 88}},
+    {KeyRule::DescribedAmount, {182, 183, 184, 185, 193, 194, 195, 196, 212, 213}},
+    {KeyRule::FixedList,       {191, 209}},
+};
+// clang-format on
+
+KeyRule RuleOf(int n) {
+    for (const RuleRow& row : kRules)
+        if (std::find(row.fields.begin(), row.fields.end(), n) != row.fields.end()) return row.rule;
+    return KeyRule::Any;
+}
+
+bool IsOneOf(std::string_view character, std::string_view set) {
+    return character.size() == 1 && set.find(character.front()) != std::string_view::npos;
+}
+
+bool IsAmountKey(std::string_view character) {
+    return character == kBackspace || IsOneOf(character, "0123456789$,.");
+}
+
+/// Letters beyond ASCII lie from U+00C0 on, with two signs of arithmetic among them.
+bool IsLetter(std::string_view character) {
+    if (character.size() == 1) {
+        const char c = character.front();
+        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    }
+    const auto lead = static_cast<unsigned char>(character.empty() ? 0 : character.front());
+    return lead >= 0xC3 && lead <= 0xC9 && character != "×" && character != "÷";
+}
+
+std::string WithoutSelection(const EditorText& editor) {
+    std::string text = editor.text;
+    return text.erase(editor.caret, editor.selection);
+}
+
+bool IsDescribedAmountKey(const EditorText& editor, std::string_view character) {
+    if (IsAmountKey(character) || character == " ") return true;
+    if (character == "-") return WithoutSelection(editor).find('-') == std::string::npos;
+    return IsLetter(character) && editor.text.substr(0, editor.caret).find('-') != std::string::npos;
+}
+
+bool IsPlaceholder(std::string_view text) {
+    return text.starts_with('[') || text == "(None)" || text == "(enter check #)";
+}
+
+EditorText Showing(std::string text) {
+    EditorText editor{std::move(text)};
+    editor.caret = editor.text.size();
+    return editor;
+}
+
+FilteredKey CommissionFromPercent(const EditorText& editor, const Job& job) {
+    if (!job.IsFilled(kSalePriceField)) return {editor, {}, KeyEffect::MoveToSalePrice};
+    const double percent = LeadingNumber(editor.text);
+    return {Showing(DecimalText(AmountOf(job.D(kSalePriceField)) * percent / 100, 2)), {}};
+}
+
+FilteredKey ByRule(const EditorText& editor, std::string_view character, const KeyPlace& place) {
+    const FilteredKey passed{editor, std::string(character)};
+    const FilteredKey dropped{editor, {}};
+    switch (RuleOf(place.n)) {
+        case KeyRule::Any:
+            return passed;
+        case KeyRule::DescribedAmount:
+            return IsDescribedAmountKey(editor, character) ? passed : dropped;
+        case KeyRule::FixedList:
+            return {Showing(std::string(kPickFromList)), {}, KeyEffect::OpenChoices};
+        case KeyRule::Commission:
+            if (character == "%") return CommissionFromPercent(editor, place.job);
+            break;
+        case KeyRule::AmountOrPoc:
+            if (IsOneOf(character, "Pp")) return {Showing("POC"), {}};
+            break;
+        case KeyRule::Amount:
+            break;
+    }
+    return IsAmountKey(character) ? passed : dropped;
+}
+
+}  // namespace
+
+FilteredKey FilterEditKey(const EditorText& editor, std::string_view character, const KeyPlace& place) {
+    if (character == "\"") return {editor, {}};
+    FilteredKey key = ByRule(editor, character, place);
+    if (place.templateBeingSet && character == ";") key.character.clear();
+    if (key.effect != KeyEffect::MoveToSalePrice && IsPlaceholder(key.editor.text)) key.editor = {};
+    return key;
+}
+
+TypedKey TypeKey(const EditorText& editor, std::string_view character, const KeyPlace& place,
+                 std::string_view marker, bool properCase) {
+    FilteredKey key = FilterEditKey(editor, character, place);
+    if (key.character.empty()) return {std::move(key.editor), key.effect};
+    const ProperCaseKey cased = ProperCase(key.editor, key.character, marker, properCase);
+    return {WithCharacter(cased.editor, cased.character), key.effect};
+}
+
+EditorText WithCharacter(EditorText editor, std::string_view character) {
+    if (character != kBackspace) {
+        editor.text.replace(editor.caret, editor.selection, character);
+        return {std::move(editor.text), editor.caret + character.size(), 0};
+    }
+    std::size_t from = editor.caret;
+    if (editor.selection == 0 && from > 0)
+        while (--from > 0 && (editor.text[from] & 0xC0) == 0x80) continue;
+    editor.text.erase(from, editor.caret + editor.selection - from);
+    return {std::move(editor.text), from, 0};
+}
+
+}  // namespace quillmark

@@ -1,0 +1,154 @@
+#include "entry/address_book_files.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+
+#include "entry/address_stress.h"
+#include "platform/atomic_file.h"
+#include "support/scratch.h"
+
+namespace quillmark {
+namespace {
+
+using test::ReadBytes;
+using test::ScratchFolder;
+using test::WriteBytes;
+
+constexpr const char* kBank = "Any Bank _ 1 Main St _  _ Anycity, OH 43210";
+const SystemClock kClock;
+
+/// A program that holds the books of a folder until it is killed.
+class Holder {
+ public:
+    explicit Holder(const std::filesystem::path& folder) {
+        std::array<int, 2> held;
+        if (::pipe(held.data()) != 0) std::abort();
+        child_ = ::fork();
+        if (child_ == 0) {
+            const AddressBookLock lock(folder, kClock);
+            if (::write(held[1], "x", 1) != 1) ::_exit(1);
+            while (true) ::pause();
+        }
+        char ready = 0;
+        if (::read(held[0], &ready, 1) != 1) std::abort();
+        ::close(held[0]);
+        ::close(held[1]);
+    }
+    ~Holder() { Kill(); }
+
+    void Kill() {
+        if (child_ == 0) return;
+        ::kill(child_, SIGKILL);
+        ::waitpid(child_, nullptr, 0);
+        child_ = 0;
+    }
+
+ private:
+    pid_t child_ = 0;
+};
+
+TEST(AddressBooks, KeepEachRecordOnceInTheirFormat) {
+    const ScratchFolder folder;
+    const AddressBooks books(folder.path(), kClock);
+    EXPECT_TRUE(books.Read(AddressBook::Servicers).records.empty());
+    EXPECT_TRUE(books.Add(AddressBook::Servicers, kBank).made);
+    EXPECT_FALSE(books.Add(AddressBook::Servicers, kBank).made);
+    EXPECT_EQ(books.AddAll({{AddressBook::Servicers, "Café _ 2 _  _ C"}, {AddressBook::Servicers, kBank}}),
+              1u);
+    EXPECT_EQ(ReadBytes(folder / "Servicers.lst"), std::string(kBank) + "\r\nCaf\xE9 _ 2 _  _ C\r\n");
+    EXPECT_EQ(ReadBytes(folder / "Access.lok"), "");
+
+    WriteBytes(folder / "Servicers.lst", std::string(kBank) + "\r\nOther _ 1 _  _ C\r\n" + kBank + "\r\n");
+    EXPECT_EQ(books.Remove(AddressBook::Servicers, kBank).list.records,
+              std::vector<std::string>{"Other _ 1 _  _ C"});
+    EXPECT_FALSE(std::filesystem::exists(folder / "Attorneys.lst"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "Access.who"));
+}
+
+TEST(AddressBooks, FindTheListsThatAnotherProgramLeft) {
+    const ScratchFolder folder;
+    const AddressBooks books(folder.path(), kClock);
+    WriteBytes(folder / "SERVICERS.LST", kBank);
+    EXPECT_FALSE(books.Add(AddressBook::Servicers, kBank).made);
+    std::filesystem::rename(folder / "SERVICERS.LST", folder / "Servicers.new");
+    EXPECT_EQ(books.Read(AddressBook::Servicers).records, std::vector<std::string>{kBank});
+    EXPECT_EQ(ReadBytes(folder / "Servicers.lst"), kBank);
+    WriteBytes(folder / "Servicers.new", "half a co");
+    EXPECT_EQ(books.Read(AddressBook::Servicers).records, std::vector<std::string>{kBank});
+}
+
+TEST(AddressBooks, LeaveAFileThatIsTooLargeAsItIs) {
+    const ScratchFolder folder;
+    const AddressBooks books(folder.path(), kClock);
+    WriteBytes(folder / "Attorneys.lst", "");
+    constexpr std::uintmax_t kSize = 65u << 20;
+    std::filesystem::resize_file(folder / "Attorneys.lst", kSize);
+    try {
+        books.Add(AddressBook::Attorneys, "A _ B");
+        FAIL() << "took it";
+    } catch (const FileError& error) {
+        EXPECT_EQ(error.kind, FileError::Kind::TooLarge);
+    }
+    EXPECT_EQ(std::filesystem::file_size(folder / "Attorneys.lst"), kSize);
+    EXPECT_TRUE(books.Add(AddressBook::Servicers, kBank).made) << "the other book is held up";
+}
+
+TEST(AddressBooks, TellWhoHoldsThemAndGiveWayToCancel) {
+    const ScratchFolder folder;
+    Holder holder(folder.path());
+    std::vector<BookHolder> told;
+    const auto cancel = [&](const std::optional<BookHolder>& who) {
+        if (who) told.push_back(*who);
+        return told.size() < 3;
+    };
+    try {
+        AddressBooks(folder.path(), kClock, cancel).Add(AddressBook::Servicers, kBank);
+        FAIL() << "wrote while another held the books";
+    } catch (const FileError& error) {
+        EXPECT_EQ(error.kind, FileError::Kind::InUse);
+    }
+    ASSERT_EQ(told.size(), 3u);
+    EXPECT_EQ(told[0].user, ThisUser().user);
+    EXPECT_EQ(told[0].computer, ThisUser().computer);
+    EXPECT_EQ(told[0].since.size(), std::string("2026-03-05 10:16:04").size());
+    EXPECT_EQ(told[2], told[0]);
+    EXPECT_FALSE(std::filesystem::exists(folder / "Servicers.lst"));
+
+    holder.Kill();
+    const auto never = [](const std::optional<BookHolder>&) { return false; };
+    EXPECT_TRUE(AddressBooks(folder.path(), kClock, never).Add(AddressBook::Servicers, kBank).made)
+        << "a holder that died still holds the books";
+}
+
+TEST(AddressBooks, WaitUntilTheHolderIsDone) {
+    const ScratchFolder folder;
+    Holder holder(folder.path());
+    int asked = 0;
+    const auto patient = [&](const std::optional<BookHolder>&) {
+        if (++asked == 4) holder.Kill();
+        return asked < 20;
+    };
+    EXPECT_TRUE(AddressBooks(folder.path(), kClock, patient).Add(AddressBook::Servicers, kBank).made);
+    EXPECT_GE(asked, 4);
+}
+
+TEST(AddressBooks, LoseNoFinishedWriteWhenWritersAreKilled) {
+    const ScratchFolder folder;
+    test::StressPlan plan;
+    plan.records = 12;
+    plan.kills = 12;
+    plan.betweenKills = std::chrono::milliseconds(25);
+    const test::StressResult result = test::StressRun(folder.path(), plan).Run();
+    EXPECT_GT(result.killed, 0);
+    EXPECT_GE(result.finished, plan.records * plan.processes * 3 / 4);
+    EXPECT_EQ(result.failed, 0);
+    EXPECT_TRUE(result.missing.empty()) << result.missing.front();
+    EXPECT_TRUE(result.torn.empty()) << result.torn.front();
+    EXPECT_TRUE(result.duplicate.empty()) << result.duplicate.front();
+}
+
+}  // namespace
+}  // namespace quillmark
