@@ -142,6 +142,7 @@ void RebuildRows(SelectionState& screen) {
         InsertByKey(std::move(row), FieldSortKey(n), keys, grid);
     }
     screen.grid = std::move(grid);
+    screen.currentRow = -1;
     AddUserRows(screen);
 }
 

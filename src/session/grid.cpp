@@ -1,12 +1,16 @@
 #include <algorithm>
 
 #include "core/field_registry.h"
-#include "core/text_conversions.h"
+#include "entry/companions.h"
+#include "entry/note_cells.h"
+#include "entry/proposals.h"
+#include "entry/questions.h"
 #include "entry/smart_fields.h"
 #include "platform/code_page.h"
 #include "selection/field_listing.h"
 #include "selection/field_rows.h"
 #include "selection/relevant_fields.h"
+#include "session/field_editor.h"
 #include "session/main_screen.h"
 
 namespace quillmark {
@@ -14,59 +18,11 @@ namespace quillmark {
 namespace {
 
 constexpr int kDocumentDate = 1;
+constexpr int kFiduciaryType = 209;
 
 std::string TitleOf(int n) {
     const std::string_view marker = FieldMarker(n);
     return std::string(marker.substr(1, marker.size() - 2));
-}
-
-/// A text typed key by key into the empty one-line editor.
-std::string TypedText(std::string_view text, std::string_view marker, bool properCase) {
-    EditorText editor;
-    for (std::size_t at = 0; at < text.size();) {
-        std::size_t end = at + 1;
-        while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) ++end;
-        const std::string_view character = text.substr(at, end - at);
-        at = end;
-        if (character == "\"" || character == "\r" || character == "\n") continue;
-        const ProperCaseKey key = ProperCase(editor, character, marker, properCase);
-        editor = key.editor;
-        editor.text += key.character;
-        editor.caret = editor.text.size();
-    }
-    return editor.text;
-}
-
-/// Pasted lines become one line, parted by commas.
-std::string PastedText(std::string_view text, bool severalLines) {
-    std::string pasted;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (severalLines || (text[at] != '\r' && text[at] != '\n')) {
-            pasted += text[at];
-            continue;
-        }
-        if (text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n') ++at;
-        pasted += ", ";
-    }
-    return pasted;
-}
-
-bool IsBlockField(int n) {
-    return n == 201 || n == 202;
-}
-
-/// A value of several lines is kept with CR LF between them.
-std::string WithFileLineEnds(std::string_view text) {
-    std::string lines;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (text[at] != '\r' && text[at] != '\n') {
-            lines += text[at];
-            continue;
-        }
-        if (text[at] == '\r' && at + 1 < text.size() && text[at + 1] == '\n') ++at;
-        lines += "\r\n";
-    }
-    return lines;
 }
 
 }  // namespace
@@ -126,7 +82,7 @@ std::string MainScreen::Commit(std::size_t row, std::string_view text) {
     const int n = screen_.grid[row].n;
     const std::string before = n > 0 ? screen_.job.D(n) : screen_.grid[row].value;
     try {
-        UpdateListing(n, text, screen_, office_);
+        UpdateListing(n, text, screen_, office_, FieldQuestions(screen_, office_));
     } catch (const BadFieldInput& bad) {
         machine_.dialogs.Tell(TitleOf(bad.field()), "BAD INPUT\nPlease try a different format.",
                               DialogIcon::Warning);
@@ -166,24 +122,46 @@ void MainScreen::Advance(std::size_t row) {
 
 std::string MainScreen::EnterField(int n, std::string_view text, EntryWay way) {
     const std::size_t row = RowOf(n);
+    if (way == EntryWay::Pick) return PickChoice(row, text);
+    const TypedText typed =
+        TypeOver(text, {n, screen_.job, screen_.templateBeingSet}, FieldMarker(n), settings_.properCase);
+    Require(way != EntryWay::Type || typed.effect != KeyEffect::OpenChoices,
+            "this field is picked from its list");
     OpenRow(row);
-    std::string entered(text);
-    if (way == EntryWay::Type && !IsBlockField(n))
-        entered = TypedText(text, FieldMarker(n), settings_.properCase);
-    if (way == EntryWay::Paste) entered = PastedText(text, IsBlockField(n));
-    return Commit(row, IsBlockField(n) ? WithFileLineEnds(entered) : entered);
+    if (IsBlockField(n)) return Commit(row, WithFileLineEnds(text));
+    if (way == EntryWay::Paste) return Commit(row, PastedLine(text));
+    if (typed.effect != KeyEffect::MoveToSalePrice) return Commit(row, typed.text);
+    machine_.dialogs.Tell("", std::string(kNoSalePrice), DialogIcon::Warning);
+    const std::string kept = Commit(row, typed.text);
+    if (const GridRow* price = FindRow(kSalePriceField, screen_))
+        screen_.currentRow = static_cast<int>(price - screen_.grid.data());
+    return kept;
+}
+
+std::string MainScreen::PickChoice(std::size_t row, std::string_view text) {
+    const int n = screen_.grid[row].n;
+    const OpenedEditor editor = OpenEditor(screen_.grid[row], screen_, office_);
+    Require(std::find(editor.choices.begin(), editor.choices.end(), text) != editor.choices.end(),
+            "the field offers no choice \"" + std::string(text) + "\"");
+    OpenRow(row);
+    if (n == kFiduciaryType && !AskForCompanion(text, screen_, office_)) return screen_.job.D(n);
+    return Commit(RowOf(n), text);
 }
 
 std::string MainScreen::EnterUserField(std::string_view marker, std::string_view text, EntryWay way) {
     const std::size_t row = RowOf(marker);
     OpenRow(row);
-    const bool typed = way == EntryWay::Type;
-    return Commit(row, typed ? TypedText(text, marker, settings_.properCase) : PastedText(text, false));
+    if (way != EntryWay::Type) return Commit(row, PastedLine(text));
+    return Commit(
+        row, TypeOver(text, {0, screen_.job, screen_.templateBeingSet}, marker, settings_.properCase).text);
 }
 
 std::string MainScreen::TypeInEditor(int n, std::string_view text) {
     OpenRow(RowOf(n));
-    return IsBlockField(n) ? std::string(text) : TypedText(text, FieldMarker(n), settings_.properCase);
+    if (IsBlockField(n)) return std::string(text);
+    const TypedText typed =
+        TypeOver(text, {n, screen_.job, screen_.templateBeingSet}, FieldMarker(n), settings_.properCase);
+    return typed.effect == KeyEffect::OpenChoices ? std::string(kPickFromList) : typed.text;
 }
 
 void MainScreen::UnlockRow(int n) {
@@ -198,10 +176,14 @@ void MainScreen::UnlockRow(int n) {
 }
 
 std::string MainScreen::ClickNote(int n, int column) {
-    const GridRow& row = screen_.grid[RowOf(n)];
+    GridRow& row = screen_.grid[RowOf(n)];
     Require(column == 2 || column == 3, "note cells stand in columns 2 and 3");
+    Require(!row.locked, "the field is locked");
     Require(!row.notes[static_cast<std::size_t>(column - 2)].empty(), "the row has no such note cell");
-    throw NotAllowed("tags cannot be changed by their cells in this version");
+    const std::string before = screen_.job.D(n);
+    ShowFieldNotes(n, row, column, screen_);
+    if (screen_.job.D(n) != before) FieldChanged();
+    return screen_.job.D(n);
 }
 
 void MainScreen::ClickJumpLabel(int group) {

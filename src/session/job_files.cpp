@@ -37,9 +37,16 @@ bool MainScreen::JobExists(std::string_view name) const {
     return fs::exists(JobFilePath(folders_, name));
 }
 
+/// Another computer has saved the job since it was opened here.
+bool MainScreen::ChangedByOthers() const {
+    const fs::path file = JobFilePath(folders_, screen_.txtJobName.text);
+    if (!screen_.txtJobName.locked || knownFile_.empty() || !fs::exists(file)) return false;
+    return RetriedWhileInUse([&] { return ReadFile(file, kJobFileLimit); }) != knownFile_;
+}
+
 bool MainScreen::MayOverwrite() {
     NameBox& box = screen_.txtJobName;
-    if (!JobExists(box.text)) return true;
+    if (!JobExists(box.text) && !ChangedByOthers()) return true;
     screen_.picInfo = " WARNING:  A file by the name  " + box.text + "  already exists in the database!";
     const auto answer = machine_.dialogs.Show({"  ALERT",
                                                "About to overwrite an existing file, data will be lost.",
@@ -68,7 +75,6 @@ void MainScreen::SaveJob() {
     if (screen_.ScreenMode == screen_mode::kPresets && !IsTemplateName(box.text))
         box.text = TemplateName(box.text);
     screen_.job.name = box.text;
-    screen_.cmdOpen.enabled = false;
     if (!MayOverwrite()) return;
     WriteJob();
     CountAsSaved();
@@ -81,6 +87,7 @@ void MainScreen::WriteJob() {
     if (attorney.find('/') == std::string::npos && !juris.empty())
         job.SetValue(kSellerAtty, attorney + "/" + juris);
     RetriedWhileInUse([&] { SaveJobFiles(folders_, job); });
+    knownFile_ = JobFileRecords(job);
 }
 
 /// After a save there is nothing more to save, and the name belongs to a file.
@@ -110,6 +117,7 @@ void MainScreen::LoadJob(std::string_view name, bool asTemplate) {
     Job& job = screen_.job;
     const std::string former = std::exchange(job.name, std::string(name));
     try {
+        knownFile_ = RetriedWhileInUse([&] { return ReadFile(file, kJobFileLimit); });
         RetriedWhileInUse([&] { ReadJobFile(folders_, file, job, asTemplate); });
     } catch (...) {
         job.name = former;

@@ -151,6 +151,7 @@ class MainScreen {
     void Save();
     void SaveJob();
     bool JobExists(std::string_view name) const;
+    bool ChangedByOthers() const;
     bool MayOverwrite();
     void WriteJob();
     void NameJob();
@@ -171,6 +172,7 @@ class MainScreen {
     std::size_t RowOf(int n) const;
     std::size_t RowOf(std::string_view marker) const;
     void OpenRow(std::size_t row);
+    std::string PickChoice(std::size_t row, std::string_view text);
     std::string Commit(std::size_t row, std::string_view text);
     void FieldChanged();
     void Advance(std::size_t row);
@@ -195,6 +197,7 @@ class MainScreen {
     std::vector<SettingsRow> List3_;
     std::vector<std::string> clients_;
     std::string client_;
+    std::string knownFile_;  ///< the job's file as this session last read or wrote it
     bool choosingClient_ = false;
     std::unique_ptr<CreateRun> run_;
     std::filesystem::path createTo_;

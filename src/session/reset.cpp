@@ -65,6 +65,7 @@ void MainScreen::StartAnew() {
     ResetOptions(screen_);
     ResetButtons(screen_, settings_.paraPro && !client_.empty());
     List3_.clear();
+    knownFile_.clear();
     browserOpen_ = false;
     lastDocument_.reset();
     FocusName();

@@ -8,12 +8,14 @@
 
 namespace quillmark::test {
 
-/// A sale, entered field by field, and the statement that comes of it. A question that was not prepared for
-/// fails the test.
+/// A sale for $100,000 until other fields are entered, and the statement that comes of it. A question that
+/// was not prepared for fails the test.
 struct StatementDesk {
     Job job;
     Settings settings;
     ScriptedDialogs dialogs{{}, ScriptedDialogs::WhenUnanswered::Fail};
+
+    StatementDesk() { job.SetField(76, "$100,000.00"); }
 
     StatementDesk& In(std::string_view town, std::string_view prorationDate) {
         job.SetDerived(1, 72, town);

@@ -30,7 +30,7 @@ struct StressPlan {
     int processes = 8;
     int records = 1000;  ///< that each of them writes; every tenth is one that all of them write
     int kills = 40;      ///< spread over the run; the killed start again, but for a quarter of the programs
-    std::chrono::milliseconds betweenKills{100};
+    std::chrono::milliseconds betweenKills{2000};
     unsigned seed = 1;
 };
 

@@ -15,12 +15,13 @@ class SettingsTest : public OfficeTest {};
 
 TEST_F(NameBoxTest, ANameClosesTheOtherWaysIn) {
     Start();
-    EXPECT_EQ(" Enter name for new file (e.g.  Smith - 101 Any Street), or click 'OPEN' button for existing one",
-              State().picInfo);
+    EXPECT_EQ(
+        " Enter name for new file (e.g.  Smith - 101 Any Street), or click 'OPEN' button for existing one",
+        State().picInfo);
     screen->TypeName("Abbott: 14 Orchard*");
     EXPECT_EQ("Abbott 14 Orchard", State().txtJobName.text) << "illegal characters are dropped";
-    for (const Button* button :
-         {&State().cmdOpen, &State().cmdTemplate, &State().cmdPackages, &State().cmdCustom, &State().cmdCreate})
+    for (const Button* button : {&State().cmdOpen, &State().cmdTemplate, &State().cmdPackages,
+                                 &State().cmdCustom, &State().cmdCreate})
         EXPECT_FALSE(button->enabled) << button->caption;
     screen->TypeName("");
     EXPECT_TRUE(State().cmdOpen.enabled);
@@ -191,7 +192,8 @@ TEST_F(SettingsTest, TheListShowsDefaultsAndSettingsAndKeepsThem) {
     screen->EditSetting(1);
     EXPECT_EQ("[seller atty]:               Nora Hale/412345; Jon Pike", screen->List3()[1].text);
     screen->EditSetting(15);
-    EXPECT_EQ("show descr footers  (Y/N/P)  Y", screen->List3()[15].text) << "only the letters shown are taken";
+    EXPECT_EQ("show descr footers  (Y/N/P)  Y", screen->List3()[15].text)
+        << "only the letters shown are taken";
     screen->EditSetting(15);
     EXPECT_EQ("show descr footers  (Y/N/P)  P", screen->List3()[15].text);
     screen->Click("cmdOpen");
@@ -201,7 +203,8 @@ TEST_F(SettingsTest, TheListShowsDefaultsAndSettingsAndKeepsThem) {
 }
 
 TEST_F(SettingsTest, ADataPathThatIsNotThereFallsBackToTheLocalFolder) {
-    WriteBytes(scratch / "DBasePath.txt", "\"z:\\\\office\\\\data\\\\\"\r\n\"n\"\r\n\"n\"\r\n\"n\"\r\n\"n\"\r\n");
+    WriteBytes(scratch / "DBasePath.txt",
+               "\"z:\\\\office\\\\data\\\\\"\r\n\"n\"\r\n\"n\"\r\n\"n\"\r\n\"n\"\r\n");
     Start();
     EXPECT_NE(std::string::npos, LastBox().find("UNABLE TO CONNECT TO DATABASE @ ..."));
     EXPECT_EQ("data\\", screen->OfficeSettings().databasePath);

@@ -16,11 +16,10 @@ namespace quillmark {
 namespace {
 
 using test::OfficeTest;
-using test::ScreenText;
 using test::TextsOf;
 using Names = std::vector<std::string>;
 
-constexpr int kSteps = 300;
+constexpr int kSteps = 400;
 
 // clang-format off
 const Names kJobNames = {"Abbott", "Pell - 330 Lovely Street", "Sørensen", "Whitcomb", "", "regency"};
@@ -30,9 +29,41 @@ const Names kTexts = {
     "Marriage; Divorce", "\"quoted\"", "Zoë’s \x7E <Trust>", "line\rline\r\nline", " ", "- ", "0", "-1", "12/31/2025",
     "Hale & Pike; Pike & Partners", "9999999999999.99", "IMAGE -> (Select & R-Click for options)",
 };
-const Names kButtons = {"cmdOpen", "cmdOpen", "cmdReset", "cmdReset", "cmdTemplate", "cmdNameAs", "cmdPackages",
-                        "cmdCustom", "cmdEnvelopes", "cmdOP236", "cmdPrintFList", "cmdSelect", "cmdExit"};
+const Names kButtons = {"cmdOpen", "cmdOpen", "cmdOpen", "cmdOpen", "cmdOpen", "cmdOpen", "cmdReset", "cmdReset",
+                        "cmdReset", "cmdTemplate", "cmdTemplate", "cmdNameAs", "cmdNameAs", "cmdPackages", "cmdOP236",
+                        "cmdSelect", "cmdExit"};
 // clang-format on
+
+/// The first text that changed; empty if none did.
+std::string FirstDifference(const Names& before, const Names& after) {
+    const auto [was, is] = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+    if (was == before.end() && is == after.end()) return {};
+    return (was == before.end() ? "nothing" : *was) + " became " + (is == after.end() ? "nothing" : *is);
+}
+
+/// Answers every box, with anything that it takes.
+class CarelessPerson final : public Dialogs {
+ public:
+    CarelessPerson(std::mt19937& random, const Names& texts) : random_(random), texts_(texts) {}
+    DialogButton Show(const MessageDialog& box) override {
+        ++boxes;
+        return box.buttons[Below(box.buttons.size())];
+    }
+    std::optional<std::string> Ask(const InputDialog& box) override {
+        ++boxes;
+        const std::size_t choice = Below(4);
+        if (choice == 0) return std::nullopt;
+        return choice == 1 ? box.proposed : texts_[Below(texts_.size())];
+    }
+
+    int boxes = 0;
+
+ private:
+    std::size_t Below(std::size_t n) { return std::uniform_int_distribution<std::size_t>(0, n - 1)(random_); }
+
+    std::mt19937& random_;
+    const Names& texts_;
+};
 
 /// A user without a plan at the whole main screen.
 class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsigned> {
@@ -75,7 +106,7 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
         screen->EnterName();
     }
     void Pick() {
-        const std::string& line = State().List1[Below(State().List1.size())];
+        const std::string line = Below(8) == 0 ? "[ Rider ]" : State().List1[Below(State().List1.size())];
         Note("pick " + line);
         screen->PickDocument(line);
     }
@@ -92,15 +123,25 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
         Note("legal size for " + std::to_string(lines.size()));
         screen->SelectLegal(lines);
     }
+    /// Mostly one that can be clicked.
+    int AnyOption() {
+        const int first = static_cast<int>(Below(kOptions));
+        if (Below(5) == 0) return first + static_cast<int>(Below(3));
+        for (int i = 0; i < kOptions; ++i) {
+            const int n = (first + i) % kOptions + 1;
+            if (State().options[static_cast<std::size_t>(n)].enabled) return n;
+        }
+        return first;
+    }
     void ClickOption() {
-        const int n = static_cast<int>(Below(17));
+        const int n = AnyOption();
         Note("option " + std::to_string(n));
         const Names before = Documents();
         screen->ClickOption(n);
         if (n != PowerOfAttorney && n != EstateTrust) ExpectNothingLost(before);
     }
     void ClearOption() {
-        const int n = static_cast<int>(Below(17));
+        const int n = AnyOption();
         Note("clear option " + std::to_string(n));
         const Names before = Documents();
         screen->DoubleClickOption(n);
@@ -116,10 +157,13 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
         const std::string& text = OneOf(kTexts);
         const auto way = static_cast<EntryWay>(Below(3));
         Note("field " + std::to_string(n) + " way " + std::to_string(static_cast<int>(way)) + ": " + text);
-        if (n > 0)
-            screen->EnterField(n, text, way);
-        else
-            screen->EnterUserField(Below(2) ? "[lot fee]" : "[pool]", text, way);
+        screen->EnterField(n, text, way);
+    }
+    void UserField() {
+        const std::string marker = Below(2) ? "[lot fee]" : "[pool]";
+        const std::string& text = OneOf(kTexts);
+        Note("field " + marker + ": " + text);
+        screen->EnterUserField(marker, text, static_cast<EntryWay>(Below(3)));
     }
     void Editor() {
         const int n = AnyField();
@@ -182,7 +226,9 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
     }
     void Restart() {
         Note("the program starts");
-        Start();
+        screen =
+            std::make_unique<MainScreen>(scratch.path(), Machine{clock, person_, shell, nullptr, {}, {}, {}});
+        screen->Start();
     }
 
     void TakeAny() {
@@ -194,7 +240,7 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
             &RandomWalk::Field,  &RandomWalk::Field,    &RandomWalk::Field,       &RandomWalk::Field,
             &RandomWalk::Field,  &RandomWalk::Editor,   &RandomWalk::ClearOption, &RandomWalk::ClickNote,
             &RandomWalk::Jump,   &RandomWalk::Button,   &RandomWalk::Button,      &RandomWalk::Button,
-            &RandomWalk::Settings,
+            &RandomWalk::Button, &RandomWalk::Settings, &RandomWalk::UserField,
         };
         // clang-format on
         Take(kAll[Below(std::size(kAll))]);
@@ -202,22 +248,22 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
 
     // What must hold after every step.
     void Take(Step step) {
-        const std::string before = ScreenText(State());
-        Answer({Below(2) ? "Yes" : "No"});
-        dialogs.TakeShown();
+        const Names before = TextsOf(State());
+        person_.boxes = 0;
         try {
             (this->*step)();
         } catch (const NotAllowed& refused) {
             history_.back() += " - " + std::string(refused.what());
+            if (getenv("WALKDBG")) std::cerr << history_.back() << "\n";
             // A box that was answered may have led to the refusal.
-            if (dialogs.Shown().empty()) {
-                EXPECT_EQ(before, ScreenText(State())) << Where();
+            if (person_.boxes == 0) {
+                EXPECT_EQ("", FirstDifference(before, TextsOf(State()))) << Where();
             }
-        } catch (const DialogError&) {
-            // The answer was for another kind of box.
         } catch (const std::exception& failure) {
             ADD_FAILURE() << failure.what() << "\n" << Where();
         }
+        if (getenv("WALKDBG") && history_.back().find(" - ") == std::string::npos)
+            std::cerr << "OK " << history_.back() << "\n";
         Check();
     }
 
@@ -330,15 +376,16 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
 
  private:
     std::mt19937 random_;
+    CarelessPerson person_{random_, kTexts};
     std::deque<std::string> history_;
 };
 
 TEST_P(RandomWalk, LeavesTheScreenInOrder) {
-    Start();
+    Restart();
     for (step_ = 0; step_ < kSteps && !HasFailure(); ++step_) TakeAny();
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, RandomWalk, ::testing::Range(1u, 41u));
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomWalk, ::testing::Range(1u, 31u));
 
 }  // namespace
 }  // namespace quillmark

@@ -67,10 +67,4 @@ std::vector<std::string> TextsOf(const SelectionState& screen) {
     return texts;
 }
 
-std::string ScreenText(const SelectionState& screen) {
-    std::string whole;
-    for (const std::string& text : TextsOf(screen)) whole += text + "\n";
-    return whole;
-}
-
 }  // namespace quillmark::test

@@ -105,6 +105,11 @@ TEST_F(EngineTables, ASelectedCellTakesTypingPicturesAndCheckBoxes) {
     EXPECT_EQ(picture.widthEmu, (9360 / 3 - 216) * 635) << "as wide as the cell's text";
     EXPECT_EQ(picture.heightEmu * 2, picture.widthEmu);
 
+    table.Cell(1, 3).Range.Text = "";
+    table.Cell(1, 3).Select();
+    doc.FormFields.Add(sel.Range(), FieldFormCheckBox);
+    sel.TypeText(" yes");
+    EXPECT_EQ(CellText(0, 2), "# yes");
     table.Cell(1, 1).Select();
     sel.TypeText("other");
     EXPECT_EQ(CellText(0, 0), "other") << "typing replaces what is selected";

@@ -109,6 +109,19 @@ TEST_F(FindTest, TheClipboardGoesInWhole) {
     EXPECT_THROW(ReplaceAllOf("see", "^c"), AutomationError);
 }
 
+TEST_F(FindTest, WhatFormFieldsHoldIsText) {
+    Paragraph& paragraph = Add("[x] ");
+    test::Insert(*document, paragraph, FormFieldData{.name = "Check1", .isCheckBox = true, .result = "[buyer]"});
+    test::Insert(*document, paragraph, FormFieldData{.name = "Text1", .result = "by [BUYER], [x]"});
+    const FindResult found = FindText("[buyer]");
+    ASSERT_TRUE(found.found);
+    EXPECT_EQ(found.match->start.offset, 5u);
+    EXPECT_EQ(ReplaceAllOf("[x]", "one^ptwo"), 2);
+    EXPECT_EQ(ReplaceAllOf("[buyer]", "^& & Co."), 1);
+    EXPECT_EQ(std::get<FormFieldData>(At(1).objects.at(1)).result, "by [BUYER] & Co., one\vtwo");
+    EXPECT_EQ(Text(document->body), "one\ntwo <1><1>\n");
+}
+
 TEST_F(FindTest, ReplacedMarksJoinParagraphsUnderTheNextFormat) {
     Add("one", {.alignment = 1});
     Add("two", {.alignment = 2});
@@ -222,6 +235,7 @@ TEST_F(FindTest, ReplacingAgreesWithPlainTextReplacing) {
     for (int round = 0; round < 2000; ++round) {
         document = test::EmptyDocument();
         std::string whole;
+        std::size_t marked = 0;
         for (auto n = 1 + random() % 4; n > 0; --n) {
             Paragraph& paragraph = Add("");
             for (auto spans = random() % 4; spans > 0; --spans) {
@@ -230,6 +244,7 @@ TEST_F(FindTest, ReplacingAgreesWithPlainTextReplacing) {
             }
             paragraph.anchors = {{random() % (paragraph.text.size() + 1), true, 1, "x"}};
             whole += paragraph.text + "\r";
+            ++marked;
         }
         whole.pop_back();
         const std::string find = letters("ab\r", 1 + random() % 3);
@@ -238,7 +253,12 @@ TEST_F(FindTest, ReplacingAgreesWithPlainTextReplacing) {
                      testing::PrintToString(with));
         ReplaceAllOf(find, with);
         std::string result;
-        for (const Block& block : document->body) result += std::get<Paragraph>(block).text + "\r";
+        std::size_t bookmarks = 0;
+        for (const Block& block : document->body) {
+            result += std::get<Paragraph>(block).text + "\r";
+            bookmarks += std::get<Paragraph>(block).anchors.size();
+        }
+        ASSERT_EQ(bookmarks, marked);
         result.pop_back();
         ASSERT_EQ(result, Expected(whole, find, with));
     }

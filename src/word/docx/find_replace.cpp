@@ -2,65 +2,9 @@
 
 #include <algorithm>
 
-#include "word/docx/editing_spans.h"
-#include "word/docx/find_replace_codes.h"
-#include "word/docx/find_replace_search.h"
-#include "word/docx/reader_rewrite.h"
+#include "word/docx/find_replace_finder.h"
 
 namespace quillmark::word::docx {
-
-namespace {
-
-/// A stretch of the story: from an offset of one stop to an offset of another.
-struct Stretch {
-    std::size_t firstStop = 0;
-    std::size_t from = 0;
-    std::size_t lastStop = 0;
-    std::size_t until = 0;
-};
-
-class Finder {
- public:
-    Finder(Document& document, Blocks& story, const FindRequest& request)
-        : document_(document),
-          request_(request),
-          pattern_(ParsePattern(request.text)),
-          stops_(CollectStops(story)) {
-        if (request.replace != ReplaceNone) replacement_ = ParseReplacement(request);
-    }
-
-    FindResult Run(const std::optional<TextRange>& range) {
-        if (pattern_.empty() || stops_.empty()) return {};
-        for (const Stretch& stretch : Stretches(range)) {
-            HasMarks(pattern_) ? SearchAcross(stretch) : SearchPlain(stretch);
-            if (result_.found) break;
-        }
-        return std::move(result_);
-    }
-
- private:
-    std::vector<Stretch> Stretches(const std::optional<TextRange>& range) const;
-    std::size_t StopOf(const Place& place) const;
-    void SearchPlain(const Stretch& stretch);
-    void SearchAcross(const Stretch& stretch);
-    void ReplacePlain(const Stop& stop, std::size_t from, std::size_t until);
-    bool KeepsApart(const Stop& stop) const;
-    void ReplaceSectionBreak(const Stop& stop, const MarkMatch& match);
-    std::size_t Join(std::size_t stop, const MarkMatch& match);
-    void Put(GrowingParagraph& growing, std::string_view found, FormatId format) const;
-    std::vector<NewContent> ContentFor(std::string_view found) const;
-    void SplitAtReturns(const Stop& stop);
-    void Note(const Stop& first, std::size_t begin, const Stop& last, std::size_t end);
-    void DropSection(const Stop& stop);
-    bool IsDone() const { return result_.found && request_.replace != ReplaceAll; }
-
-    Document& document_;
-    const FindRequest& request_;
-    Pattern pattern_;
-    std::vector<ReplacementPiece> replacement_;
-    std::vector<Stop> stops_;
-    FindResult result_;
-};
 
 std::size_t Finder::StopOf(const Place& place) const {
     const auto found =
@@ -110,16 +54,70 @@ void Finder::SearchPlain(const Stretch& stretch) {
         const std::size_t until = k == stretch.lastStop ? std::min(stretch.until, text.size()) : text.size();
         if (request_.replace != ReplaceNone) {
             ReplacePlain(stop, from, until);
+            if (!IsDone()) ReplaceInFields(stop, from, until);
         } else if (const auto match = FindPlain(text, from, until, pattern_)) {
             Note(stop, match->begin, stop, match->end);
+        } else {
+            FindInFields(stop, from, until);
         }
     }
+}
+
+/// Calls `visit(FormFieldData&, offset)` for the text fields of a stretch, as long as it gives true.
+template <class Visit>
+void ForTextFields(Paragraph& paragraph, std::size_t from, std::size_t until, const Visit& visit) {
+    std::size_t at = paragraph.text.find(character::kObject);
+    for (InlineObject& object : paragraph.objects) {
+        auto* field = std::get_if<FormFieldData>(&object);
+        const bool isWithin = at >= from && at < until;
+        if (field && !field->isCheckBox && isWithin && !visit(*field, at)) return;
+        at = paragraph.text.find(character::kObject, at + 1);
+    }
+}
+
+/// What a text field holds is text of the document; a match in it is the field's place.
+void Finder::FindInFields(const Stop& stop, std::size_t from, std::size_t until) {
+    ForTextFields(stop.paragraph(), from, until, [&](const FormFieldData& field, std::size_t at) {
+        const bool found = FindPlain(field.result, 0, field.result.size(), pattern_).has_value();
+        if (found) Note(stop, at, stop, at + 1);
+        return !found;
+    });
+}
+
+/// A field's result is one text in one look: paragraphs in it become lines, and a picture has no place.
+std::string Finder::FieldResultFor(std::string_view found) const {
+    std::string result;
+    for (const NewContent& piece : ContentFor(found)) {
+        if (const auto* text = std::get_if<std::string>(&piece)) result += *text;
+    }
+    std::ranges::replace(result, '\r', character::kLineBreak);
+    return result;
+}
+
+void Finder::ReplaceInFields(const Stop& stop, std::size_t from, std::size_t until) {
+    until += stop.paragraph().text.size();  // what was put in may have moved the last ones
+    ForTextFields(stop.paragraph(), from, until, [&](FormFieldData& field, std::size_t at) {
+        std::string replaced;
+        std::size_t done = 0;
+        while (const auto match = FindPlain(field.result, done, field.result.size(), pattern_)) {
+            replaced += field.result.substr(done, match->begin - done);
+            replaced += FieldResultFor(
+                std::string_view(field.result).substr(match->begin, match->end - match->begin));
+            done = match->end;
+            ++result_.replaced;
+            Note(stop, at, stop, at + 1);
+            if (IsDone()) break;
+        }
+        if (done > 0) field.result = replaced + field.result.substr(done);
+        return !IsDone();
+    });
 }
 
 /// Replaces in one paragraph, all matches in one pass.
 void Finder::ReplacePlain(const Stop& stop, std::size_t from, std::size_t until) {
     Paragraph& paragraph = stop.paragraph();
     std::vector<Rewrite> rewrites;
+    FormatCursor formats(paragraph);
     std::size_t shift = 0;  // wraps around below zero, and back
     std::size_t lastBegin = 0;
     std::size_t lastEnd = 0;
@@ -130,8 +128,7 @@ void Finder::ReplacePlain(const Stop& stop, std::size_t from, std::size_t until)
         lastBegin = match->begin + shift;
         lastEnd = lastBegin + LengthOf(content);
         shift += LengthOf(content) - found.size();
-        rewrites.push_back(
-            {match->begin, match->end, std::move(content), FormatFrom(paragraph, match->begin)});
+        rewrites.push_back({match->begin, match->end, std::move(content), formats.At(match->begin)});
         from = match->end;
         if (request_.replace == ReplaceOne) break;
     }
@@ -142,9 +139,17 @@ void Finder::ReplacePlain(const Stop& stop, std::size_t from, std::size_t until)
     SplitAtReturns(stop);
 }
 
+bool Finder::MayEndParagraphs() const {
+    return std::ranges::any_of(replacement_, [&](const ReplacementPiece& piece) {
+        const bool bringsMarks = piece.kind == ReplacementPiece::Kind::FoundText && HasMarks(pattern_);
+        return bringsMarks || piece.text.find('\r') != std::string::npos;
+    });
+}
+
 /// Ends a paragraph at each "\r" of its text, which the last match may have brought, and moves the match
 /// along.
 void Finder::SplitAtReturns(const Stop& stop) {
+    if (!MayEndParagraphs()) return;
     std::vector<Paragraph> before = docx::SplitAtReturns(stop.paragraph());
     std::vector<Place> starts;
     for (Paragraph& paragraph : before) {
@@ -160,106 +165,6 @@ void Finder::SplitAtReturns(const Stop& stop) {
         }
     }
 }
-
-// ---- Across marks --------------------------------------------------------------------------------------
-
-void Finder::SearchAcross(const Stretch& stretch) {
-    std::size_t until = stretch.until;
-    std::size_t from = stretch.from;
-    for (std::size_t k = stretch.firstStop; k <= stretch.lastStop && !IsDone();) {
-        const auto match = FindAcross(stops_[k], from, pattern_);
-        const std::size_t endStop = match ? k + match->paragraphs : 0;
-        const bool isWithin =
-            match && (endStop < stretch.lastStop || (endStop == stretch.lastStop && match->end <= until));
-        from = 0;
-        if (!isWithin) {
-            ++k;
-        } else if (request_.replace == ReplaceNone) {
-            Note(stops_[k], match->begin, stops_[endStop], match->end);
-        } else if (match->isSectionBreak && KeepsApart(stops_[k])) {
-            ReplaceSectionBreak(stops_[k++], *match);
-        } else if (match->takesLastMark) {
-            ++k;
-        } else {
-            from = Join(k, *match);
-            if (endStop == stretch.lastStop) until = until - match->end + from;
-            k = endStop;
-        }
-    }
-}
-
-/// Whether a section break that is replaced leaves its paragraph apart from what follows: a table, or the
-/// top of a page.
-bool Finder::KeepsApart(const Stop& stop) const {
-    const bool endsPage = !replacement_.empty() && replacement_.back().text.ends_with(character::kPageBreak);
-    return endsPage || !stop.HasNext();
-}
-
-void Finder::ReplaceSectionBreak(const Stop& stop, const MarkMatch& match) {
-    DropSection(stop);
-    GrowingParagraph growing{std::move(stop.paragraph())};
-    Put(growing, {}, growing.paragraph.markFormat);
-    stop.paragraph() = std::move(growing.paragraph);
-    Note(stop, match.begin, stop, stop.paragraph().text.size());
-    ++result_.replaced;
-    SplitAtReturns(stop);
-}
-
-void Finder::Put(GrowingParagraph& growing, std::string_view found, FormatId format) const {
-    for (NewContent& piece : ContentFor(found)) {
-        if (const auto* text = std::get_if<std::string>(&piece)) growing.Text(*text, format);
-        if (auto* object = std::get_if<InlineObject>(&piece)) growing.Object(std::move(*object), format);
-    }
-}
-
-/// Puts the replacement in for a match that ends in a later paragraph, and what is behind the match behind
-/// it. Gives the offset there; the later paragraph's stop is now the earlier one's.
-std::size_t Finder::Join(std::size_t k, const MarkMatch& match) {
-    const Stop stop = stops_[k];
-    const std::size_t end = k + match.paragraphs;
-    const FormatId format = FormatFrom(stop.paragraph(), match.begin);
-    std::string found = stop.paragraph().text.substr(match.begin);
-    for (std::size_t i = k + 1; i <= end; ++i) {
-        const std::string& text = stops_[i].paragraph().text;
-        found += '\r' + (i < end ? text : text.substr(0, match.end));
-        if (stops_[i - 1].paragraph().section) DropSection(stops_[i - 1]);
-    }
-    GrowingParagraph growing{std::move(stop.paragraph())};
-    Apply(growing.paragraph, {{match.begin, growing.paragraph.text.size(), {}, 0}});
-    Put(growing, found, format);
-    const std::size_t behind = growing.paragraph.text.size();
-    Paragraph rest = std::move(stops_[end].paragraph());
-    Apply(rest, {{0, match.end, {}, 0}});
-    for (std::size_t i = k + 1; i <= end; ++i) {
-        stop.blocks->erase(stops_[i].block);
-        stops_[i] = stop;
-    }
-    growing.Append(std::move(rest));
-    stop.paragraph() = std::move(growing.paragraph);
-    Note(stop, match.begin, stop, behind);
-    ++result_.replaced;
-    SplitAtReturns(stop);
-    return result_.match->end.offset;
-}
-
-/// The text of a section becomes part of the next one; what that showed by way of this one it shows on.
-void Finder::DropSection(const Stop& stop) {
-    const std::unique_ptr<SectionProperties> dropped = std::move(stop.paragraph().section);
-    if (!dropped || stop.blocks != &document_.body) return;
-    SectionProperties* following = &document_.lastSection;
-    for (auto block = std::next(stop.block); block != document_.body.end(); ++block) {
-        const auto* paragraph = std::get_if<Paragraph>(&*block);
-        if (!paragraph || !paragraph->section) continue;
-        following = paragraph->section.get();
-        break;
-    }
-    for (std::size_t pages = 0; pages < dropped->headers.size(); ++pages) {
-        if (!following->headers[pages]) following->headers[pages] = std::move(dropped->headers[pages]);
-        if (!following->footers[pages]) following->footers[pages] = std::move(dropped->footers[pages]);
-    }
-}
-
-}  // namespace
 
 FindResult Find(Document& document, Blocks& story, const FindRequest& request,
                 const std::optional<TextRange>& range) {

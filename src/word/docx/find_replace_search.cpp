@@ -20,6 +20,12 @@ void Collect(Blocks& blocks, std::vector<Stop>& stops) {
     }
 }
 
+constexpr std::size_t kLongestCharacter = 4;  ///< bytes of UTF-8
+
+bool IsContinuation(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0u) == 0x80u;
+}
+
 bool IsMark(char32_t unit) {
     return unit == kParagraphMark || unit == kSectionMark;
 }
@@ -100,23 +106,26 @@ std::optional<MarkMatch> FindAcross(const Stop& stop, std::size_t from, const Pa
     const std::string_view text = stop.paragraph().text;
     // Each mark in the pattern is the end of a paragraph, so only what stands as far before it can match.
     const auto beforeMark = std::ranges::find_if(pattern, IsMark) - pattern.begin();
-    for (std::size_t at = from; at <= text.size();) {
-        const bool mayMatch = (text.size() - at) <= static_cast<std::size_t>(beforeMark) * 4;
-        if (mayMatch) {
-            if (const auto match = MatchAcross(stop, at, pattern)) return match;
-        }
-        at += at < text.size() ? Folded(text, at).length : 1;
+    const std::size_t reach = std::min(text.size(), static_cast<std::size_t>(beforeMark) * kLongestCharacter);
+    std::size_t at = std::max(from, text.size() - reach);
+    while (at < text.size() && IsContinuation(text[at])) ++at;
+    for (; at <= text.size(); at += at < text.size() ? Folded(text, at).length : 1) {
+        if (const auto match = MatchAcross(stop, at, pattern)) return match;
     }
     return {};
 }
 
 FormatId FormatFrom(const Paragraph& paragraph, std::size_t offset) {
-    std::size_t end = 0;
-    for (const Span& span : paragraph.spans) {
-        end += span.length;
-        if (offset < end) return span.format;
-    }
-    return paragraph.markFormat;
+    std::size_t start = paragraph.text.size();
+    if (offset >= start) return paragraph.markFormat;
+    auto span = paragraph.spans.end();
+    while (start > offset) start -= (--span)->length;
+    return span->format;
+}
+
+FormatId FormatCursor::At(std::size_t offset) {
+    while (start_ + paragraph_.spans[span_].length <= offset) start_ += paragraph_.spans[span_++].length;
+    return paragraph_.spans[span_].format;
 }
 
 }  // namespace quillmark::word::docx

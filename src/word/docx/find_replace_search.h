@@ -46,13 +46,26 @@ struct MarkMatch {
     std::size_t begin = 0;
     std::size_t paragraphs = 0;  ///< how many paragraphs on its end stands
     std::size_t end = 0;
-    bool takesLastMark =
-        false;  ///< the mark of the container's last paragraph: it can be found, not replaced
+    /// The mark of the container's last paragraph: it can be found, not replaced.
+    bool takesLastMark = false;
     bool isSectionBreak = false;  ///< nothing but one section break
 };
 std::optional<MarkMatch> FindAcross(const Stop& stop, std::size_t from, const Pattern& pattern);
 
-/// The format of the character at the offset, or of the mark at the text's end.
+/// The format of the character at the offset, or of the mark at the text's end. Quick near the end.
 FormatId FormatFrom(const Paragraph& paragraph, std::size_t offset);
+
+/// The formats of a paragraph's characters from its beginning on.
+class FormatCursor {
+ public:
+    explicit FormatCursor(const Paragraph& paragraph) : paragraph_(paragraph) {}
+    /// At an offset within the text and not before the one asked for last.
+    FormatId At(std::size_t offset);
+
+ private:
+    const Paragraph& paragraph_;
+    std::size_t span_ = 0;
+    std::size_t start_ = 0;
+};
 
 }  // namespace quillmark::word::docx

@@ -87,6 +87,34 @@ void GrowingParagraph::Append(Paragraph&& next) {
     paragraph.section = std::move(next.section);
 }
 
+void GrowingParagraph::CutAt(std::size_t offset) {
+    const std::string_view cut = std::string_view(paragraph.text).substr(offset);
+    const auto objects = static_cast<std::size_t>(std::ranges::count(cut, character::kObject));
+    paragraph.objects.erase(paragraph.objects.end() - static_cast<std::ptrdiff_t>(objects),
+                            paragraph.objects.end());
+    std::size_t length = paragraph.text.size();
+    while (length > offset) {
+        Span& last = paragraph.spans.back();
+        const std::size_t taken = std::min(last.length, length - offset);
+        last.length -= taken;
+        length -= taken;
+        if (last.length == 0) paragraph.spans.pop_back();
+    }
+    paragraph.text.resize(offset);
+    for (auto anchor = paragraph.anchors.rbegin();
+         anchor != paragraph.anchors.rend() && anchor->offset > offset; ++anchor) {
+        anchor->offset = offset;
+    }
+}
+
+void GrowingParagraph::TakeAnchors(Paragraph& other) {
+    for (Anchor& anchor : other.anchors) {
+        anchor.offset = paragraph.text.size();
+        paragraph.anchors.push_back(std::move(anchor));
+    }
+    other.anchors.clear();
+}
+
 void Apply(Paragraph& paragraph, std::vector<Rewrite> rewrites) {
     Copier copier(paragraph);
     auto anchor = paragraph.anchors.begin();

@@ -19,6 +19,10 @@ struct GrowingParagraph {
     void Object(InlineObject object, FormatId format);
     /// Puts another paragraph's content behind this one's, and takes over its format.
     void Append(Paragraph&& next);
+    /// Takes away what is behind the offset; bookmarks' marks there stay, at the new end.
+    void CutAt(std::size_t offset);
+    /// Takes over another paragraph's bookmarks' marks, at the end.
+    void TakeAnchors(Paragraph& other);
 };
 
 /// What is put in: a text or an object.

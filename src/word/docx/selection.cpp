@@ -147,6 +147,9 @@ void SelectionObject::MoveTo(const Place& place) {
 
 void SelectionObject::SelectAll(Blocks& blocks) {
     MoveTo({&blocks, blocks.begin(), 0});
+    const bool isEmptyCell =
+        &blocks != &document_.model().body && Editor::InOrder(Editor::EndOf(blocks), place());
+    if (isEmptyCell) return;
     start_.SetGravity(Gravity::Before);
     end_.MoveTo(Editor::EndOf(blocks));
     selectsAll_ = true;

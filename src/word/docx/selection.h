@@ -26,7 +26,7 @@ class SelectionObject final : public LateBound<SelectionObject>, public TextTarg
     bool IsInsertionPoint() const { return !selectsAll_; }
     /// Puts the insertion point here.
     void MoveTo(const Place& place);
-    /// Selects all of the blocks: a cell, or the document.
+    /// Selects all of the blocks: a cell, or the document. In an empty cell that is an insertion point.
     void SelectAll(Blocks& blocks);
     /// Takes out what is selected and gives the place where typing goes on. Throws where it is protected.
     Place BeginInsertion();
