@@ -2,6 +2,10 @@
 
 add_library(quillmark_options INTERFACE)
 target_compile_options(quillmark_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion)
+# The standard library's strings draw false warnings from g++ 12 when optimised.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(quillmark_options INTERFACE -Wno-restrict -Wno-maybe-uninitialized)
+endif()
 target_include_directories(quillmark_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
 # quillmark_folder(NAME [USES folder...] [LIBRARIES target...] [PRIVATE_LIBRARIES target...])
@@ -9,11 +13,6 @@ target_include_directories(quillmark_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 function(quillmark_folder name)
   cmake_parse_arguments(ARG "" "" "USES;LIBRARIES;PRIVATE_LIBRARIES" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
-  if(NOT sources)
-    add_library(quillmark_${name} INTERFACE)
-    target_link_libraries(quillmark_${name} INTERFACE quillmark_options)
-    return()
-  endif()
   add_library(quillmark_${name} STATIC ${sources})
   list(TRANSFORM ARG_USES PREPEND quillmark_)
   target_link_libraries(quillmark_${name} PUBLIC quillmark_options ${ARG_USES} ${ARG_LIBRARIES}

@@ -28,6 +28,7 @@ fi
 export QUILLMARK_WINDOWS_DEPENDENCIES_RUN=1
 
 # apt with lists of its own: the source packages of every distribution archive that this machine uses.
+# shellcheck disable=SC2016 # apt-get expands these names itself
 apt-get indextargets 'Created-By: Packages' --format '$(ORIGIN)|deb-src $(REPO_URI) $(RELEASE) $(COMPONENT)' |
     sed -nE 's/^(Debian|Ubuntu)\|//p' | sort -u >"$work/sources.list"
 own_apt() {

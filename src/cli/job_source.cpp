@@ -14,8 +14,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The firm's own details among the fields.
-constexpr int kFirmFields[] = {2, 3, 4, 5, 6, 7, 8, 9, 10, 189};
+/// The seller's attorney's fields, which the firm's defaults fill. The last one, the e-mail address, belongs
+/// to the attorney chosen, so of several none is taken.
+constexpr int kFirstFirmField = 2;
+constexpr int kLastFirmField = 9;
 
 bool IsDataFile(const fs::path& path) {
     return Lowered(TextOf(path.extension())) == ".dat";
@@ -37,10 +39,11 @@ JobSource SourceOf(const fs::path& file, const Folders& folders) {
 }
 
 void FillFirmFields(const FirmDefaults& defaults, Job& job) {
-    for (int n : kFirmFields) {
+    for (int n = kFirstFirmField; n <= kLastFirmField; ++n) {
         if (job.IsFilled(n)) continue;
         const std::string value = defaults.ValueOf(FieldMarker(n));
         const auto choice = value.find(';');
+        if (choice != value.npos && n == kLastFirmField) continue;
         job.SetField(n, Trimmed(std::string_view(value).substr(0, choice)));
         // A single default is not the job's own value, so it is not kept with the job.
         if (choice == value.npos && job.IsFilled(n)) job.txtField(n).top = 0;
@@ -70,6 +73,10 @@ std::vector<std::string> ReadJob(const JobSource& source, Folders folders, const
     std::vector<std::string> refused;
     for (int n : AttachSmartFields(job))
         refused.push_back(std::string(FieldMarker(n)) + " holds \"" + job.D(n) + "\", which is not a date");
+    for (int n = 1; n <= kFields; ++n)
+        if (job.D(n) == kImageLiteral && job.FieldPictures[static_cast<std::size_t>(n)].empty())
+            refused.push_back(std::string(FieldMarker(n)) + " is a picture, but its file \"" + job.name +
+                              "_" + std::to_string(n) + ".bmp\" is missing");
     return refused;
 }
 

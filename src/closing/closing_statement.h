@@ -68,7 +68,7 @@ struct ClosingStatement {
 /// Computes a statement from the job's present values. In the mode `kTaxExemptMode`, and whenever the payoffs
 /// exceed the cash to close, asks whether the sale is exempt from the town's tax and then from the state's.
 ///
-/// Throws NotANumber for a proration date that is none, std::overflow_error for figures beyond all measure,
+/// Throws NotADate for a proration date that is none, std::overflow_error for figures beyond all measure,
 /// and what the dialogs throw.
 ClosingStatement ComputeClosingStatement(const Job& job, const Settings& settings, std::string_view mode,
                                          Dialogs& dialogs);

@@ -1,6 +1,6 @@
 #include "closing/closing_statement_entries.h"
 
-#include "core/text_conversions.h"
+#include <fmt/format.h>
 
 namespace quillmark {
 
@@ -68,7 +68,7 @@ double ReleaseFee(std::string_view payoff) {
 std::optional<std::chrono::year_month_day> ReadProrationDate(const Job& job) {
     if (!job.IsFilled(kProrationDate)) return std::nullopt;
     const auto date = ReadDate(job.D(kProrationDate));
-    if (!date) throw NotANumber(job.D(kProrationDate));
+    if (!date) throw NotADate(job.D(kProrationDate));
     return date;
 }
 
@@ -105,6 +105,9 @@ void ReadDisbursements(const Job& job, ClosingStatementEntries& entries) {
 }
 
 }  // namespace
+
+NotADate::NotADate(std::string_view text)
+    : NotANumber(text), message_(fmt::format("the proration date \"{}\" is not a date", text)) {}
 
 ClosingStatementEntries ReadClosingStatementEntries(const Job& job) {
     ClosingStatementEntries entries;

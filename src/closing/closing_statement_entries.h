@@ -4,11 +4,23 @@
 #include <chrono>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "closing/closing_figures.h"
 #include "core/job.h"
+#include "core/text_conversions.h"
 
 namespace quillmark {
+
+/// A proration date that is filled and cannot be read.
+class NotADate : public NotANumber {
+ public:
+    explicit NotADate(std::string_view text);
+    const char* what() const noexcept override { return message_.c_str(); }
+
+ private:
+    std::string message_;
+};
 
 struct OtherAdjustment {
     double amount = 0;
@@ -52,7 +64,7 @@ struct ClosingStatementEntries {
 };
 
 /// Reads payoff amounts up to "-" or "=", so tagged values and those cut for typing give the same. Throws
-/// NotANumber for a proration date that is filled and no date.
+/// NotADate.
 ClosingStatementEntries ReadClosingStatementEntries(const Job& job);
 
 }  // namespace quillmark

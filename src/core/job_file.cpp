@@ -269,9 +269,12 @@ bool RenameJobFiles(const Folders& folders, std::string_view name, std::string_v
     CheckName(newName);
     const fs::path file = JobFilePath(folders, name);
     const fs::path taken = JobFilePath(folders, newName);
+    const fs::path newFile = folders.JobFolder / PathOf(std::string(newName) + ".dat");
     std::error_code missing;
-    if (Exists(taken) && !fs::equivalent(taken, file, missing)) return false;
-    Rename(file, folders.JobFolder / PathOf(std::string(newName) + ".dat"));
+    if (fs::equivalent(taken, file, missing))
+        Rename(file, newFile);  // the same name in another case
+    else if (Exists(taken) || !RenameUnlessTaken(file, newFile))
+        return false;
     for (const auto& [n, picture] : PicturesOnDisk(folders, name)) {
         Rename(picture, PicturePath(folders, newName, n));
     }

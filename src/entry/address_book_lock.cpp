@@ -2,10 +2,9 @@
 
 #include <fmt/format.h>
 
-#include <fstream>
-
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
+#include "platform/note_file.h"
 #include "platform/paths.h"
 #include "platform/record_file.h"
 
@@ -89,7 +88,7 @@ void AddressBookLock::NameHolder(const Clock& clock) const {
     } catch (const UnencodableError&) {
         return;
     }
-    std::ofstream(who_, std::ios::binary | std::ios::trunc) << record.Bytes();
+    WriteNote(who_, record.Bytes());
 }
 
 }  // namespace quillmark

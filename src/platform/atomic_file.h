@@ -41,4 +41,8 @@ void ReplaceFile(const std::filesystem::path& file, std::string_view bytes);
 /// The whole content of an ordinary file. Throws FileError, kind TooLarge above `limit` bytes.
 std::string ReadFile(const std::filesystem::path& file, std::size_t limit);
 
+/// Gives a file another name in one step. False, with nothing changed, if there is a file of that name, even
+/// one that another computer has made at this moment. Throws FileError.
+bool RenameUnlessTaken(const std::filesystem::path& file, const std::filesystem::path& newFile);
+
 }  // namespace quillmark

@@ -3,7 +3,6 @@
 #include <chrono>
 
 #include "closing_statement_deal.h"
-#include "core/text_conversions.h"
 
 namespace quillmark::test {
 namespace {
@@ -117,7 +116,7 @@ TEST(ClosingStatement, WithoutAProrationDateNothingIsProrated) {
     EXPECT_TRUE(statement.CommonCreditBuyer.shown);
     EXPECT_FALSE(statement.CommonCreditBuyer.period.PeriodDate);
     desk.With({{81, "June 31, 2021"}});
-    EXPECT_THROW(desk.Compute(), NotANumber);
+    EXPECT_THROW(desk.Compute(), NotADate);
 }
 
 TEST(ClosingStatement, TheConveyanceTaxesChangeAtTheirThresholds) {

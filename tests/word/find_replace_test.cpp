@@ -111,7 +111,8 @@ TEST_F(FindTest, TheClipboardGoesInWhole) {
 
 TEST_F(FindTest, WhatFormFieldsHoldIsText) {
     Paragraph& paragraph = Add("[x] ");
-    test::Insert(*document, paragraph, FormFieldData{.name = "Check1", .isCheckBox = true, .result = "[buyer]"});
+    test::Insert(*document, paragraph,
+                 FormFieldData{.name = "Check1", .isCheckBox = true, .result = "[buyer]"});
     test::Insert(*document, paragraph, FormFieldData{.name = "Text1", .result = "by [BUYER], [x]"});
     const FindResult found = FindText("[buyer]");
     ASSERT_TRUE(found.found);

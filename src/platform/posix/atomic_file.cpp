@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <utility>
 
 #include "platform/temporary_name.h"
@@ -93,6 +94,17 @@ void FlushFolder(const fs::path& folder) {
     if (file.IsOpen()) ::fsync(file.Descriptor());
 }
 
+/// 0 or the system's error number. Not every file system can do it.
+int RenameInOneStep(const fs::path& file, const fs::path& newFile) {
+#ifdef RENAME_NOREPLACE
+    const int done = ::renameat2(AT_FDCWD, file.c_str(), AT_FDCWD, newFile.c_str(), RENAME_NOREPLACE);
+    return done == 0 ? 0 : errno;
+#else
+    if (::link(file.c_str(), newFile.c_str()) != 0) return errno;
+    return ::unlink(file.c_str()) == 0 ? 0 : errno;
+#endif
+}
+
 }  // namespace
 
 void ReplaceFile(const fs::path& file, std::string_view bytes) {
@@ -108,6 +120,19 @@ void ReplaceFile(const fs::path& file, std::string_view bytes) {
     temporary.Write(bytes);
     temporary.Replace();
     FlushFolder(target.parent_path());
+}
+
+bool RenameUnlessTaken(const fs::path& file, const fs::path& newFile) {
+    int error = RenameInOneStep(file, newFile);
+    if (error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == EPERM) {
+        error = EEXIST;
+        if (::access(newFile.c_str(), F_OK) != 0)
+            error = ::rename(file.c_str(), newFile.c_str()) == 0 ? 0 : errno;
+    }
+    if (error == EEXIST) return false;
+    if (error != 0) throw FileError(file, std::error_code(error, std::generic_category()));
+    FlushFolder(newFile.parent_path());
+    return true;
 }
 
 std::string ReadFile(const fs::path& file, std::size_t limit) {

@@ -74,6 +74,13 @@ void ReplaceFile(const fs::path& file, std::string_view bytes) {
     throw FileError(file, error);
 }
 
+bool RenameUnlessTaken(const fs::path& file, const fs::path& newFile) {
+    if (MoveFileExW(file.c_str(), newFile.c_str(), MOVEFILE_WRITE_THROUGH)) return true;
+    const DWORD error = GetLastError();
+    if (error == ERROR_ALREADY_EXISTS || error == ERROR_FILE_EXISTS) return false;
+    throw FileError(file, std::error_code(static_cast<int>(error), std::system_category()));
+}
+
 std::string ReadFile(const fs::path& file, std::size_t limit) {
     const File in(file, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, OPEN_EXISTING);
     LARGE_INTEGER size = {};

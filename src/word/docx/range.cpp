@@ -21,9 +21,16 @@ std::size_t CharactersIn(const std::string& text) {
         std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
-bool IsOneCharacter(const InlineObject& object) {
+/// The characters that an object takes beside those it shows: a field's marks and its code count, hidden or
+/// not.
+std::size_t HiddenCharacters(const InlineObject& object) {
+    if (const auto* code = std::get_if<FieldInstruction>(&object)) return CharactersIn(code->text);
     const auto* field = std::get_if<FormFieldData>(&object);
-    return std::holds_alternative<Picture>(object) || (field && field->isCheckBox);
+    const bool isOne = std::holds_alternative<Picture>(object) || (field && field->isCheckBox) ||
+                       std::holds_alternative<FieldBegin>(object) ||
+                       std::holds_alternative<FieldSeparator>(object) ||
+                       std::holds_alternative<FieldEnd>(object);
+    return isOne ? 1 : 0;
 }
 
 }  // namespace
@@ -123,7 +130,7 @@ int RangeObject::StoryLength() {
     std::size_t length = 0;
     ForEachStretch(Editor::StartOf(Story()), Editor::EndOf(Story()), true, [&](const Stretch& stretch) {
         length += CharactersIn(PlainText(stretch));
-        for (const InlineObject& object : stretch.paragraph.objects) length += IsOneCharacter(object);
+        for (const InlineObject& object : stretch.paragraph.objects) length += HiddenCharacters(object);
     });
     return static_cast<int>(length);
 }

@@ -93,7 +93,7 @@ void FieldsObject::Add(Arguments arguments) {
     Place place = range->BeginInsertion();
     const FormatId format = range->InsertionFormat();
     place = editor.InsertObject(place, FieldBegin{}, format);
-    place = editor.InsertObject(place, FieldInstruction{" PAGE "}, format);
+    place = editor.InsertObject(place, FieldInstruction{" PAGE  \\* MERGEFORMAT "}, format);
     place = editor.InsertObject(place, FieldSeparator{}, format);
     place = editor.InsertText(place, "1", format);
     editor.InsertObject(place, FieldEnd{}, format);

@@ -27,13 +27,24 @@ bool IsAmong(const std::string_view (&names)[N], std::string_view name) {
     return std::ranges::find(names, name) != std::end(names);
 }
 
+/// The attribute holds for all that is within its element.
+bool KeepsSpace(pugi::xml_node node) {
+    for (; node; node = node.parent()) {
+        if (const pugi::xml_attribute space = node.attribute("xml:space")) {
+            return std::string_view(space.value()) == "preserve";
+        }
+    }
+    return false;
+}
+
 /// White space at the ends counts only where the file says so; line ends and tabs in a text are blanks.
 std::string TextOf(pugi::xml_node node) {
     std::string text;
     for (const pugi::xml_node child : node.children()) text += child.value();
     std::ranges::replace_if(
         text, [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
-    if (Attribute(node, "xml:space") == "preserve") return text;
+    const bool hasSpace = text.starts_with(' ') || text.ends_with(' ');
+    if (!hasSpace || KeepsSpace(node)) return text;
     text.erase(0, text.find_first_not_of(' '));
     text.erase(text.find_last_not_of(' ') + 1);
     return text;
