@@ -10,8 +10,6 @@ set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
-# This compiler warns of overlapping copies inside std::string that cannot happen.
-set(CMAKE_CXX_FLAGS_INIT -Wno-restrict)
 
 get_filename_component(quillmark_root ${CMAKE_CURRENT_LIST_DIR} DIRECTORY)
 set(QUILLMARK_WINDOWS_PREFIX ${quillmark_root}/build/windows-dependencies

@@ -127,9 +127,7 @@ void CheckName(std::string_view name) {
     std::string_view inside = name;
     if (IsTemplateName(name) && name.ends_with('}') && name.size() > 1)
         inside = name.substr(1, name.size() - 2);
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' '; };
-    if (inside.empty() || HoldsIllegalNameCharacter(inside) ||
-        std::any_of(name.begin(), name.end(), isControl)) {
+    if (inside.empty() || HoldsIllegalNameCharacter(inside)) {
         throw JobFileError(fmt::format("\"{}\" is no name for a job", name));
     }
 }
@@ -182,7 +180,9 @@ void Rename(const fs::path& file, const fs::path& newFile) {
 }  // namespace
 
 bool HoldsIllegalNameCharacter(std::string_view name) {
-    return name.find_first_of(kIllegalNameCharacters) != std::string_view::npos;
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' '; };
+    return name.find_first_of(kIllegalNameCharacters) != std::string_view::npos ||
+           std::any_of(name.begin(), name.end(), isControl);
 }
 
 std::string TemplateName(std::string_view name) {

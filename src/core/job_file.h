@@ -16,6 +16,7 @@ namespace quillmark {
 
 /// Characters that no job name may hold: \ / : * ? < > | { } and the double quote.
 inline constexpr std::string_view kIllegalNameCharacters = "\\/:*?<>|{}\"";
+/// One of them, or a control character.
 bool HoldsIllegalNameCharacter(std::string_view name);
 
 /// "{ REGENCY_template }" for "Regency": the file name, without extension, of the template of that name.

@@ -121,6 +121,12 @@ TEST_F(FindTest, WhatFormFieldsHoldIsText) {
     EXPECT_EQ(ReplaceAllOf("[buyer]", "^& & Co."), 1);
     EXPECT_EQ(std::get<FormFieldData>(At(1).objects.at(1)).result, "by [BUYER] & Co., one\vtwo");
     EXPECT_EQ(Text(document->body), "one\ntwo <1><1>\n");
+    // A field that ends up in another paragraph than the text's last match.
+    test::Type(*document, At(1), " [x]");
+    EXPECT_EQ(ReplaceAllOf("two", "[x]"), 2);
+    EXPECT_EQ(ReplaceAllOf("[X]", "1^p2"), 3);
+    EXPECT_EQ(Text(document->body), "one\n1\n2 <1><1> 1\n2\n");
+    EXPECT_EQ(std::get<FormFieldData>(At(2).objects.at(1)).result, "by [BUYER] & Co., one\v1\v2");
 }
 
 TEST_F(FindTest, ReplacedMarksJoinParagraphsUnderTheNextFormat) {

@@ -20,15 +20,16 @@ class FormMerge : public testing::Test, protected EngineSession {
     void SetUp() override {
         BareDocx form;
         form.body =
-            "<w:p><w:r><w:t>Rider of [SELLER</w:t></w:r><w:r><w:rPr><w:b/></w:rPr><w:t xml:space=\"preserve\"> 1 name]</w:t></w:r><w:r>"
-            "<w:t>: [note]</w:t></w:r></w:p><w:p><w:pPr><w:sectPr/></w:pPr></w:p><w:p><w:r><w:t>signed</w:t></w:r>"
-            "</w:p><w:sectPr><w:footerReference w:type=\"default\" r:id=\"rId9\"/><w:pgMar w:left=\"2000\"/></w:sectPr>";
+            R"(<w:p><w:r><w:t>Rider of [SELLER</w:t></w:r><w:r><w:rPr><w:b/></w:rPr><w:t xml:space="preserve">)"
+            R"( 1 name]</w:t></w:r><w:r><w:t>: [note]</w:t></w:r></w:p><w:p><w:pPr><w:sectPr/></w:pPr></w:p>)"
+            R"(<w:p><w:r><w:t>signed</w:t></w:r></w:p><w:sectPr><w:footerReference w:type="default" )"
+            R"(r:id="rId9"/><w:pgMar w:left="2000"/></w:sectPr>)";
         form.settings = "<w:defaultTabStop w:val=\"500\"/>";
         form.relationships = "<Relationship Id=\"rId9\" Type=\"t/footer\" Target=\"footer1.xml\"/>";
         form.extraPartName = "word/footer1.xml";
         form.extraPart =
-            "<w:ftr xmlns:w=\"http://schemas.openxmlformats.org/wordprocessingml/2006/main\"><w:p><w:r><w:t>own"
-            "</w:t></w:r></w:p></w:ftr>";
+            R"(<w:ftr xmlns:w="http://schemas.openxmlformats.org/wordprocessingml/2006/main"><w:p><w:r>)"
+            R"(<w:t>own</w:t></w:r></w:p></w:ftr>)";
         quillmark::test::WriteBytes(folder / "Rider.docx", form.Bytes());
     }
 

@@ -51,33 +51,45 @@ class PasteTest : public testing::Test {
 /// A form as the word processor writes it: theme-sized defaults, a heading, a table style, a numbered style.
 BareDocx Form() {
     BareDocx form;
-    form.styles =
-        R"(<w:docDefaults><w:rPrDefault><w:rPr><w:rFonts w:ascii="Calibri" w:hAnsi="Calibri"/><w:sz w:val="22"/></w:rPr>)"
-        R"(</w:rPrDefault><w:pPrDefault><w:pPr><w:spacing w:after="160" w:line="259" w:lineRule="auto"/></w:pPr>)"
-        R"(</w:pPrDefault></w:docDefaults>)"
-        R"(<w:style w:type="paragraph" w:default="1" w:styleId="Normal"><w:name w:val="Normal"/><w:rPr><w:lang )"
-        R"(w:val="en-US"/></w:rPr></w:style>)"
-        R"(<w:style w:type="paragraph" w:styleId="Clause"><w:name w:val="Clause"/><w:basedOn w:val="Normal"/><w:next )"
-        R"(w:val="Normal"/><w:pPr><w:numPr><w:ilvl w:val="1"/><w:numId w:val="5"/></w:numPr><w:ind w:left="900" )"
-        R"(w:hanging="300"/></w:pPr></w:style>)"
-        R"(<w:style w:type="paragraph" w:styleId="Unused"><w:name w:val="Unused"/></w:style>)"
-        R"(<w:style w:type="table" w:default="1" w:styleId="TableNormal"><w:name w:val="Normal Table"/></w:style>)"
-        R"(<w:style w:type="table" w:styleId="Grid"><w:name w:val="Table Grid"/><w:basedOn w:val="TableNormal"/>)"
-        R"(<w:pPr><w:spacing w:after="0" w:line="240" w:lineRule="auto"/></w:pPr><w:rPr><w:sz w:val="18"/></w:rPr>)"
-        R"(</w:style>)";
+    form.styles = R"(<w:docDefaults><w:rPrDefault><w:rPr><w:rFonts w:ascii="Calibri" w:hAnsi="Calibri"/>)"
+                  R"(<w:sz w:val="22"/></w:rPr>)"
+                  R"(</w:rPrDefault><w:pPrDefault><w:pPr>)"
+                  R"(<w:spacing w:after="160" w:line="259" w:lineRule="auto"/></w:pPr>)"
+                  R"(</w:pPrDefault></w:docDefaults>)"
+                  R"(<w:style w:type="paragraph" w:default="1" w:styleId="Normal"><w:name w:val="Normal"/>)"
+                  R"(<w:rPr><w:lang )"
+                  R"(w:val="en-US"/></w:rPr></w:style>)"
+                  R"(<w:style w:type="paragraph" w:styleId="Clause"><w:name w:val="Clause"/>)"
+                  R"(<w:basedOn w:val="Normal"/><w:next )"
+                  R"(w:val="Normal"/><w:pPr><w:numPr><w:ilvl w:val="1"/><w:numId w:val="5"/></w:numPr>)"
+                  R"(<w:ind w:left="900" )"
+                  R"(w:hanging="300"/></w:pPr></w:style>)"
+                  R"(<w:style w:type="paragraph" w:styleId="Unused"><w:name w:val="Unused"/></w:style>)"
+                  R"(<w:style w:type="table" w:default="1" w:styleId="TableNormal">)"
+                  R"(<w:name w:val="Normal Table"/></w:style>)"
+                  R"(<w:style w:type="table" w:styleId="Grid"><w:name w:val="Table Grid"/>)"
+                  R"(<w:basedOn w:val="TableNormal"/>)"
+                  R"(<w:pPr><w:spacing w:after="0" w:line="240" w:lineRule="auto"/></w:pPr><w:rPr>)"
+                  R"(<w:sz w:val="18"/></w:rPr>)"
+                  R"(</w:style>)";
     form.numbering =
-        R"(<w:abstractNum w:abstractNumId="0"><w:lvl w:ilvl="1"><w:start w:val="1"/><w:numFmt w:val="decimal"/>)"
+        R"(<w:abstractNum w:abstractNumId="0"><w:lvl w:ilvl="1"><w:start w:val="1"/>)"
+        R"(<w:numFmt w:val="decimal"/>)"
         R"(<w:pStyle w:val="Clause"/><w:lvlText w:val="%2."/></w:lvl></w:abstractNum><w:num w:numId="5">)"
         R"(<w:abstractNumId w:val="0"/></w:num>)";
     form.body =
-        R"(<w:p><w:r><w:t>Title</w:t></w:r></w:p><w:p><w:pPr><w:pStyle w:val="Clause"/></w:pPr><w:r><w:t>Clause one)"
-        R"(</w:t></w:r></w:p><w:tbl><w:tblPr><w:tblStyle w:val="Grid"/></w:tblPr><w:tr><w:tc><w:p><w:r><w:t>Cell</w:t>)"
-        R"(</w:r></w:p></w:tc></w:tr></w:tbl><w:p/><w:sectPr><w:footerReference w:type="default" r:id="rId9"/>)"
+        R"(<w:p><w:r><w:t>Title</w:t></w:r></w:p><w:p><w:pPr><w:pStyle w:val="Clause"/></w:pPr><w:r>)"
+        R"(<w:t>Clause one)"
+        R"(</w:t></w:r></w:p><w:tbl><w:tblPr><w:tblStyle w:val="Grid"/></w:tblPr><w:tr><w:tc><w:p><w:r>)"
+        R"(<w:t>Cell</w:t>)"
+        R"(</w:r></w:p></w:tc></w:tr></w:tbl><w:p/><w:sectPr>)"
+        R"(<w:footerReference w:type="default" r:id="rId9"/>)"
         R"(<w:pgMar w:top="1000" w:left="1111"/></w:sectPr>)";
     form.relationships = R"(<Relationship Id="rId9" Type="t/footer" Target="footer1.xml"/>)";
     form.extraPartName = "word/footer1.xml";
     form.extraPart =
-        R"(<w:ftr xmlns:w="http://schemas.openxmlformats.org/wordprocessingml/2006/main"><w:p><w:r><w:t>form footer)"
+        R"(<w:ftr xmlns:w="http://schemas.openxmlformats.org/wordprocessingml/2006/main"><w:p><w:r>)"
+        R"(<w:t>form footer)"
         R"(</w:t></w:r></w:p></w:ftr>)";
     return form;
 }
@@ -199,8 +211,10 @@ TEST_F(PasteTest, NamesStayUniqueAndFieldsFollowThem) {
 TEST_F(PasteTest, PartsAndNotesAreBroughtAlongOnceAndRenumbered) {
     BareDocx form;
     form.body =
-        R"(<w:p><w:r><w:t>see</w:t></w:r><w:r><w:footnoteReference w:id="2"/></w:r><w:r><w:pict><v:shape><v:imagedata )"
-        R"(r:id="rId9"/><v:textbox><w:txbxContent><w:p/></w:txbxContent></v:textbox></v:shape></w:pict></w:r></w:p>)";
+        R"(<w:p><w:r><w:t>see</w:t></w:r><w:r><w:footnoteReference w:id="2"/></w:r><w:r><w:pict><v:shape>)"
+        R"(<v:imagedata )"
+        R"(r:id="rId9"/><v:textbox><w:txbxContent><w:p/></w:txbxContent></v:textbox></v:shape>)"
+        R"(</w:pict></w:r></w:p>)";
     form.relationships = R"(<Relationship Id="rId9" Type="t/image" Target="media/a.png"/>)"
                          R"(<Relationship Id="rId8" Type="t/footnotes" Target="footnotes.xml"/>)";
     form.extraPartName = "word/media/a.png";
@@ -208,7 +222,8 @@ TEST_F(PasteTest, PartsAndNotesAreBroughtAlongOnceAndRenumbered) {
     test::Parts parts = test::Unzip(form.Bytes());
     parts["word/footnotes.xml"] =
         R"(<w:footnotes xmlns:w="http://schemas.openxmlformats.org/wordprocessingml/2006/main"><w:footnote )"
-        R"(w:type="separator" w:id="0"><w:p/></w:footnote><w:footnote w:id="2"><w:p><w:r><w:t>the note</w:t></w:r></w:p>)"
+        R"(w:type="separator" w:id="0"><w:p/></w:footnote><w:footnote w:id="2"><w:p><w:r><w:t>the note)"
+        R"(</w:t></w:r></w:p>)"
         R"(</w:footnote></w:footnotes>)";
     const auto source = OpenDocxBytes(test::Zip(parts));
     Paste(*source);

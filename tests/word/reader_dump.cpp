@@ -257,8 +257,10 @@ std::string BareDocx::Bytes() const {
     Parts parts;
     parts["[Content_Types].xml"] =
         R"(<Types xmlns="http://schemas.openxmlformats.org/package/2006/content-types">)"
-        R"(<Default Extension="rels" ContentType="application/vnd.openxmlformats-package.relationships+xml"/>)"
-        R"(<Default Extension="xml" ContentType="application/xml"/><Default Extension="png" ContentType="image/png"/></Types>)";
+        R"(<Default Extension="rels" )"
+        R"(ContentType="application/vnd.openxmlformats-package.relationships+xml"/>)"
+        R"(<Default Extension="xml" ContentType="application/xml"/>)"
+        R"(<Default Extension="png" ContentType="image/png"/></Types>)";
     parts["_rels/.rels"] = links(link("rId1", "officeDocument", "word/document.xml"));
     parts["word/document.xml"] = root("document", "<w:body>" + body + "</w:body>");
     std::string own = relationships;

@@ -24,12 +24,14 @@ const ParaFormat& FirstFormat(const Document& document) {
 }
 
 TEST(Reader, TextOfRunsIsFlat) {
-    const auto document = OpenBody(
-        R"(<w:p><w:proofErr w:type="spellStart"/><w:r><w:t>QU</w:t></w:r><w:r><w:rPr><w:b/></w:rPr><w:t>ICK</w:t>)"
-        R"(</w:r><w:bookmarkStart w:id="4" w:name="here"/><w:r><w:tab/><w:t xml:space="preserve"> BR&#1;OWN </w:t>)"
-        R"(<w:br/><w:t> trimmed )"
-        "\n</w:t><w:cr/></w:r>"
-        R"(<w:bookmarkEnd w:id="4"/><w:r><w:br w:type="page"/><w:br w:type="column"/></w:r></w:p>)");
+    const auto document =
+        OpenBody(R"(<w:p><w:proofErr w:type="spellStart"/><w:r><w:t>QU</w:t></w:r><w:r><w:rPr><w:b/></w:rPr>)"
+                 R"(<w:t>ICK</w:t>)"
+                 R"(</w:r><w:bookmarkStart w:id="4" w:name="here"/><w:r><w:tab/>)"
+                 R"(<w:t xml:space="preserve"> BR&#1;OWN </w:t>)"
+                 R"(<w:br/><w:t> trimmed )"
+                 "\n</w:t><w:cr/></w:r>"
+                 R"(<w:bookmarkEnd w:id="4"/><w:r><w:br w:type="page"/><w:br w:type="column"/></w:r></w:p>)");
     EXPECT_EQ(Text(document->body), "QUICK<9> BROWN <b>trimmed<b><c><e>\n");
     EXPECT_THAT(test::Dump(*document), HasSubstr("<+here>"));
     EXPECT_EQ(test::Faults(*document), "");
@@ -37,11 +39,16 @@ TEST(Reader, TextOfRunsIsFlat) {
 
 TEST(Reader, TrackedChangesAreTaken) {
     const auto document = OpenBody(
-        R"(<w:p><w:r><w:t>keep</w:t></w:r><w:ins w:id="1"><w:r><w:t xml:space="preserve"> new</w:t></w:r></w:ins>)"
-        R"(<w:del w:id="2"><w:r><w:delText> old</w:delText></w:r></w:del><w:moveFrom w:id="3"><w:r><w:t>gone</w:t>)"
-        R"(</w:r></w:moveFrom></w:p><w:p><w:pPr><w:jc w:val="center"/><w:rPr><w:del w:id="4"/></w:rPr></w:pPr><w:r>)"
-        R"(<w:t xml:space="preserve">one </w:t></w:r></w:p><w:p><w:pPr><w:jc w:val="right"/></w:pPr><w:r><w:t>paragraph</w:t></w:r></w:p>)"
-        R"(<w:tbl><w:tr><w:trPr><w:del w:id="5"/></w:trPr><w:tc><w:p/></w:tc></w:tr><w:tr><w:tc><w:p><w:r><w:t>row)"
+        R"(<w:p><w:r><w:t>keep</w:t></w:r><w:ins w:id="1"><w:r><w:t xml:space="preserve"> new</w:t>)"
+        R"(</w:r></w:ins>)"
+        R"(<w:del w:id="2"><w:r><w:delText> old</w:delText></w:r></w:del><w:moveFrom w:id="3"><w:r>)"
+        R"(<w:t>gone</w:t>)"
+        R"(</w:r></w:moveFrom></w:p><w:p><w:pPr><w:jc w:val="center"/><w:rPr><w:del w:id="4"/></w:rPr>)"
+        R"(</w:pPr><w:r>)"
+        R"(<w:t xml:space="preserve">one </w:t></w:r></w:p><w:p><w:pPr><w:jc w:val="right"/></w:pPr><w:r>)"
+        R"(<w:t>paragraph</w:t></w:r></w:p>)"
+        R"(<w:tbl><w:tr><w:trPr><w:del w:id="5"/></w:trPr><w:tc><w:p/></w:tc></w:tr><w:tr><w:tc><w:p>)"
+        R"(<w:r><w:t>row)"
         R"(</w:t></w:r></w:p></w:tc></w:tr></w:tbl><w:p/>)");
     EXPECT_EQ(Text(document->body), "keep new\none paragraph\n[row\n]\n\n");
     const auto& joined = std::get<Paragraph>(*std::next(document->body.begin()));
@@ -50,9 +57,12 @@ TEST(Reader, TrackedChangesAreTaken) {
 
 TEST(Reader, ContentControlsAndTagsAreUnwrapped) {
     const auto document = OpenBody(
-        R"(<w:sdt><w:sdtPr/><w:sdtContent><w:p><w:sdt><w:sdtContent><w:r><w:t>a</w:t></w:r></w:sdtContent></w:sdt>)"
-        R"(<w:smartTag><w:r><w:t>b</w:t></w:r></w:smartTag></w:p></w:sdtContent></w:sdt><w:tbl><w:sdt><w:sdtContent>)"
-        R"(<w:tr><w:sdt><w:sdtContent><w:tc><w:p/></w:tc></w:sdtContent></w:sdt></w:tr></w:sdtContent></w:sdt></w:tbl>)"
+        R"(<w:sdt><w:sdtPr/><w:sdtContent><w:p><w:sdt><w:sdtContent><w:r><w:t>a</w:t></w:r>)"
+        R"(</w:sdtContent></w:sdt>)"
+        R"(<w:smartTag><w:r><w:t>b</w:t></w:r></w:smartTag></w:p></w:sdtContent></w:sdt><w:tbl><w:sdt>)"
+        R"(<w:sdtContent>)"
+        R"(<w:tr><w:sdt><w:sdtContent><w:tc><w:p/></w:tc></w:sdtContent></w:sdt></w:tr></w:sdtContent>)"
+        R"(</w:sdt></w:tbl>)"
         R"(<w:p/>)");
     EXPECT_EQ(Text(document->body), "ab\n[\n]\n\n");
 }
@@ -61,7 +71,8 @@ TEST(Reader, NamesGoByNamespaceAndNotByPrefix) {
     test::Parts parts = test::Unzip(BareDocx{.body = "<w:p/>"}.Bytes());
     parts["word/document.xml"] =
         R"(<x:document xmlns:x="http://purl.oclc.org/ooxml/wordprocessingml/main" xmlns:w="urn:mine" )"
-        R"(xmlns:i="urn:skip" xmlns:q="http://schemas.openxmlformats.org/markup-compatibility/2006" q:Ignorable="i">)"
+        R"(xmlns:i="urn:skip" xmlns:q="http://schemas.openxmlformats.org/markup-compatibility/2006" )"
+        R"(q:Ignorable="i">)"
         R"(<x:body><x:p i:id="7"><i:thing/><x:r><x:rPr><x:b/></x:rPr><x:t>text</x:t></x:r>)"
         R"(<w:r><w:t>of another kind</w:t></w:r></x:p></x:body></x:document>)";
     const auto document = OpenDocxBytes(test::Zip(parts));
@@ -71,14 +82,17 @@ TEST(Reader, NamesGoByNamespaceAndNotByPrefix) {
 
 TEST(Reader, AlternativesOfDrawingsStayAndOthersAreDecided) {
     const auto document = OpenBody(
-        R"(<w:p><w:r><mc:AlternateContent><mc:Choice Requires="wps"><w:drawing/></mc:Choice><mc:Fallback><w:pict/>)"
-        R"(</mc:Fallback></mc:AlternateContent></w:r><mc:AlternateContent><mc:Choice Requires="w14"><w:r><w:t>new)"
-        R"(</w:t></w:r></mc:Choice><mc:Fallback><w:r><w:t>old</w:t></w:r></mc:Fallback></mc:AlternateContent></w:p>)");
+        R"(<w:p><w:r><mc:AlternateContent><mc:Choice Requires="wps"><w:drawing/></mc:Choice>)"
+        R"(<mc:Fallback><w:pict/>)"
+        R"(</mc:Fallback></mc:AlternateContent></w:r><mc:AlternateContent><mc:Choice Requires="w14">)"
+        R"(<w:r><w:t>new)"
+        R"(</w:t></w:r></mc:Choice><mc:Fallback><w:r><w:t>old</w:t></w:r></mc:Fallback>)"
+        R"(</mc:AlternateContent></w:p>)");
     ASSERT_EQ(Text(document->body), "<1>old\n");
-    EXPECT_EQ(
-        std::get<RawInline>(First(*document).objects.at(0)).xml,
-        R"(<w:r><mc:AlternateContent><mc:Choice Requires="wps"><w:drawing/></mc:Choice><mc:Fallback><w:pict/>)"
-        R"(</mc:Fallback></mc:AlternateContent></w:r>)");
+    EXPECT_EQ(std::get<RawInline>(First(*document).objects.at(0)).xml,
+              R"(<w:r><mc:AlternateContent><mc:Choice Requires="wps"><w:drawing/></mc:Choice>)"
+              R"(<mc:Fallback><w:pict/>)"
+              R"(</mc:Fallback></mc:AlternateContent></w:r>)");
 }
 
 TEST(Reader, HyperlinksAndSimpleFieldsBecomeFields) {
@@ -96,18 +110,24 @@ TEST(Reader, HyperlinksAndSimpleFieldsBecomeFields) {
 
 TEST(Reader, FieldsThatNeverEndLeaveTheirText) {
     const auto document = OpenBody(
-        R"(<w:p><w:r><w:fldChar w:fldCharType="end"/><w:t>a</w:t><w:fldChar w:fldCharType="begin"/><w:instrText> X )"
-        R"(</w:instrText><w:t>b</w:t></w:r></w:p><w:p><w:r><w:fldChar w:fldCharType="separate"/><w:t>c</w:t></w:r></w:p>)");
+        R"(<w:p><w:r><w:fldChar w:fldCharType="end"/><w:t>a</w:t><w:fldChar w:fldCharType="begin"/>)"
+        R"(<w:instrText> X )"
+        R"(</w:instrText><w:t>b</w:t></w:r></w:p><w:p><w:r><w:fldChar w:fldCharType="separate"/><w:t>c)"
+        R"(</w:t></w:r></w:p>)");
     EXPECT_EQ(Text(document->body), "ab\nc\n");
     EXPECT_EQ(test::Faults(*document), "");
 }
 
 TEST(Reader, FormFieldsOfThePlainShape) {
     const std::string field =
-        R"(<w:bookmarkStart w:id="1" w:name="Text1"/><w:r><w:fldChar w:fldCharType="begin"><w:ffData><w:name )"
-        R"(w:val="Text1"/><w:enabled/><w:calcOnExit w:val="0"/><w:textInput>LIMIT</w:textInput></w:ffData></w:fldChar>)"
-        R"(</w:r><w:r><w:instrText> FORMTEXT </w:instrText></w:r><w:r><w:fldChar w:fldCharType="separate"/></w:r><w:r>)"
-        R"(<w:rPr><w:b/></w:rPr><w:t>John</w:t></w:r><w:r><w:fldChar w:fldCharType="end"/></w:r><w:bookmarkEnd )"
+        R"(<w:bookmarkStart w:id="1" w:name="Text1"/><w:r><w:fldChar w:fldCharType="begin">)"
+        R"(<w:ffData><w:name )"
+        R"(w:val="Text1"/><w:enabled/><w:calcOnExit w:val="0"/><w:textInput>LIMIT</w:textInput>)"
+        R"(</w:ffData></w:fldChar>)"
+        R"(</w:r><w:r><w:instrText> FORMTEXT </w:instrText></w:r><w:r>)"
+        R"(<w:fldChar w:fldCharType="separate"/></w:r><w:r>)"
+        R"(<w:rPr><w:b/></w:rPr><w:t>John</w:t></w:r><w:r><w:fldChar w:fldCharType="end"/></w:r>)"
+        R"(<w:bookmarkEnd )"
         R"(w:id="1"/>)";
     const auto with = [&](const std::string& limit) {
         std::string xml = field;
@@ -128,19 +148,23 @@ TEST(Reader, FormFieldsOfThePlainShape) {
 
 TEST(Reader, ThemesAreNamedOutright) {
     BareDocx docx;
-    docx.styles =
-        R"(<w:docDefaults><w:rPrDefault><w:rPr><w:rFonts w:asciiTheme="minorHAnsi" w:hAnsiTheme="minorHAnsi" )"
-        R"(w:eastAsiaTheme="minorEastAsia"/></w:rPr></w:rPrDefault></w:docDefaults><w:style w:type="paragraph" )"
-        R"(w:styleId="H1"><w:name w:val="heading 1"/><w:basedOn w:val="Missing"/><w:rPr><w:rFonts )"
-        R"(w:asciiTheme="majorHAnsi"/><w:color w:val="2F5496" w:themeColor="accent1" w:themeShade="BF"/></w:rPr>)"
-        R"(</w:style>)";
-    docx.body =
-        R"(<w:p><w:pPr><w:pStyle w:val="H1"/></w:pPr></w:p><w:p><w:pPr><w:pStyle w:val="None"/></w:pPr></w:p>)";
+    docx.styles = R"(<w:docDefaults><w:rPrDefault><w:rPr>)"
+                  R"(<w:rFonts w:asciiTheme="minorHAnsi" w:hAnsiTheme="minorHAnsi" )"
+                  R"(w:eastAsiaTheme="minorEastAsia"/></w:rPr></w:rPrDefault></w:docDefaults>)"
+                  R"(<w:style w:type="paragraph" )"
+                  R"(w:styleId="H1"><w:name w:val="heading 1"/><w:basedOn w:val="Missing"/><w:rPr><w:rFonts )"
+                  R"(w:asciiTheme="majorHAnsi"/>)"
+                  R"(<w:color w:val="2F5496" w:themeColor="accent1" w:themeShade="BF"/></w:rPr>)"
+                  R"(</w:style>)";
+    docx.body = R"(<w:p><w:pPr><w:pStyle w:val="H1"/></w:pPr></w:p><w:p><w:pPr><w:pStyle w:val="None"/>)"
+                R"(</w:pPr></w:p>)";
     docx.relationships = R"(<Relationship Id="rId9" Type="t/theme" Target="/word/theme/theme1.xml"/>)";
     docx.extraPartName = "word/theme/theme1.xml";
     docx.extraPart =
-        R"(<a:theme xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main"><a:themeElements><a:fontScheme>)"
-        R"(<a:majorFont><a:latin typeface="Calibri Light"/></a:majorFont><a:minorFont><a:latin typeface="Calibri"/>)"
+        R"(<a:theme xmlns:a="http://schemas.openxmlformats.org/drawingml/2006/main"><a:themeElements>)"
+        R"(<a:fontScheme>)"
+        R"(<a:majorFont><a:latin typeface="Calibri Light"/></a:majorFont><a:minorFont>)"
+        R"(<a:latin typeface="Calibri"/>)"
         R"(<a:ea typeface=""/></a:minorFont></a:fontScheme></a:themeElements></a:theme>)";
     const auto document = docx.Open();
     EXPECT_THAT(document->docDefaults, HasSubstr(R"(<w:rFonts w:ascii="Calibri" w:hAnsi="Calibri"/>)"));
@@ -155,10 +179,13 @@ TEST(Reader, ThemesAreNamedOutright) {
 TEST(Reader, ListsGetTheModelsNumbers) {
     BareDocx docx;
     docx.numbering =
-        R"(<w:abstractNum w:abstractNumId="7"><w:nsid w:val="00000001"/><w:lvl w:ilvl="0"><w:start w:val="1"/>)"
+        R"(<w:abstractNum w:abstractNumId="7"><w:nsid w:val="00000001"/><w:lvl w:ilvl="0">)"
+        R"(<w:start w:val="1"/>)"
         R"(<w:pStyle w:val="A"/><w:numFmt w:val="decimal"/><w:lvlText w:val="%1."/></w:lvl></w:abstractNum>)"
-        R"(<w:num w:numId="31"><w:abstractNumId w:val="7"/></w:num><w:num w:numId="32"><w:abstractNumId w:val="7"/>)"
-        R"(<w:lvlOverride w:ilvl="0"><w:startOverride w:val="1"/></w:lvlOverride></w:num><w:num w:numId="33">)"
+        R"(<w:num w:numId="31"><w:abstractNumId w:val="7"/></w:num><w:num w:numId="32">)"
+        R"(<w:abstractNumId w:val="7"/>)"
+        R"(<w:lvlOverride w:ilvl="0"><w:startOverride w:val="1"/></w:lvlOverride></w:num>)"
+        R"(<w:num w:numId="33">)"
         R"(<w:abstractNumId w:val="99"/></w:num>)";
     docx.body = R"(<w:p><w:pPr><w:numPr><w:ilvl w:val="2"/><w:numId w:val="32"/></w:numPr></w:pPr></w:p>)"
                 R"(<w:p><w:pPr><w:numPr><w:numId w:val="33"/></w:numPr></w:pPr></w:p>)";
@@ -177,9 +204,11 @@ TEST(Reader, TablesAreMadeWhole) {
     BareDocx docx;
     docx.settings = R"(<w:compat><w:compatSetting w:name="compatibilityMode" w:val="14"/></w:compat>)";
     docx.body =
-        R"(<w:tbl><w:tblPr><w:tblInd w:w="50" w:type="dxa"/></w:tblPr><w:tblGrid><w:gridCol w:w="900"/></w:tblGrid>)"
+        R"(<w:tbl><w:tblPr><w:tblInd w:w="50" w:type="dxa"/></w:tblPr><w:tblGrid>)"
+        R"(<w:gridCol w:w="900"/></w:tblGrid>)"
         R"(<w:tr/><w:tr><w:tc><w:tcPr><w:gridSpan w:val="2"/></w:tcPr></w:tc><w:tc><w:tcPr><w:hMerge )"
-        R"(w:val="restart"/></w:tcPr><w:p/></w:tc><w:tc><w:tcPr><w:hMerge/></w:tcPr><w:p/></w:tc></w:tr></w:tbl>)";
+        R"(w:val="restart"/></w:tcPr><w:p/></w:tc><w:tc><w:tcPr><w:hMerge/></w:tcPr><w:p/></w:tc>)"
+        R"(</w:tr></w:tbl>)";
     const auto document = docx.Open();
     const auto& table = *std::get<std::unique_ptr<Table>>(document->body.front());
     EXPECT_EQ(table.grid.size(), 4u);
@@ -192,9 +221,12 @@ TEST(Reader, TablesAreMadeWhole) {
 
 TEST(Reader, UnitsAndOldWaysOfSayingThings) {
     const auto document = OpenBody(
-        R"(<w:p><w:pPr><w:spacing w:before="1in" w:after="7" w:afterAutospacing="1" w:line="12pt" w:lineRule="exact"/>)"
-        R"(<w:ind w:start="720" w:hanging="360"/><w:jc w:val="end"/><w:cnfStyle w:val="1"/><w:keepNext/></w:pPr></w:p>)"
-        R"(<w:sectPr><w:pgSz w:w="8.5in" w:h="99999"/><w:pgMar w:top="-720" w:left="x"/><w:cols w:num="2" w:sep="1"/>)"
+        R"(<w:p><w:pPr><w:spacing w:before="1in" w:after="7" w:afterAutospacing="1" w:line="12pt" )"
+        R"(w:lineRule="exact"/>)"
+        R"(<w:ind w:start="720" w:hanging="360"/><w:jc w:val="end"/><w:cnfStyle w:val="1"/><w:keepNext/>)"
+        R"(</w:pPr></w:p>)"
+        R"(<w:sectPr><w:pgSz w:w="8.5in" w:h="99999"/><w:pgMar w:top="-720" w:left="x"/>)"
+        R"(<w:cols w:num="2" w:sep="1"/>)"
         R"(<w:formProt w:val="off"/></w:sectPr>)");
     const ParaFormat& format = FirstFormat(*document);
     EXPECT_EQ(format.spaceBefore, 1440);
@@ -215,9 +247,10 @@ TEST(Reader, UnitsAndOldWaysOfSayingThings) {
 
 TEST(Reader, PartsThatKeptXmlLeadsToComeAlong) {
     BareDocx docx;
-    docx.body =
-        R"(<w:p><w:r><w:pict><v:shape><v:imagedata r:id="rId9"/></v:shape></w:pict></w:r><w:r><w:pict><v:shape>)"
-        R"(<v:imagedata r:id="rIdNone"/></v:shape></w:pict></w:r><w:r><w:pict><v:rect/></w:pict></w:r></w:p>)";
+    docx.body = R"(<w:p><w:r><w:pict><v:shape><v:imagedata r:id="rId9"/></v:shape></w:pict></w:r><w:r>)"
+                R"(<w:pict><v:shape>)"
+                R"(<v:imagedata r:id="rIdNone"/></v:shape></w:pict></w:r><w:r><w:pict><v:rect/>)"
+                R"(</w:pict></w:r></w:p>)";
     docx.relationships = R"(<Relationship Id="rId9" Type="t/image" Target="media/logo.png"/>)";
     docx.extraPartName = "word/media/logo.png";
     docx.extraPart = test::PngBytes(3, 3);

@@ -53,8 +53,10 @@ void Finder::SearchPlain(const Stretch& stretch) {
         const std::size_t from = k == stretch.firstStop ? stretch.from : 0;
         const std::size_t until = k == stretch.lastStop ? std::min(stretch.until, text.size()) : text.size();
         if (request_.replace != ReplaceNone) {
+            // What is put into the text may divide the paragraph.
+            if (request_.replace == ReplaceAll) ReplaceInFields(stop, from, until);
             ReplacePlain(stop, from, until);
-            if (!IsDone()) ReplaceInFields(stop, from, until);
+            if (!IsDone() && request_.replace == ReplaceOne) ReplaceInFields(stop, from, until);
         } else if (const auto match = FindPlain(text, from, until, pattern_)) {
             Note(stop, match->begin, stop, match->end);
         } else {
@@ -95,7 +97,6 @@ std::string Finder::FieldResultFor(std::string_view found) const {
 }
 
 void Finder::ReplaceInFields(const Stop& stop, std::size_t from, std::size_t until) {
-    until += stop.paragraph().text.size();  // what was put in may have moved the last ones
     ForTextFields(stop.paragraph(), from, until, [&](FormFieldData& field, std::size_t at) {
         std::string replaced;
         std::size_t done = 0;

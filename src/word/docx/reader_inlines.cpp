@@ -11,7 +11,9 @@ namespace quillmark::word::docx {
 namespace {
 
 // clang-format off
-constexpr std::string_view kTransparent[] = {"w:customXml", "w:smartTag", "w:ins", "w:moveTo", "w:dir", "w:bdo"};
+constexpr std::string_view kTransparent[] = {
+    "w:customXml", "w:smartTag", "w:ins", "w:moveTo", "w:dir", "w:bdo",
+};
 /// Children of a run that the engine does not edit. The hyphens among them are no letters: a font may lack
 /// the characters of these meanings.
 constexpr std::string_view kRawChildren[] = {

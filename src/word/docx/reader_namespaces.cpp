@@ -63,25 +63,21 @@ bool IsLocalName(std::string_view name) {
 }
 
 std::string_view UsualPrefix(std::string_view uri) {
-    constexpr std::size_t kSkip = std::string_view("xmlns:").size();
     for (const NamespaceName& name : kNamespaces) {
-        if (name.uri == uri) return name.declaration.substr(kSkip);
+        if (name.uri == uri) return name.declaration.substr(kDeclaration.size() + 1);
     }
     const auto* strict = std::ranges::find(kStrictNames, uri, &StrictName::uri);
     return strict == kStrictNames.end() ? std::string_view() : strict->prefix;
 }
 
-/// Of what may be skipped, only drawings and the like are worth keeping.
+/// Of what a file lets its readers skip, only drawings and the like are worth keeping.
 bool IsUnderstood(std::string_view prefix) {
     return IsUsualPrefix(prefix) && prefix != "w14" && prefix != "wp14" && prefix != "w15";
 }
 
 std::string_view UriOfUsual(std::string_view prefix) {
     for (const NamespaceName& name : kNamespaces) {
-        if (name.declaration.ends_with(prefix) && PrefixOf(name.declaration) == kDeclaration &&
-            name.declaration.size() == kDeclaration.size() + 1 + prefix.size()) {
-            return name.uri;
-        }
+        if (name.declaration.substr(kDeclaration.size() + 1) == prefix) return name.uri;
     }
     return {};
 }

@@ -29,7 +29,6 @@ class StoryReader {
     Blocks ReadContainer(pugi::xml_node container);
     void ReadBlocks(pugi::xml_node parent, Blocks& blocks);
     void ReadParagraph(pugi::xml_node node, Blocks& blocks);
-    void FinishParagraph(Blocks& blocks);
     std::unique_ptr<Table> ReadTable(pugi::xml_node node);
     void ReadRows(pugi::xml_node parent, Table& table);
     void ReadCells(pugi::xml_node parent, TableRow& row);
