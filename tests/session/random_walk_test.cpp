@@ -386,7 +386,7 @@ TEST_P(RandomWalk, LeavesTheScreenInOrder) {
     for (step_ = 0; step_ < kSteps && !HasFailure(); ++step_) TakeAny();
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, RandomWalk, ::testing::Range(1u, 501u));
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomWalk, ::testing::Range(1u, 31u));
 
 }  // namespace
 }  // namespace quillmark
