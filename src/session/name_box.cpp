@@ -54,8 +54,7 @@ void MainScreen::TypeName(std::string_view text) {
     // The focus has selected an earlier name, which the first key replaces; an incomplete one is completed.
     std::string typed = box.text.ends_with(" - ") ? box.text : std::string();
     for (const char key : text) {
-        if (kIllegalNameCharacters.find(key) != std::string_view::npos || key == '\r' || key == '\n')
-            continue;
+        if (HoldsIllegalNameCharacter({&key, 1})) continue;
         typed += key;
         box.text = typed;
         NameChanged();

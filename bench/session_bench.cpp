@@ -1,0 +1,100 @@
+// The main screen's budgets: start to the name box with 10,000 jobs in the folder, RefreshFields of a full
+// job list, one commit in the grid with every rule.
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "selection/document_catalogue.h"
+#include "selection/relevant_fields.h"
+#include "session/main_screen.h"
+#include "word/start.h"
+
+namespace quillmark {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kJobs = 10'000;
+
+class NoShell final : public Shell {
+ public:
+    fs::path FolderOf(SpecialFolder) override { return fs::temp_directory_path(); }
+    void Open(const std::string&) override {}
+    void Start(const fs::path&, const std::vector<std::string>&) override {}
+};
+
+/// An office with many jobs, gone with the object.
+class BusyOffice {
+ public:
+    BusyOffice() {
+        fs::remove_all(folder);
+        fs::create_directories(folder / "data");
+        for (int i = 0; i < kJobs; ++i)
+            std::ofstream(folder / "data" / ("Job " + std::to_string(i) + ".dat"))
+                << "\"021\",\"Anna Abbott\"\r\n";
+    }
+    ~BusyOffice() { fs::remove_all(folder); }
+
+    Machine NewMachine() {
+        return {clock,
+                dialogs,
+                shell,
+                nullptr,
+                [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
+                {},
+                {}};
+    }
+
+    const fs::path folder = fs::temp_directory_path() / "quillmark-session-bench";
+    FixedClock clock{std::chrono::year(2026) / 3 / 9};
+    ScriptedDialogs dialogs;
+    NoShell shell;
+};
+
+BusyOffice& Office() {
+    static BusyOffice office;
+    return office;
+}
+
+void StartToNameBox(benchmark::State& state) {
+    for (auto _ : state) {
+        MainScreen screen(Office().folder, Office().NewMachine());
+        benchmark::DoNotOptimize(screen.Start());
+    }
+}
+BENCHMARK(StartToNameBox)->Unit(benchmark::kMillisecond);
+
+void RefreshFieldsOfFullJobList(benchmark::State& state) {
+    MainScreen screen(Office().folder, Office().NewMachine());
+    screen.Start();
+    SelectionState full = screen.State();
+    for (const std::string_view name : DocumentCatalogue()) full.List2.push_back({std::string(name), false});
+    Settings settings;
+    Folders folders;
+    FirmDefaults defaults;
+    const quillmark::Office office{settings, folders, defaults, Office().clock, Office().dialogs};
+    for (auto _ : state) RefreshFields(full, office);
+    state.counters["rows"] = static_cast<double>(full.grid.size());
+}
+BENCHMARK(RefreshFieldsOfFullJobList)->Unit(benchmark::kMicrosecond);
+
+void CommitInFullGrid(benchmark::State& state) {
+    MainScreen screen(Office().folder, Office().NewMachine());
+    screen.Start();
+    screen.TypeName("Abbott");
+    screen.EnterName();
+    for (const std::string_view name : DocumentCatalogue()) screen.PickDocument(name);
+    bool first = false;
+    for (auto _ : state) {
+        first = !first;
+        screen.EnterField(72, first ? "Guilford, CT 06437" : "Hamden, CT 06517", EntryWay::Type);
+    }
+}
+BENCHMARK(CommitInFullGrid)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace quillmark
+
+BENCHMARK_MAIN();
