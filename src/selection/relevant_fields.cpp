@@ -181,6 +181,15 @@ void StartWithFirstChoices(SelectionState& screen, const Office& office) {
     }
 }
 
+/// The choice that took documents off the list must be there to bring them back.
+void KeepWaysBack(SelectionState& screen) {
+    const auto enable = [&](std::initializer_list<int> options) {
+        for (const int n : options) screen.options[static_cast<std::size_t>(n)].enabled = true;
+    };
+    if (!screen.ParkedDocuments[0].empty()) enable({Person, Entity, Condo, Commercial});
+    if (!screen.ParkedDocuments[1].empty()) enable({OnePayoff, TwoPayoffs});
+}
+
 void ApplyExclusions(SelectionState& screen) {
     const Job& job = screen.job;
     const auto exclude = [&](int option, std::initializer_list<int> others) {
@@ -275,6 +284,7 @@ void RefreshFields(SelectionState& screen, const Office& office, bool headingsOn
         if (screen.ScreenMode == screen_mode::kJob) StartAnew(screen);
         ApplyJobList(screen, office);
         StartWithFirstChoices(screen, office);
+        KeepWaysBack(screen);
         ApplyExclusions(screen);
         if (screen.ScreenMode == screen_mode::kPresets) screen.userMarkers = AllUserMarkers(office);
         RebuildRows(screen);

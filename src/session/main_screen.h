@@ -124,6 +124,7 @@ class MainScreen {
     // Start-up (start_up.cpp).
     bool Upkeep();
     void ReadOffice();
+    Settings ReachableSettings() const;
     bool DataIsNewer();
     void UseFolders(std::string_view client);
     void FillList1();
@@ -199,6 +200,7 @@ class MainScreen {
     std::string client_;
     std::string knownFile_;  ///< the job's file as this session last read or wrote it
     bool choosingClient_ = false;
+    bool dataPathLost_ = false;
     std::unique_ptr<CreateRun> run_;
     std::filesystem::path createTo_;
     std::filesystem::path createTrace_;

@@ -52,7 +52,8 @@ void MainScreen::TypeName(std::string_view text) {
     Require(!box.locked, "the name box is locked");
     FocusName();
     // The focus has selected an earlier name, which the first key replaces; an incomplete one is completed.
-    std::string typed = box.text.ends_with(" - ") ? box.text : std::string();
+    const bool completes = box.text.ends_with(" - ") && !text.starts_with(box.text);
+    std::string typed = completes ? box.text : std::string();
     for (const char key : text) {
         if (HoldsIllegalNameCharacter({&key, 1})) continue;
         typed += key;
@@ -93,12 +94,15 @@ void MainScreen::OfferUpgrade() {
                                                  {DialogButton::OK, DialogButton::Cancel},
                                                  DialogButton::OK,
                                                  DialogIcon::Question}) == DialogButton::OK;
-    if (!upgrades) {
-        screen_.txtJobName.text.clear();
-        return NameChanged();
+    screen_.txtJobName.text.clear();
+    NameChanged();
+    if (!upgrades) return;
+    try {
+        StartUpgrade(programFolder_, machine_.shell);
+        ended_ = true;
+    } catch (const MachineError& failure) {
+        machine_.dialogs.Tell("  UPGRADE SCRIPT", failure.what(), DialogIcon::Warning);
     }
-    StartUpgrade(programFolder_, machine_.shell);
-    ended_ = true;
 }
 
 void MainScreen::EnterName() {

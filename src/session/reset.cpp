@@ -28,7 +28,7 @@ void ResetButtons(SelectionState& screen, bool paraPro) {
     screen.cmdNameAs = {"Rename", "", true, false};
     screen.cmdEnvelopes = {"envelopes", "", false, true};
     screen.cmdOP236 = {"OP-236", "", false, true};
-    screen.cmdPrintFList = {"PRINT Field List", " print list of relevant fields ", true, false};
+    screen.cmdPrintFList = {"  PRINT Field List", " print list of relevant fields ", true, false};
     screen.cmdSelect = {"Re-Select", "", true, paraPro};
 }
 

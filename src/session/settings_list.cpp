@@ -144,6 +144,7 @@ void MainScreen::EditPath(SettingsRow& row) {
     }
     if (!path.ends_with('\\')) path += '\\';
     settings_.databasePath = path;
+    dataPathLost_ = false;
     folders_ = FoldersOf(programFolder_, settings_, client_);
     row.text = std::string(kPathLabel) + path;
     screen_.cmdOpen = {"SAVE", " save settings ", true, true};

@@ -84,20 +84,27 @@ void MainScreen::ReadOffice() {
                                   "\nSwitching to local data folder.  \nPlease correct 'Path' setting in "
                                   "defaults.",
                               DialogIcon::Warning);
-        settings_.databasePath = kLocalData;
+        dataPathLost_ = true;  // the setting itself stays until it is changed
     }
     ReadClients();
 }
 
+/// With the data folder out of reach, the local one serves.
+Settings MainScreen::ReachableSettings() const {
+    Settings reachable = settings_;
+    if (dataPathLost_) reachable.databasePath = kLocalData;
+    return reachable;
+}
+
 bool MainScreen::DataIsNewer() {
-    const fs::path marker = PathOfStored(settings_.databasePath, programFolder_) / "vers.txt";
+    const fs::path marker = PathOfStored(ReachableSettings().databasePath, programFolder_) / "vers.txt";
     return fs::exists(machine_.programFile) && fs::exists(marker) &&
            fs::last_write_time(marker) > fs::last_write_time(machine_.programFile);
 }
 
 void MainScreen::UseFolders(std::string_view client) {
     client_ = client;
-    folders_ = FoldersOf(programFolder_, settings_, client);
+    folders_ = FoldersOf(programFolder_, ReachableSettings(), client);
     fs::create_directories(folders_.ImagesFolder);
     firmDefaults_ = ReadFirmDefaults(folders_.firmDefaultsFile);
 }

@@ -145,6 +145,14 @@ TEST_F(RelevantFields, CondominiumChargesAreRequiredForACondominiumOnly) {
     EXPECT_FALSE(screen.options[LandMultiFamily].enabled);
 }
 
+TEST_F(RelevantFields, ParkedDocumentsKeepTheirWayBack) {
+    screen.ParkedDocuments[1] = {"Mortgage Payoff Notification"};
+    List({"Deed / Warranty"});
+    EXPECT_TRUE(screen.options[OnePayoff].enabled);
+    EXPECT_TRUE(screen.options[TwoPayoffs].enabled);
+    EXPECT_FALSE(screen.options[Commercial].enabled);
+}
+
 TEST_F(RelevantFields, CustomDocumentsBringTheirMarkers) {
     ReplaceFile(scratch / "Lot letter.inf",
                 "\"[property address 1]\",70,0\r\n\"[LOT FEE]\",0,0\r\n\"[curr month]\",1,1\r\n");

@@ -207,9 +207,16 @@ TEST_F(SettingsTest, ADataPathThatIsNotThereFallsBackToTheLocalFolder) {
                "\"z:\\\\office\\\\data\\\\\"\r\n\"n\"\r\n\"n\"\r\n\"n\"\r\n\"n\"\r\n");
     Start();
     EXPECT_NE(std::string::npos, LastBox().find("UNABLE TO CONNECT TO DATABASE @ ..."));
-    EXPECT_EQ("data\\", screen->OfficeSettings().databasePath);
+    EXPECT_EQ(scratch.path() / "data", screen->OfficeFolders().JobFolder);
     EXPECT_FALSE(screen->OfficeSettings().documentAlerts);
     EXPECT_TRUE(screen->OfficeSettings().leapYears);
+    screen->TypeName("DEFAULTS");
+    screen->EnterName();
+    Answer({"Y"});
+    screen->EditSetting(13);
+    screen->Click("cmdOpen");
+    EXPECT_NE(std::string::npos, ReadBytes(scratch / "DBasePath.txt").find("office"))
+        << "the path itself stays until it is changed";
 }
 
 TEST_F(SettingsTest, EachParaProClientHasItsOwnFolder) {

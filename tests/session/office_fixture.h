@@ -36,7 +36,9 @@ class QuietShell final : public Shell {
 /// An office in a folder of its own, its program folder being the scratch folder, on March 9, 2026.
 class OfficeTest : public ::testing::Test {
  protected:
-    OfficeTest() { WriteBytes(scratch / "defaults.fld", FirmDefaultRecord("[seller atty]", "Nora Hale/412345")); }
+    OfficeTest() {
+        WriteBytes(scratch / "defaults.fld", FirmDefaultRecord("[seller atty]", "Nora Hale/412345"));
+    }
 
     static std::string FirmDefaultRecord(std::string_view marker, std::string_view value) {
         return "\"" + FirmDefaultRow(marker, value) + "\"\r\n";
@@ -46,9 +48,13 @@ class OfficeTest : public ::testing::Test {
     MainScreen& Start(ScriptedDialogs::Answers answers = {}) {
         dialogs.SetAnswers(std::move(answers));
         screen = std::make_unique<MainScreen>(
-            scratch.path(), Machine{clock, dialogs, shell, http, [] {
-                                        return word::StartWordProcessor(word::WordProcessor::Embedded);
-                                    }});
+            scratch.path(), Machine{clock,
+                                    dialogs,
+                                    shell,
+                                    http,
+                                    [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
+                                    {},
+                                    {}});
         screen->Start();
         return *screen;
     }
