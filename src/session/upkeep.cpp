@@ -12,7 +12,6 @@ namespace {
 
 constexpr std::string_view kUpgradeAddress = "https://www.quillmark.example/quillmark/version/current.txt";
 constexpr std::chrono::milliseconds kUpgradeLimit{1000};
-constexpr std::string_view kRightsTitle = " Elevated Privileges Required";
 
 bool Renames(const fs::path& from, const fs::path& to) {
     std::error_code failed;
@@ -26,6 +25,13 @@ bool MayChange(const fs::path& programFolder) {
     const fs::path renamed = programFolder / "st6unst.log";
     if (!fs::exists(present)) return true;
     return Renames(present, renamed) && Renames(renamed, present);
+}
+
+void TellOfRights(const std::string& why, Dialogs& dialogs) {
+    dialogs.Tell(
+        " Elevated Privileges Required",
+        why + ". Please RE-START by RIGHT-Clicking the shortcut and choosing \"Run As Administrator\"",
+        DialogIcon::Warning);
 }
 
 std::optional<std::chrono::year_month_day> ReleaseDate(HttpClient& http) {
@@ -64,11 +70,8 @@ bool RunPatch(const fs::path& programFolder, Shell& shell, Dialogs& dialogs) {
         return false;
     }
     if (!MayChange(programFolder)) {
-        dialogs.Tell(
-            std::string(kRightsTitle),
-            "The Upgrade Patch performs file operations that require Administrator privileges. Please "
-            "RE-START by RIGHT-Clicking the shortcut and choosing \"Run As Administrator\"",
-            DialogIcon::Warning);
+        TellOfRights("The Upgrade Patch performs file operations that require Administrator privileges",
+                     dialogs);
         return true;
     }
     fs::create_directory(started);
@@ -84,11 +87,8 @@ bool OffersUpgrade(const fs::path& programFolder, std::chrono::year_month_day pr
                          "A newer version of Quillmark is available.\nWould you like to upgrade now ???"))
         return false;
     if (!MayChange(programFolder)) {
-        dialogs.Tell(
-            std::string(kRightsTitle),
-            "The Upgrade Patch performs file operations that require Administrator privileges. Please "
-            "RE-START by RIGHT-Clicking the shortcut and choosing \"Run As Administrator\"",
-            DialogIcon::Warning);
+        TellOfRights("The Upgrade Patch performs file operations that require Administrator privileges",
+                     dialogs);
         return true;
     }
     StartUpgrade(programFolder, shell);
@@ -108,11 +108,7 @@ bool RestoresStrandedFiles(const fs::path& programFolder, const fs::path& storeF
         fs::rename(arriving, own);
         fs::remove_all(stored);
     } catch (const fs::filesystem_error&) {
-        dialogs.Tell(
-            std::string(kRightsTitle),
-            "Administrator privileges are required to complete the Restore operation. Please RE-START by "
-            "RIGHT-Clicking the shortcut and choosing \"Run As Administrator\"",
-            DialogIcon::Warning);
+        TellOfRights("Administrator privileges are required to complete the Restore operation", dialogs);
         return true;
     }
     dialogs.Tell("", "Restore Completed ...\nrestart normally", DialogIcon::Information);

@@ -21,7 +21,8 @@ class FormMerge : public testing::Test, protected EngineSession {
         BareDocx form;
         form.body =
             R"(<w:p><w:r><w:t>Rider of [SELLER</w:t></w:r><w:r><w:rPr><w:b/></w:rPr>)"
-            R"(<w:t xml:space="preserve"> 1 name]</w:t></w:r><w:r><w:t>: [note]</w:t></w:r></w:p><w:p><w:pPr><w:sectPr/></w:pPr></w:p>)"
+            R"(<w:t xml:space="preserve"> 1 name]</w:t></w:r><w:r><w:t>: [note]</w:t></w:r></w:p>)"
+            R"(<w:p><w:pPr><w:sectPr/></w:pPr></w:p>)"
             R"(<w:p><w:r><w:t>signed</w:t></w:r></w:p><w:sectPr><w:footerReference w:type="default" )"
             R"(r:id="rId9"/><w:pgMar w:left="2000"/></w:sectPr>)";
         form.settings = "<w:defaultTabStop w:val=\"500\"/>";
