@@ -119,7 +119,8 @@ struct FormFieldData {
     std::string result = {};  ///< text fields; empty shows five en spaces
 };
 
-/// Inline XML taken over from an opened file; relationship ids in it name `Document::relations`.
+/// Paragraph-level XML (a complete w:r or m:oMath) taken over from an opened file; relationship ids in it
+/// name `Document::relations`.
 struct RawInline {
     std::string xml;
 };
