@@ -1,0 +1,44 @@
+#include "session/window_placement.h"
+
+#include "platform/atomic_file.h"
+#include "platform/paths.h"
+#include "platform/record_file.h"
+
+namespace quillmark {
+
+namespace {
+
+constexpr std::size_t kLimit = 4096;
+constexpr std::size_t kPlaced = 4;
+
+std::filesystem::path PlacementFile(const std::filesystem::path& programFolder) {
+    return programFolder / "mdispec.ini";
+}
+
+}  // namespace
+
+std::optional<WindowPlacement> ReadWindowPlacement(const std::filesystem::path& programFolder) {
+    const auto file = PlacementFile(programFolder);
+    if (!std::filesystem::exists(file)) return std::nullopt;
+    try {
+        const std::string bytes = ReadFile(file, kLimit);
+        RecordReader record(TextOf(file), bytes);
+        if (!record.Next() || record.Items() < kPlaced) return std::nullopt;
+        WindowPlacement placement{record.Number(0), record.Number(1), record.Number(2), record.Number(3)};
+        if (record.Items() > 4) placement.scale = record.Number(4);
+        if (record.Items() > 5) placement.slider = record.Number(5);
+        return placement;
+    } catch (const RecordError&) {
+        // A window finds its place without it.
+        return std::nullopt;
+    }
+}
+
+void WriteWindowPlacement(const std::filesystem::path& programFolder, const WindowPlacement& placement) {
+    RecordWriter record;
+    record.Write({placement.height, placement.left, placement.top, placement.width, placement.scale,
+                  placement.slider});
+    ReplaceFile(PlacementFile(programFolder), record.Bytes());
+}
+
+}  // namespace quillmark
