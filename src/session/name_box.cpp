@@ -74,7 +74,9 @@ void MainScreen::NameChanged() {
     if (IsOneOf(name, "BACKUP")) {
         screen_.txtJobName.text.clear();
         ResetSession();
-        throw NotAllowed("the backup tool is a screen of its own");
+        machine_.dialogs.Tell("  BACKUP", "The backup tool is not part of this version.",
+                              DialogIcon::Information);
+        return;
     }
     if (screen_.ScreenMode == screen_mode::kPresets) {
         screen_.cmdOpen.enabled = !name.empty() && !name.starts_with('{');
