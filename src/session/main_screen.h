@@ -19,6 +19,7 @@
 #include "selection/office.h"
 #include "selection/option_clicks.h"
 #include "selection/selection_state.h"
+#include "tools/browser/file_browser.h"
 
 /// The main screen without a toolkit: a window shows its state and passes keys and clicks to it; it decides
 /// everything. It owns exactly one job.
@@ -45,7 +46,7 @@ struct Machine {
 };
 
 /// The first entry of the template browser: a template that is yet to be made.
-inline constexpr std::string_view kNewTemplateEntry = "* NEW CLIENT-INFO TEMPLATE *";
+inline constexpr std::string_view kNewTemplateEntry = FileBrowser::kNewTemplate;
 
 /// A row of `List3`, the settings list that replaces the grid while the firm's defaults are being set.
 struct SettingsRow {
