@@ -38,13 +38,9 @@ class BusyOffice {
     ~BusyOffice() { fs::remove_all(folder); }
 
     Machine NewMachine() {
-        return {clock,
-                dialogs,
-                shell,
-                nullptr,
-                [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
-                {},
-                {}};
+        return {.clock = clock, .dialogs = dialogs, .shell = shell, .startWord = [] {
+                    return word::StartWordProcessor(word::WordProcessor::Embedded);
+                }};
     }
 
     const fs::path folder = fs::temp_directory_path() / "quillmark-session-bench";

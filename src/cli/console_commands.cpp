@@ -149,10 +149,6 @@ Json State(ConsoleSession& session, const Request&) {
     return StateOf(session.screen());
 }
 
-Json NotInThisVersion(ConsoleSession&, const Request& request) {
-    throw BadRequest(request.Do() + " is not part of this version");
-}
-
 constexpr bool kOptional = false;
 constexpr bool kWhileBrowsing = true;
 using enum ArgumentKind;
@@ -179,16 +175,17 @@ const std::vector<Command>& Table() {
         {"spawn",          {{"name", Text}},                                         SpawnJob,     kWhileBrowsing},
         {"delete",         {{"name", Text}},                                         DeleteEntry,  kWhileBrowsing},
         {"value",          {{"n", Number}},                                          ValueOf,      kWhileBrowsing},
-        {"statement",      {{"mode", Text}},                                         NotInThisVersion},
+        {"statement",      {{"mode", Text, kOptional}},                              FiguresOfStatement},
         {"setting",        {{"row", Text}},                                          EditSetting},
         {"client",         {{"name", Text}},                                         SelectClient},
         {"client-delete",  {{"name", Text}},                                         DeleteClient},
         {"package-save",   {{"name", Text}, {"documents", Texts}, {"renames", Text, kOptional}},
                                                                                      SavePackageAs},
         {"package-delete", {{"name", Text}},                                         DeletePackageOf},
-        {"address-add",    {{"book", Text}, {"items", Texts}},                       NotInThisVersion},
-        {"address-remove", {{"book", Text}, {"record", Text}},                       NotInThisVersion},
-        {"calculator",     {},                                                       NotInThisVersion},
+        {"address-add",    {{"book", Text}, {"items", Texts}},                       AddAddress,   kWhileBrowsing},
+        {"address-remove", {{"book", Text}, {"record", Text}},                       RemoveAddress, kWhileBrowsing},
+        {"calculator",     {{"gross", Amount, kOptional}, {"from", Text, kOptional}, {"to", Text, kOptional},
+                            {"date", Text, kOptional}, {"hand", Text, kOptional}},   UseCalculator},
         {"create",         {{"to", Path, kOptional}, {"trace", Path, kOptional}},    Create},
         {"state",          {},                                                       State,        kWhileBrowsing},
     };
@@ -207,7 +204,7 @@ Json RunCommand(ConsoleSession& session, const Request& request) {
     const auto command = std::find_if(commands.begin(), commands.end(),
                                       [&](const Command& c) { return c.name == request.Do(); });
     if (command == commands.end()) throw BadRequest("there is no command \"" + request.Do() + "\"");
-    if (command->run != NotInThisVersion) request.Check(command->arguments);
+    request.Check(command->arguments);
     if (session.browser() && !command->whileBrowsing)
         throw NotAllowed("the browser is open: load, spawn or delete an entry, or browse to close it");
     return command->run(session, request);

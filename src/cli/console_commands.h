@@ -35,4 +35,12 @@ Json DeleteEntry(ConsoleSession& session, const Request& request);
 Json SavePackageAs(ConsoleSession& session, const Request& request);
 Json DeletePackageOf(ConsoleSession& session, const Request& request);
 
+// The commands of the address editor and of the proration calculator (console_companions.cpp).
+Json AddAddress(ConsoleSession& session, const Request& request);
+Json RemoveAddress(ConsoleSession& session, const Request& request);
+Json UseCalculator(ConsoleSession& session, const Request& request);
+
+// The closing statement's figures (console_statement.cpp).
+Json FiguresOfStatement(ConsoleSession& session, const Request& request);
+
 }  // namespace quillmark::cli

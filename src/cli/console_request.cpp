@@ -42,9 +42,9 @@ void CheckKind(const Json& value, const Argument& argument) {
     } else if (argument.kind == ArgumentKind::Texts) {
         if (!value.is_array()) throw BadRequest(fmt::format("{} is not a list of texts", argument.name));
         for (const Json& item : value) CheckKind(item, {argument.name, ArgumentKind::Text});
-    } else {
+    } else if (argument.kind != ArgumentKind::Amount || !value.is_number()) {
         if (!value.is_string()) throw BadRequest(fmt::format("{} is not a text", argument.name));
-        if (argument.kind == ArgumentKind::Text) CheckText(value.get<std::string>(), argument.name);
+        if (argument.kind != ArgumentKind::Path) CheckText(value.get<std::string>(), argument.name);
     }
 }
 
@@ -97,7 +97,9 @@ bool Request::Has(std::string_view name) const {
 }
 
 std::string Request::Text(std::string_view name) const {
-    return Has(name) ? line_.at(std::string(name)).get<std::string>() : std::string();
+    if (!Has(name)) return {};
+    const Json& value = line_.at(std::string(name));
+    return value.is_number() ? value.dump() : value.get<std::string>();
 }
 
 int Request::Number(std::string_view name) const {

@@ -26,6 +26,7 @@ enum class ArgumentKind {
     Text,    ///< what a user types or picks: nothing that data files cannot hold
     Path,    ///< a file or folder of this computer: any text
     Number,  ///< a whole number
+    Amount,  ///< a text as for Text, or a number
     Texts,   ///< a list of texts
 };
 
@@ -50,7 +51,7 @@ class Request {
 
     /// Of arguments that have been checked.
     bool Has(std::string_view name) const;
-    std::string Text(std::string_view name) const;  ///< empty if it was not given
+    std::string Text(std::string_view name) const;  ///< empty if it was not given; a number as it is written
     int Number(std::string_view name) const;
     std::vector<std::string> Texts(std::string_view name) const;
 

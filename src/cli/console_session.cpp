@@ -11,6 +11,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// Longer than any use of the address books takes, and no longer than a program that waits for a reply
+/// should.
+constexpr std::chrono::seconds kPatience{10};
+
 std::unique_ptr<Clock> ClockFor(const ConsoleOrder& order) {
     if (order.today) return std::make_unique<FixedClock>(*order.today);
     return std::make_unique<SystemClock>();
@@ -30,8 +34,14 @@ void ConsoleShell::Start(const fs::path& program, const std::vector<std::string>
     system_.Start(program, arguments);
 }
 
+void ConsolePrinter::Print(const PrintJob& job) {
+    err_ << "quillmark-cli: print " << job.name << '\n';
+    for (const std::string& line : job.lines) err_ << line << '\n';
+    err_ << std::flush;
+}
+
 ConsoleSession::ConsoleSession(const ConsoleOrder& order, std::ostream& err)
-    : shell_(err), clock_(ClockFor(order)) {
+    : shell_(err), printer_(err), clock_(ClockFor(order)) {
     if (!fs::is_directory(order.folder))
         throw FileError(order.folder, FileError::Kind::NotFound, "there is no such folder");
     screen_.emplace(
@@ -40,9 +50,11 @@ ConsoleSession::ConsoleSession(const ConsoleOrder& order, std::ostream& err)
                 .dialogs = dialogs_,
                 .shell = shell_,
                 .http = nullptr,
+                .printer = &printer_,
                 .startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
                 .handOver = {},
-                .programFile = order.programFile});
+                .programFile = order.programFile,
+                .waitForBooks = [](const BooksInUse& use) { return use.waited < kPatience; }});
 }
 
 void ConsoleSession::Click(std::string_view button) {

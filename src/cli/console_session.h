@@ -29,6 +29,16 @@ class ConsoleShell final : public Shell {
     SystemShell system_;
 };
 
+/// Prints on `err`, under a line that names the job.
+class ConsolePrinter final : public Printer {
+ public:
+    explicit ConsolePrinter(std::ostream& err) : err_(err) {}
+    void Print(const PrintJob& job) override;
+
+ private:
+    std::ostream& err_;
+};
+
 /// The main screen with the windows that it opens, as one person at it uses them.
 class ConsoleSession {
  public:
@@ -61,6 +71,7 @@ class ConsoleSession {
 
     ConsoleDialogs dialogs_;
     ConsoleShell shell_;
+    ConsolePrinter printer_;
     std::unique_ptr<Clock> clock_;
     std::optional<MainScreen> screen_;
     std::optional<FileBrowser> browser_;

@@ -7,6 +7,7 @@
 #include "entry/smart_fields.h"
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
+#include "selection/relevant_fields.h"
 
 namespace quillmark::cli {
 
@@ -78,6 +79,18 @@ std::vector<std::string> ReadJob(const JobSource& source, Folders folders, const
             refused.push_back(std::string(FieldMarker(n)) + " is a picture, but its file \"" + job.name +
                               "_" + std::to_string(n) + ".bmp\" is missing");
     return refused;
+}
+
+void KeepRelevantFields(const std::vector<std::string>& documents, const Office& office, Job& job) {
+    SelectionState screen;
+    screen.job = job;
+    for (int n = 1; n <= kFields; ++n) {
+        screen.job.txtField(n).relevant = false;
+        screen.job.txtField(n).locked = job.IsFilled(n);
+    }
+    for (const std::string& document : documents) screen.List2.push_back({document, false});
+    RefreshFields(screen, office);
+    for (int n = 1; n <= kFields; ++n) job.txtField(n).relevant = screen.job.txtField(n).relevant;
 }
 
 }  // namespace quillmark::cli

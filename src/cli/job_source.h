@@ -7,6 +7,7 @@
 #include "core/firm_defaults.h"
 #include "core/folders.h"
 #include "core/job.h"
+#include "selection/office.h"
 
 namespace quillmark::cli {
 
@@ -26,5 +27,9 @@ JobSource FindJob(const std::string& word, const Folders& folders);
 /// take. Throws FileError, RecordError and JobFileError.
 std::vector<std::string> ReadJob(const JobSource& source, Folders folders, const FirmDefaults& defaults,
                                  Job& job);
+
+/// Leaves those fields relevant that these documents need with the job's options, as the grid would list
+/// them. Throws FileError and RecordError for a custom document whose list of markers cannot be read.
+void KeepRelevantFields(const std::vector<std::string>& documents, const Office& office, Job& job);
 
 }  // namespace quillmark::cli

@@ -10,6 +10,7 @@
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
 #include "production/create.h"
+#include "production/create_checks.h"
 #include "production/pdf.h"
 #include "selection/document_catalogue.h"
 #include "word/start.h"
@@ -48,7 +49,11 @@ class ProgressLine {
 class MakeRun {
  public:
     MakeRun(const MakeOrder& order, const Streams& streams)
-        : order_(order), streams_(streams), progress_(streams, streams.errIsTerminal && !order.quiet) {}
+        : order_(order),
+          streams_(streams),
+          clock_(order.today),
+          dialogs_(order.answers),
+          progress_(streams, streams.errIsTerminal && !order.quiet) {}
 
     int Run() {
         try {
@@ -96,8 +101,11 @@ class MakeRun {
         if (!written_.insert(document).second)
             throw std::runtime_error("another job of this run has the same name and has written " +
                                      TextOf(document));
-        CreateRun run(job, CreateOrderFor(job, document, word));
-        run.Run();
+        CreateOrder order = CreateOrderFor(job, word);
+        KeepRelevantFields(order.DocumentNames, {settings_, folders_, defaults_, clock_, dialogs_}, job);
+        if (const auto obstacle = WhyNotCreate(job)) throw std::runtime_error(obstacle->text);
+        CreateRun run(job, std::move(order));
+        run.Run(TextOf(document));
         run.session().WordApp.Quit();
         Deliver(document);
         if (!pdf_) return;
@@ -107,14 +115,14 @@ class MakeRun {
         Deliver(pdf);
     }
 
-    CreateOrder CreateOrderFor(const Job& job, const fs::path& document, const std::string& word) {
+    CreateOrder CreateOrderFor(const Job& job, const std::string& word) {
         CreateOrder order;
         order.DocumentNames = order_.documents ? *order_.documents : DocumentsOf(job.JobDocuments);
         if (order.DocumentNames.empty())
             throw std::runtime_error("the job lists no documents; --documents can name some");
         order.settings = settings_;
         order.today = order_.today;
-        order.saveAs = TextOf(document);
+        order.dialogs = &dialogs_;
         order.startWord = [this] { return StartWord(); };
         order.onProgress = [this, word](const CreateProgress& progress) {
             if (progress.document > 0 && progress.document <= progress.documents)
@@ -172,6 +180,8 @@ class MakeRun {
 
     const MakeOrder& order_;
     Streams streams_;
+    FixedClock clock_;
+    ScriptedDialogs dialogs_;
     ProgressLine progress_;
     Settings settings_;
     Folders folders_;

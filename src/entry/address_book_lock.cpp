@@ -7,6 +7,7 @@
 #include "platform/note_file.h"
 #include "platform/paths.h"
 #include "platform/record_file.h"
+#include "platform/this_user.h"
 
 namespace quillmark {
 
@@ -28,31 +29,51 @@ std::string TimeText(std::chrono::local_seconds time) {
                        hour.hours().count(), hour.minutes().count(), hour.seconds().count());
 }
 
-/// Asks about twenty times a second.
-FileLock::KeepWaiting Asking(const WaitForBooks& wait, const fs::path& folder,
-                             std::chrono::milliseconds pause) {
-    if (!wait) return {};
-    const auto every = FileLock::kPause / pause;
-    return [&wait, folder, every, pauses = every]() mutable {
-        if (++pauses < every) return true;
-        pauses = 0;
-        return wait(HolderOf(folder));
-    };
-}
-
 /// Those who wait stand in line at a lock of their own, and only the first of them watches the lock of the
 /// books, closely. So a program that writes record after record cannot take it again and again while others
 /// look away.
-FileLock TakeInTurn(const fs::path& folder, const WaitForBooks& wait) {
-    constexpr std::chrono::milliseconds kWatch{5};
-    const FileLock turn(folder / kTurn, Asking(wait, folder, FileLock::kPause));
-    return FileLock(FindExisting(folder / kLock), Asking(wait, folder, kWatch), kWatch);
-}
+class Queue {
+ public:
+    Queue(const fs::path& folder, const WaitForBooks& wait) : folder_(folder), wait_(wait) {}
+
+    FileLock TakeTurn() const {
+        constexpr std::chrono::milliseconds kWatch{5};
+        try {
+            const FileLock turn(folder_ / kTurn, Asking(FileLock::kPause));
+            return FileLock(FindExisting(folder_ / kLock), Asking(kWatch), kWatch);
+        } catch (const FileError& error) {
+            if (error.kind != FileError::Kind::InUse) throw;
+            throw FileError(error.file, error.kind, DescriptionOf(HolderOf(folder_)));
+        }
+    }
+
+ private:
+    /// Asks about twenty times a second.
+    FileLock::KeepWaiting Asking(std::chrono::milliseconds pause) const {
+        if (!wait_) return {};
+        const auto every = FileLock::kPause / pause;
+        return [this, every, pauses = every]() mutable {
+            if (++pauses < every) return true;
+            pauses = 0;
+            return wait_({HolderOf(folder_), Waited()});
+        };
+    }
+
+    std::chrono::milliseconds Waited() const {
+        return std::chrono::duration_cast<std::chrono::milliseconds>(Time::now() - since_);
+    }
+
+    using Time = std::chrono::steady_clock;
+    const fs::path& folder_;
+    const WaitForBooks& wait_;
+    const Time::time_point since_ = Time::now();
+};
 
 }  // namespace
 
-std::string DescriptionOf(const BookHolder& holder) {
-    return fmt::format("In use by {} at {} since {}", holder.user, holder.computer, holder.since);
+std::string DescriptionOf(const std::optional<BookHolder>& holder) {
+    if (!holder) return "In use by another user";
+    return fmt::format("In use by {} at {} since {}", holder->user, holder->computer, holder->since);
 }
 
 std::optional<BookHolder> HolderOf(const fs::path& folder) {
@@ -69,7 +90,7 @@ std::optional<BookHolder> HolderOf(const fs::path& folder) {
 }
 
 AddressBookLock::AddressBookLock(const fs::path& folder, const Clock& clock, const WaitForBooks& wait)
-    : who_(folder / kWho), lock_(TakeInTurn(folder, wait)) {
+    : who_(folder / kWho), lock_(Queue(folder, wait).TakeTurn()) {
     NameHolder(clock);
 }
 
@@ -80,7 +101,7 @@ AddressBookLock::~AddressBookLock() {
 
 /// The name is for those who wait; that it could not be written is no reason to do without the books.
 void AddressBookLock::NameHolder(const Clock& clock) const {
-    static const BookHolder user = ThisUser();
+    static const ComputerUser user = ThisUser();
     if (user.user.empty() && user.computer.empty()) return;
     RecordWriter record;
     try {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -22,20 +23,23 @@ struct BookHolder {
     bool operator==(const BookHolder&) const = default;
 };
 
-/// The person and the computer that the program runs for; `since` is empty.
-BookHolder ThisUser();
+/// "In use by jane at FRONTDESK since 2026-03-05 10:16:04"; "In use by another user" for nobody known.
+std::string DescriptionOf(const std::optional<BookHolder>& holder);
 
-/// "In use by jane at FRONTDESK since 2026-03-05 10:16:04".
-std::string DescriptionOf(const BookHolder& holder);
+/// The books are in another's hands.
+struct BooksInUse {
+    std::optional<BookHolder> holder;  ///< as far as it is known
+    std::chrono::milliseconds waited{0};
+};
 
-/// Called about twenty times a second while another holds the books, with the holder if that is known; false
-/// gives up waiting.
-using WaitForBooks = std::function<bool(const std::optional<BookHolder>& holder)>;
+/// Called about twenty times a second while another holds the books; false gives up waiting.
+using WaitForBooks = std::function<bool(const BooksInUse& use)>;
 
 class AddressBookLock {
  public:
     /// Waits as long as `wait` says, for ever without one; the lock of a program that has died is free.
-    /// Throws FileError: kind InUse when it gave up, any other when the folder can hold no lock.
+    /// Throws FileError: kind InUse, with the holder in its text, when it gave up; any other when the folder
+    /// can hold no lock.
     AddressBookLock(const std::filesystem::path& folder, const Clock& clock, const WaitForBooks& wait = {});
     ~AddressBookLock();
     AddressBookLock(const AddressBookLock&) = delete;

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/atomic_file.h"
 
@@ -17,14 +18,14 @@ constexpr std::string_view kGuidance =
 
 }  // namespace
 
-AddressEditor::AddressEditor(AddressBook book, const AddressBooks& books, Dialogs& dialogs)
-    : book_(book), books_(books), dialogs_(dialogs) {
+AddressEditor::AddressEditor(AddressBook book, AddressBooks books, Dialogs& dialogs)
+    : book_(book), books_(std::move(books)), dialogs_(dialogs) {
     state_.title = fmt::format("  Edit Database  -  {}", NameOf(book));
     state_.picInfo = kGuidance;
     state_.cmdAdd.caption = "ADD";
     state_.cmdRemove.caption = "REMOVE";
     for (const BookItem& item : ItemsOf(book)) state_.boxes.push_back({item.placeholder, {}});
-    AddressList list = books.Read(book);
+    AddressList list = books_.Read(book);
     const std::vector<std::string> faults = list.faults;
     Show(std::move(list));
     ShowFaults(faults);
@@ -89,7 +90,7 @@ bool AddressEditor::Add() {
     try {
         AddressBooks::Change change = books_.Add(book_, RecordOf(book_, std::move(items)));
         Show(std::move(change.list));
-        return change.made || Refuse("Entry Already Exists", DialogIcon::Information);
+        return change.made || Refuse(kEntryExists, DialogIcon::Information);
     } catch (const AddressRecordError& error) {
         return Refuse(error.what());
     } catch (const FileError& error) {

@@ -13,6 +13,9 @@
 /// The screen "  Edit Database  -  " of one address book, without its window.
 namespace quillmark {
 
+/// What ADD says to a record that is there.
+inline constexpr const char* kEntryExists = "Entry Already Exists";
+
 /// An input box. Its placeholder is ghost text: it shows while the box is empty and without the focus.
 struct AddressBox {
     std::string_view placeholder;
@@ -32,8 +35,8 @@ struct AddressEditorState {
 class AddressEditor {
  public:
     /// Opens the screen on one list. Shows a box about lines of the list that are no records. Throws
-    /// FileError. `books` and `dialogs` must outlive the object.
-    AddressEditor(AddressBook book, const AddressBooks& books, Dialogs& dialogs);
+    /// FileError. `dialogs` must outlive the object.
+    AddressEditor(AddressBook book, AddressBooks books, Dialogs& dialogs);
 
     const AddressEditorState& State() const { return state_; }
 
@@ -56,7 +59,7 @@ class AddressEditor {
     bool Refuse(std::string text, DialogIcon icon = DialogIcon::Warning);
 
     AddressBook book_;
-    const AddressBooks& books_;
+    AddressBooks books_;
     Dialogs& dialogs_;
     AddressEditorState state_;
 };

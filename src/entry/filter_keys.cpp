@@ -62,10 +62,6 @@ bool IsDescribedAmountKey(const EditorText& editor, std::string_view character) 
     return IsLetter(character) && editor.text.substr(0, editor.caret).find('-') != std::string::npos;
 }
 
-bool IsPlaceholder(std::string_view text) {
-    return text.starts_with('[') || text == "(None)" || text == "(enter check #)";
-}
-
 EditorText Showing(std::string text) {
     EditorText editor{std::move(text)};
     editor.caret = editor.text.size();
@@ -101,6 +97,14 @@ FilteredKey ByRule(const EditorText& editor, std::string_view character, const K
 }
 
 }  // namespace
+
+bool IsPickedOnly(int n) {
+    return RuleOf(n) == KeyRule::FixedList;
+}
+
+bool IsPlaceholder(std::string_view text) {
+    return text.starts_with('[') || text == "(None)" || text == "(enter check #)";
+}
 
 FilteredKey FilterEditKey(const EditorText& editor, std::string_view character, const KeyPlace& place) {
     if (character == "\"") return {editor, {}};

@@ -29,6 +29,11 @@ struct FilteredKey {
     KeyEffect effect = KeyEffect::None;
 };
 
+/// Whether the field can only be picked from its list.
+bool IsPickedOnly(int n);
+/// A text that gives way to the first key: "[...", "(None)", "(enter check #)".
+bool IsPlaceholder(std::string_view text);
+
 /// The editor that a key is typed in.
 struct KeyPlace {
     int n;  ///< field number, 0 for a user-defined row
@@ -39,8 +44,7 @@ struct KeyPlace {
 /// Decides on one character (UTF-8) or `kBackspace` by the rule of the field: amounts take digits, "$", ","
 /// and "."; described amounts take words behind a hyphen; in a commission "%" works the amount out from the
 /// sale price; P in some adjustments gives "POC"; fixed lists take nothing. In every field a double quote is
-/// dropped, so is ";" while a template is being set, and a placeholder ("[...", "(None)", "(enter check #)")
-/// gives way to the first key.
+/// dropped, so is ";" while a template is being set, and a placeholder gives way to the first key.
 FilteredKey FilterEditKey(const EditorText& editor, std::string_view character, const KeyPlace& place);
 
 /// The same, and the character that passed goes in, in proper case if that is on.

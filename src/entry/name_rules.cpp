@@ -81,8 +81,9 @@ void SellerAttorney(Job& job, std::string_view choices) {
     if (const auto slash = value.find('/'); slash != value.npos) {
         const std::string name(RightTrimmed(std::string_view(value).substr(0, slash)));
         job.SetField(kAttorney, name);
-        job.SetDerived(1, kAttorney, LeftTrimmed(std::string_view(value).substr(slash + 1)));
-        job.SetDerived(2, kAttorney, name);
+        const std::string_view number = LeftTrimmed(std::string_view(value).substr(slash + 1));
+        job.SetDerived(1, kAttorney, number);
+        job.SetDerived(2, kAttorney, number.empty() ? std::string() : name);
     } else if (job.D(kNameOfNumber) != value) {
         job.SetDerived(1, kAttorney, "");
         job.SetDerived(2, kAttorney, "");

@@ -38,6 +38,7 @@ NotedValue NoteValue(int n, std::string_view value, LitCells lit, int clicked, c
     const TagFamily family = TagFamilyOf(n);
     if (family == TagFamily::None || value.empty() || value == "POC") return {std::string(value)};
     const TaggedValue tagged = ReadTag(value, family);
+    if (tagged.text.empty()) return {};
     if (!tagged.tag.empty())
         lit = CellsLitBy(tagged.tag, family);
     else if (clicked == 0 && HasNoMemory(lit) && AmountOf(value) == 0)
@@ -55,8 +56,10 @@ bool ShowsNotes(int n, std::string_view value, const GridRow* row, const Selecti
 
 void ShowFieldNotes(int n, GridRow& row, int clicked, SelectionState& screen) {
     Job& job = screen.job;
-    if (job.IsFilled(n) && ShowsNotes(n, job.D(n), &row, screen))
-        job.SetField(n, NoteValue(n, job.D(n), row.lit, clicked, job).value);
+    if (job.IsFilled(n) && ShowsNotes(n, job.D(n), &row, screen)) {
+        const std::string noted = NoteValue(n, job.D(n), row.lit, clicked, job).value;
+        noted.empty() ? job.ClearField(n) : job.SetField(n, noted);
+    }
     DrawRow(row, screen);
 }
 

@@ -20,7 +20,7 @@ struct NotedValue {
 /// comes, in this order, from the click, from the value's own tag, from the cells that are lit. A click
 /// chooses one of two answers, but turns one of the two independent facts of a sewer charge or payoff over.
 /// While the other commission takes the binder deposit, this one is not applied. The empty text, "POC", and a
-/// zero that never had a tag stay as they are.
+/// zero that never had a tag stay as they are; a tag without anything before it is no value.
 NotedValue NoteValue(int n, std::string_view value, LitCells lit, int clicked, const Job& job);
 
 /// Whether the row of field n has note cells for this value: that of a payoff has them for an SMS document on

@@ -5,6 +5,7 @@
 
 #include "core/field_registry.h"
 #include "core/text_conversions.h"
+#include "entry/address_book_fields.h"
 #include "selection/field_defaults.h"
 
 namespace quillmark {
@@ -14,11 +15,9 @@ namespace {
 constexpr int kSellerAttorney = 3;
 constexpr int kSellerAttorneyEmail = 9;
 constexpr int kBuyerLawFirm = 11;
-constexpr int kBuyerAttorney = 12;
 constexpr int kSellerOne = 21;
 constexpr int kSellerTwo = 28;
 constexpr int kSellerAttorneyCity = 1006;
-constexpr int kPayoffServicers[] = {95, 113};
 constexpr int kNamesToChoose[] = {153, 156};
 constexpr int kPrincipal = 156;
 constexpr int kAttorneyInFact = 161;
@@ -126,14 +125,6 @@ bool IsListed(int n, const SelectionState& screen) {
                        [&](const GridRow& row) { return row.kind == RowKind::Field && row.n == n; });
 }
 
-AddressBook BookOf(int n, const SelectionState& screen) {
-    if (n == kBuyerLawFirm || (n == kBuyerAttorney && !IsListed(kBuyerLawFirm, screen)))
-        return AddressBook::Attorneys;
-    const bool servicer =
-        std::find(std::begin(kPayoffServicers), std::end(kPayoffServicers), n) != std::end(kPayoffServicers);
-    return servicer ? AddressBook::Servicers : AddressBook::None;
-}
-
 std::size_t PlaceOfAttorney(const Job& job) {
     const std::string& tag = job.txtField(kSellerAttorney).tag;
     std::size_t place = 0;
@@ -187,8 +178,8 @@ OpenedEditor OpenEditor(const GridRow& row, const SelectionState& screen, const 
     editor.text = row.value;
     const bool isField = row.kind == RowKind::Field;
     const std::string marker(isField ? FieldMarker(row.n) : std::string_view(row.label));
-    if (isField) editor.book = BookOf(row.n, screen);
-    if (editor.book != AddressBook::None) {
+    if (isField) editor.book = BookOfField(row.n, IsListed(kBuyerLawFirm, screen));
+    if (editor.book) {
         if (editor.text.empty() && screen.ScreenMode == screen_mode::kJob) editor.text = marker;
     } else if (isField) {
         FillFromDefault(editor, row.n, screen, office);

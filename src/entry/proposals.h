@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "entry/address_book.h"
 #include "selection/office.h"
 #include "selection/selection_state.h"
 
@@ -21,14 +22,11 @@ std::string Proposal(int n, const Job& job);
 /// The choices of a list separated by ";", trimmed; none for a text that is no list.
 std::vector<std::string> ChoicesOf(std::string_view list);
 
-/// The address book that a field is picked from.
-enum class AddressBook { None, Attorneys, Servicers };
-
 struct OpenedEditor {
     std::string text;  ///< all of it selected
     std::vector<std::string> choices;
     std::size_t currentChoice = 0;
-    AddressBook book = AddressBook::None;
+    std::optional<AddressBook> book;                      ///< that the field is picked from
     std::optional<std::chrono::year_month_day> calendar;  ///< shown beside the cell, set to this day
 };
 

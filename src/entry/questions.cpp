@@ -15,23 +15,6 @@ namespace {
 
 constexpr int kLastHyphenTaggedAdjustment = 177;  ///< above it a hyphen begins a description
 
-/// No second edit can begin while a question stands.
-class StandingQuestion {
- public:
-    explicit StandingQuestion(int* EditRow) : EditRow_(EditRow), row_(EditRow ? *EditRow : 0) {
-        if (EditRow_) *EditRow_ = -1;
-    }
-    ~StandingQuestion() {
-        if (EditRow_) *EditRow_ = row_;
-    }
-    StandingQuestion(const StandingQuestion&) = delete;
-    StandingQuestion& operator=(const StandingQuestion&) = delete;
-
- private:
-    int* EditRow_;
-    int row_;
-};
-
 std::string TitleOf(int n) {
     const std::string_view marker = FieldMarker(n);
     return std::string(marker.substr(1, marker.size() - 2)) + "  ";
@@ -141,6 +124,14 @@ std::string Noted(int n, SelectionState& screen) {
 }
 
 }  // namespace
+
+StandingQuestion::StandingQuestion(int* EditRow) : EditRow_(EditRow), row_(EditRow ? *EditRow : 0) {
+    if (EditRow_) *EditRow_ = -1;
+}
+
+StandingQuestion::~StandingQuestion() {
+    if (EditRow_) *EditRow_ = row_;
+}
 
 FieldDialogue FieldQuestions(SelectionState& screen, const Office& office, EntryPoint from) {
     return [&screen, office, from](int n, std::string value) {

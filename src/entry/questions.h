@@ -9,6 +9,19 @@
 /// loan is an equity line.
 namespace quillmark {
 
+/// No second edit can begin while a question stands: `EditRow` is -1 meanwhile. Null for none.
+class StandingQuestion {
+ public:
+    explicit StandingQuestion(int* EditRow);
+    ~StandingQuestion();
+    StandingQuestion(const StandingQuestion&) = delete;
+    StandingQuestion& operator=(const StandingQuestion&) = delete;
+
+ private:
+    int* EditRow_;
+    int row_;
+};
+
 /// How a value comes to its field.
 struct EntryPoint {
     int column = 1;          ///< the grid's current column; a value put in by way of a note cell asks nothing

@@ -50,7 +50,15 @@ constexpr int kAddressPairs[] = {4,  13, 23, 29, 34, 38,  42,  46,  50, 55,
                                  60, 65, 70, 96, 114, 141, 157, 162, 166};
 // clang-format on
 
+constexpr Rule kAmountRules[] = {rules::AmountInWords, rules::Money, rules::MoneyOrPoc, rules::Disbursement,
+                                 rules::OtherAdjustment};
+
 constexpr int kSellerAttorney = 3;
+
+void RunRule(Job& job, int n, const ChoiceLists& choices) {
+    if (n == kSellerAttorney && choices) return rules::SellerAttorney(job, choices(n));
+    OnFieldChanged(job, n);
+}
 
 struct FieldRule {
     Rule rule = nullptr;
@@ -82,14 +90,32 @@ void OnFieldChanged(Job& job, int n) {
         entry.rule(job, entry.argument);
 }
 
+bool TakesAmount(int n) {
+    return std::any_of(std::begin(kRules), std::end(kRules), [n](const RuleRow& row) {
+        return std::find(std::begin(kAmountRules), std::end(kAmountRules), row.rule) !=
+                   std::end(kAmountRules) &&
+               std::find(row.fields.begin(), row.fields.end(), n) != row.fields.end();
+    });
+}
+
 void OnPartyOptionChanged(Job& job) {
     for (int n : {21, 28, 59, 64}) OnFieldChanged(job, n);
 }
 
-std::vector<int> AttachSmartFields(Job& job, ChoiceLists choices) {
-    job.SetChangeRule([choices = std::move(choices)](Job& changed, int n) {
-        if (n == kSellerAttorney && choices) return rules::SellerAttorney(changed, choices(n));
-        OnFieldChanged(changed, n);
+std::vector<int> AttachSmartFields(Job& job, RuleSurroundings around) {
+    job.SetChangeRule([around = std::move(around)](Job& changed, int n) {
+        const std::string text = changed.txtField(n).text;
+        if (const auto end = text.find(';');
+            end != text.npos && around.templateBeingSet && around.templateBeingSet())
+            return changed.SetField(n, text.substr(0, end));
+        try {
+            RunRule(changed, n, around.choices);
+            if (!text.empty() && changed.txtField(n).text.empty()) changed.ClearField(n);
+        } catch (const BadFieldInput& bad) {
+            if (!around.refused) throw;
+            around.refused(bad);
+            changed.ClearField(bad.field());
+        }
     });
     std::vector<int> refused;
     for (int n = 1; n <= kFields; ++n) {

@@ -35,7 +35,7 @@ class FileError : public std::runtime_error {
 /// Replaces the content of a file, or creates it, by way of a new file beside it that is flushed to disk and
 /// renamed. After a failure or a crash the old file is there unchanged; a failure leaves no other file. The
 /// new file keeps the old one's permissions; a link is followed. A file that the user may not write is not
-/// replaced. Throws FileError.
+/// replaced. What a program that died while it wrote has left in the folder goes in time. Throws FileError.
 void ReplaceFile(const std::filesystem::path& file, std::string_view bytes);
 
 /// The whole content of an ordinary file. Throws FileError, kind TooLarge above `limit` bytes.

@@ -57,6 +57,23 @@ class Printers {
     virtual std::vector<PrinterBin> BinsOf(const std::string& printer) = 0;
 };
 
+/// Lines of text to be printed.
+struct PrintJob {
+    std::string name;                ///< of the job among those that wait for the printer
+    std::string font;                ///< one of fixed pitch
+    double points = 0;               ///< its size
+    std::vector<std::string> lines;  ///< UTF-8, without line ends
+};
+
+/// Puts lines on paper, or into a file that stands for it.
+class Printer {
+ public:
+    virtual ~Printer() = default;
+    /// Prints the lines from the top of a new page; wide lines and full pages go on as `PagesOf`
+    /// (platform/paper.h) has them. Throws MachineError if it cannot be done.
+    virtual void Print(const PrintJob& job) = 0;
+};
+
 /// The network, as far as the upgrade notice needs it.
 class HttpClient {
  public:

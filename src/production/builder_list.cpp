@@ -13,29 +13,40 @@ namespace quillmark {
 #define DOCUMENT(entry, builder, notices) void builder(const JobValues&, Typist&);
 #define VARIANT(entry, builder, tag, number, again, notices) \
     void builder(const JobValues&, Typist&, const Variant&);
+#define COMPUTED(entry, builder, tag, notices) void builder(const Production&, Typist&, const Variant&);
 #include "production/builders/builders.inc"
 #undef DOCUMENT
 #undef VARIANT
+#undef COMPUTED
 
 namespace {
 
-#define DOCUMENT(entry, builder, notices)                                                          \
-    Builder{entry, [](const JobValues& job, Typist& type, const Variant&) { builder(job, type); }, \
-            Variant{}, RunsAgain::Never, notices},
-#define VARIANT(entry, builder, tag, number, again, notices) \
-    Builder{entry, builder, Variant{tag, number}, RunsAgain::again, notices},
+#define DOCUMENT(entry, builder, notices)                                                                 \
+    Builder{                                                                                              \
+        entry,                                                                                            \
+        [](const Production& from, Typist& type, const Variant&) { builder(JobValues(from.job), type); }, \
+        Variant{}, RunsAgain::Never, notices},
+#define VARIANT(entry, builder, tag, number, again, notices)                   \
+    Builder{entry,                                                             \
+            [](const Production& from, Typist& type, const Variant& variant) { \
+                builder(JobValues(from.job), type, variant);                   \
+            },                                                                 \
+            Variant{tag, number}, RunsAgain::again, notices},
+#define COMPUTED(entry, builder, tag, notices) \
+    Builder{entry, builder, Variant{tag}, RunsAgain::Never, notices},
 constexpr auto kBuilders = std::to_array<Builder>({
 #include "production/builders/builders.inc"
 });
 #undef DOCUMENT
 #undef VARIANT
+#undef COMPUTED
 
-bool RunsTwice(const Builder& builder, const JobValues& job) {
+bool RunsTwice(const Builder& builder, const Job& job) {
     switch (builder.again) {
         case RunsAgain::WithTwoSellers:
-            return job.Has(TwoSellers);
+            return job.optConf(TwoSellers);
         case RunsAgain::WithTwoPayoffs:
-            return job.Has(TwoPayoffs);
+            return job.optConf(TwoPayoffs);
         case RunsAgain::Never:
             break;
     }
@@ -60,11 +71,10 @@ std::string NoticesOf(const Builder& builder, const Job& job) {
     return notices;
 }
 
-void TypeDocument(const Builder& builder, const Job& job, WordSession& session) {
-    const JobValues values(job);
+void TypeDocument(const Builder& builder, const Production& production, WordSession& session) {
     Typist typist(session);
-    builder.type(values, typist, builder.variant);
-    if (RunsTwice(builder, values)) builder.type(values, typist, Variant{builder.variant.tag, 2});
+    builder.type(production, typist, builder.variant);
+    if (RunsTwice(builder, production.job)) builder.type(production, typist, Variant{builder.variant.tag, 2});
 }
 
 }  // namespace quillmark

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/job.h"
+#include "production/production.h"
 #include "production/word_session.h"
 
 /// The built-in documents that have a builder, as builders/builders.inc lists them.
@@ -22,7 +22,7 @@ struct Variant {
 /// Types one document at the insertion point, from top to bottom. It finds the insertion point at the start
 /// of an empty section, and leaves bold, italic and underline off, no list, no tab stop of its own and no
 /// indent. It changes nothing in the job and handles no failure.
-using BuilderFunction = void (*)(const JobValues& job, Typist& type, const Variant& variant);
+using BuilderFunction = void (*)(const Production& production, Typist& type, const Variant& variant);
 
 /// The option with which the same entry is typed a second time, as number 2.
 enum class RunsAgain { Never, WithTwoSellers, WithTwoPayoffs };
@@ -46,6 +46,6 @@ const Builder* FindBuilder(std::string_view document);
 std::string NoticesOf(const Builder& builder, const Job& job);
 
 /// Types the document, and once more as number 2 when the job's options ask for it.
-void TypeDocument(const Builder& builder, const Job& job, WordSession& session);
+void TypeDocument(const Builder& builder, const Production& production, WordSession& session);
 
 }  // namespace quillmark

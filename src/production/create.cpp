@@ -1,6 +1,9 @@
 #include "production/create.h"
 
+#include <new>
+
 #include "core/text_conversions.h"
+#include "platform/atomic_file.h"
 #include "production/dispatch.h"
 #include "production/footers.h"
 #include "production/normalise.h"
@@ -10,17 +13,28 @@ namespace quillmark {
 namespace {
 
 constexpr int kActiveXUnavailable = 463;
+
+// Numbers of failures that are not the word processor's own.
 constexpr int kOtherFailure = 5;
+constexpr int kOverflow = 6;
+constexpr int kOutOfMemory = 7;
+constexpr int kDeviceError = 57;
+constexpr int kAccessError = 75;
 
-/// Puts back the values on every way out.
-class ValuesForTyping {
- public:
-    ValuesForTyping(Job& job, std::chrono::year_month_day today) : values_(job, today) {}
-    ~ValuesForTyping() { values_.Undo(); }
-
- private:
-    NormalisedValues values_;
-};
+int NumberOf(FileError::Kind kind) {
+    switch (kind) {
+        case FileError::Kind::InUse:
+            return word::error::kPermissionDenied;
+        case FileError::Kind::Denied:
+            return kAccessError;
+        case FileError::Kind::NotFound:
+            return word::error::kPathNotFound;
+        case FileError::Kind::DiskFull:
+            return word::error::kDiskFull;
+        default:
+            return kDeviceError;
+    }
+}
 
 template <class Step>
 void Quietly(Step step) {
@@ -31,6 +45,39 @@ void Quietly(Step step) {
 }
 
 }  // namespace
+
+class CreateRun::ValuesForTyping {
+ public:
+    ValuesForTyping(Job& job, std::chrono::year_month_day today) : values_(job, today) {}
+    ~ValuesForTyping() { values_.Undo(); }
+    ValuesForTyping(const ValuesForTyping&) = delete;
+    ValuesForTyping& operator=(const ValuesForTyping&) = delete;
+
+ private:
+    NormalisedValues values_;
+};
+
+CreateError CreateError::OfPresentException() {
+    try {
+        throw;
+    } catch (const CreateError& failure) {
+        return failure;
+    } catch (const word::AutomationError& failure) {
+        return {failure.number(), failure.what()};
+    } catch (const NotANumber& failure) {
+        return {word::error::kTypeMismatch, failure.what()};
+    } catch (const FileError& failure) {
+        return {NumberOf(failure.kind), failure.what()};
+    } catch (const std::overflow_error& failure) {
+        return {kOverflow, failure.what()};
+    } catch (const std::bad_alloc&) {
+        return {kOutOfMemory, "The computer is out of memory"};
+    } catch (const std::exception& failure) {
+        return {kOtherFailure, failure.what()};
+    } catch (...) {
+        return {kOtherFailure, "A failure of an unknown kind"};
+    }
+}
 
 std::string CreateError::Message() const {
     switch (number_) {
@@ -49,19 +96,29 @@ CreateRun::CreateRun(Job& job, CreateOrder order) : job_(job), order_(std::move(
     progress_.maximum = static_cast<double>(progress_.documents) + 1;
 }
 
-void CreateRun::Run() {
-    CheckEntries();
-    const ValuesForTyping values(job_, order_.today);
-    Report(0.25, 0);
-    try {
-        Produce();
-    } catch (const word::AutomationError& failure) {
-        Abandon(failure.number(), failure.what());
-    } catch (const NotANumber& failure) {
-        Abandon(word::error::kTypeMismatch, failure.what());
-    } catch (const std::exception& failure) {
-        Abandon(kOtherFailure, failure.what());
-    }
+CreateRun::~CreateRun() = default;
+
+void CreateRun::Run(const std::string& file) {
+    Produce();
+    PutValuesBack();
+    if (!file.empty()) Save(file);
+    RestoreCheckers();
+    Show();
+}
+
+void CreateRun::Produce() {
+    Attempt([this] {
+        CheckEntries();
+        values_ = std::make_unique<ValuesForTyping>(job_, order_.today);
+        Report(0.25, 0);
+        StartWord();
+        for (std::size_t entry = 0; entry < progress_.documents; ++entry) TypeDocumentAt(entry);
+        FinishDocument();
+    });
+}
+
+void CreateRun::PutValuesBack() {
+    values_.reset();
 }
 
 void CreateRun::CheckEntries() const {
@@ -69,25 +126,18 @@ void CreateRun::CheckEntries() const {
         if (!IsKnownDocument(name)) throw std::invalid_argument("no document has the name \"" + name + "\"");
 }
 
-void CreateRun::Produce() {
+void CreateRun::StartWord() {
     const word::StartedWordProcessor started = order_.startWord();
     session_.emplace(started.application, started.clipboard);
+    embedded_ = started.isEmbedded;
     SetUpWordSession(*session_);
-    TypeDocuments();
-    FinishDocument();
-    if (!order_.saveAs.empty()) session_->WordDoc.SaveAs(order_.saveAs);
-    RestoreCheckers(*session_);
-    ShowWord();
-}
-
-void CreateRun::TypeDocuments() {
-    for (std::size_t entry = 0; entry < progress_.documents; ++entry) TypeDocumentAt(entry);
 }
 
 void CreateRun::TypeDocumentAt(std::size_t entry) {
     Report(progress_.value + (entry == 0 ? 0.25 : 0.5), entry + 1);
     const word::Range beginning = session_->WordSel.Range();
-    notices_ += TypeEntry(order_.DocumentNames[entry], job_, *session_);
+    Dialogs& dialogs = order_.dialogs ? *order_.dialogs : defaultAnswers_;
+    notices_ += TypeEntry(order_.DocumentNames[entry], {job_, order_.settings, dialogs}, *session_);
     // In front of the document, so that a builder's own paragraph format never reaches the break.
     if (entry > 0) beginning.InsertBreak(word::SectionBreakNextPage);
     Report(static_cast<double>(entry + 1), entry + 1);
@@ -101,28 +151,40 @@ void CreateRun::FinishDocument() {
     session_->WordSel.GoTo(word::GoToLine, word::GoToFirst);
 }
 
-void CreateRun::ShowWord() {
-    const word::Application& application = session_->WordApp;
-    application.Visible = true;
-    application.Activate();
-    application.WindowState = word::WindowMaximised;
-    const word::View& view = application.ActiveDocument.ActiveWindow.View;
-    view.Type = word::PrintView;
-    if (order_.settings.bestFitPageView) {
-        view.Zoom.PageFit = word::PageFitBestFit;
-    } else {
-        view.Zoom.Percentage = 100;
-    }
+void CreateRun::Save(const std::string& file) {
+    Attempt([&] { session_->WordDoc.SaveAs(file); });
 }
 
-void CreateRun::Abandon(int number, const std::string& description) {
+void CreateRun::RestoreCheckers() {
+    Attempt([this] { quillmark::RestoreCheckers(*session_); });
+}
+
+void CreateRun::Show() {
+    Attempt([this] {
+        const word::Application& application = session_->WordApp;
+        application.Visible = true;
+        application.Activate();
+        application.WindowState = word::WindowMaximised;
+        const word::View& view = application.ActiveDocument.ActiveWindow.View;
+        view.Type = word::PrintView;
+        if (order_.settings.bestFitPageView) {
+            view.Zoom.PageFit = word::PageFitBestFit;
+        } else {
+            view.Zoom.Percentage = 100;
+        }
+    });
+}
+
+void CreateRun::Abandon() {
+    const CreateError failure = CreateError::OfPresentException();
+    PutValuesBack();
     if (session_) {
         // The word processor may be what has gone; the failure to report is the first one.
-        Quietly([this] { RestoreCheckers(*session_); });
+        Quietly([this] { quillmark::RestoreCheckers(*session_); });
         Quietly([this] { session_->WordApp.Quit(); });
         session_.reset();
     }
-    throw CreateError(number, description);
+    throw failure;
 }
 
 void CreateRun::Report(double value, std::size_t document) {

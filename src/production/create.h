@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -9,6 +10,7 @@
 
 #include "core/job.h"
 #include "core/settings.h"
+#include "platform/dialogs.h"
 #include "production/word_session.h"
 #include "word/start.h"
 
@@ -29,20 +31,22 @@ struct CreateOrder {
     std::string LegalList;                   ///< names of the entries on legal-size paper, joined by commas
     Settings settings;
     std::chrono::year_month_day today;
-    bool nameUsable = true;  ///< the job's name may stand in the footers
-    std::string saveAs;      ///< the document's file; empty to leave it unsaved
+    bool nameUsable = true;      ///< the job's name may stand in the footers
+    Dialogs* dialogs = nullptr;  ///< whom documents ask; null: each question gets its default answer
     std::function<word::StartedWordProcessor()> startWord;
     std::function<void(const CreateProgress&)> onProgress = {};
 };
 
-/// A run that failed. what() is the word processor's, or the system's, own description; the documents are
-/// gone, the checkers' options are restored and the word processor has quit without saving.
+/// A run that failed. what() is the word processor's, or the system's, own description.
 class CreateError : public std::runtime_error {
  public:
     CreateError(int number, const std::string& description)
         : std::runtime_error(description), number_(number) {}
 
-    int number() const { return number_; }  ///< the word processor's error number
+    /// The exception in hand as a run's own: a number for every kind of failure. For use in a catch block.
+    static CreateError OfPresentException();
+
+    int number() const { return number_; }  ///< the word processor's, or the system's, error number
     /// The sentence for the user.
     std::string Message() const;
 
@@ -51,33 +55,63 @@ class CreateError : public std::runtime_error {
 };
 
 /// One run of CREATE: every entry of the job list is typed as a section of one new document, which then gets
-/// its paper and footers, is saved and shown.
+/// its paper and footers, is saved and shown. What else belongs to a run, such as keeping the job, is its
+/// caller's and goes between the steps by `Attempt`.
+///
+/// A failure in any step ends the run with CreateError: the checkers' options are restored, the word
+/// processor has quit without saving, and the job's values are as after `PutValuesBack`.
 class CreateRun {
  public:
     CreateRun(Job& job, CreateOrder order);
+    ~CreateRun();
 
-    /// Throws CreateError, and std::invalid_argument for an entry that names no document (before the word
-    /// processor is started). The job's values are as after `NormalisedValues::Undo` in every case.
-    void Run();
+    /// All steps in a row; `file` as for `Save`, empty to leave the document unsaved.
+    void Run(const std::string& file);
+
+    /// Normalises the values, starts the word processor, types the documents and finishes their sections. An
+    /// entry that names no document fails before the word processor is started.
+    void Produce();
+    /// Puts back the values that were changed for typing alone.
+    void PutValuesBack();
+    void Save(const std::string& file);
+    void RestoreCheckers();
+    /// Brings the document before the user.
+    void Show();
+
+    /// A step of the caller's: what it throws ends the run like a failure of its own.
+    template <class Step>
+    void Attempt(Step step) {
+        try {
+            step();
+        } catch (...) {
+            Abandon();
+        }
+    }
 
     /// The word processor with the finished document, open until its next user ends it.
     WordSession& session() { return *session_; }
+    /// Whether the document lives in this program alone, where nobody sees it until it is a file.
+    bool IsEmbedded() const { return embedded_; }
     /// Letters of the notices that the documents called for, as often as they did.
     const std::string& CreateNotices() const { return notices_; }
 
  private:
+    /// Puts the values back on every way out.
+    class ValuesForTyping;
+
     void CheckEntries() const;
-    void Produce();
-    void TypeDocuments();
+    void StartWord();
     void TypeDocumentAt(std::size_t entry);
     void FinishDocument();
-    void ShowWord();
-    [[noreturn]] void Abandon(int number, const std::string& description);
+    [[noreturn]] void Abandon();
     void Report(double value, std::size_t document);
 
     Job& job_;
     CreateOrder order_;
+    ScriptedDialogs defaultAnswers_;
+    std::unique_ptr<ValuesForTyping> values_;
     std::optional<WordSession> session_;
+    bool embedded_ = false;
     std::string notices_;
     CreateProgress progress_;
 };

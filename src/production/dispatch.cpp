@@ -14,10 +14,10 @@ bool IsKnownDocument(std::string_view entry) {
            IsCustomDocument(entry);
 }
 
-std::string TypeEntry(std::string_view entry, const Job& job, WordSession& session) {
+std::string TypeEntry(std::string_view entry, const Production& production, WordSession& session) {
     if (const Builder* builder = FindBuilder(entry)) {
-        TypeDocument(*builder, job, session);
-        return NoticesOf(*builder, job);
+        TypeDocument(*builder, production, session);
+        return NoticesOf(*builder, production.job);
     }
     if (!IsKnownDocument(entry))
         throw std::invalid_argument("no document has the name \"" + std::string(entry) + "\"");

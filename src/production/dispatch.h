@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/job.h"
+#include "production/production.h"
 #include "production/word_session.h"
 
 namespace quillmark {
@@ -15,6 +15,6 @@ bool IsKnownDocument(std::string_view entry);
 /// Types one entry of the job list at the insertion point, with its second copy where the job's options ask
 /// for one, and gives the letters of the notices that it adds. An entry that is known but has no builder
 /// leaves its section empty. Throws std::invalid_argument for an unknown entry.
-std::string TypeEntry(std::string_view entry, const Job& job, WordSession& session);
+std::string TypeEntry(std::string_view entry, const Production& production, WordSession& session);
 
 }  // namespace quillmark

@@ -52,6 +52,7 @@ class Typist {
 
     // Characters, from here on.
     void Font(std::string_view name, double points);
+    void FontName(std::string_view name) { WordSel.Font.Name = name; }
     void FontSize(double points) { WordSel.Font.Size = points; }
     void Bold(bool on) { WordSel.Font.Bold = on; }
     void Italic(bool on) { WordSel.Font.Italic = on; }
@@ -60,6 +61,7 @@ class Typist {
     // The paragraph in hand and those that follow it.
     void Align(word::Alignment alignment) { WordSel.ParagraphFormat.Alignment = alignment; }
     void SpaceAfter(double points) { WordSel.ParagraphFormat.SpaceAfter = points; }
+    void LineSpacing(double points) { WordSel.Paragraphs.LineSpacing = points; }
     /// Left and right alike.
     void Indents(double inches);
     /// A tab stop; whoever adds it clears it.
@@ -86,6 +88,9 @@ class Typist {
     void TextField(std::string_view result);
     /// A picture given as the bytes of its file, by way of the clipboard, which is empty afterwards.
     void Picture(std::string_view bytes);
+
+    /// The word processor's major version, such as 16.
+    double WordVersion() const { return session_.WordApp.Version(); }
 
     /// The insertion point itself, for what a single document asks of it.
     const word::Selection& WordSel;

@@ -11,9 +11,9 @@ namespace {
 constexpr int kPropertyCityLine = 72;
 constexpr int kTownOfExecution = 187;
 
-void UpdateUserRow(std::string_view value, SelectionState& screen) {
-    if (screen.currentRow < 0 || screen.currentRow >= static_cast<int>(screen.grid.size())) return;
-    GridRow& row = screen.grid[static_cast<std::size_t>(screen.currentRow)];
+void UpdateUserRow(int at, std::string_view value, SelectionState& screen) {
+    if (at < 0 || at >= static_cast<int>(screen.grid.size())) return;
+    GridRow& row = screen.grid[static_cast<std::size_t>(at)];
     if (row.kind != RowKind::User) return;
     screen.job.SetUserField(row.label, value);
     DrawRow(row, screen);
@@ -26,19 +26,28 @@ void WarnOfTown(int n, const std::string& text, const Office& office) {
     office.dialogs.Tell(title, text, DialogIcon::Warning);
 }
 
-void CheckTown(int n, const SelectionState& screen, const Office& office) {
+/// Warns of a place that is no town; whether the field holds none such.
+bool CheckTown(int n, const SelectionState& screen, const Office& office) {
     const Job& job = screen.job;
-    if (n == kPropertyCityLine && job.IsFilled(n) && job.D(1000 + n).empty()) {
-        WarnOfTown(
-            n,
-            "City/Town/District not recognized ...\n\nPlease check spelling or use parent municipality, "
-            "\nand be sure to follow name with a Comma  ",
-            office);
-    }
-    if (n == kTownOfExecution && job.IsFilled(n) && job.D(1000 + n).empty()) {
-        WarnOfTown(n, "City/Town not recognized ...\n\nPlease use parent municipality and check spelling  ",
-                   office);
-    }
+    if ((n != kPropertyCityLine && n != kTownOfExecution) || !job.IsFilled(n) || !job.D(1000 + n).empty())
+        return true;
+    WarnOfTown(
+        n,
+        n == kPropertyCityLine
+            ? "City/Town/District not recognized ...\n\nPlease check spelling or use parent municipality, "
+              "\nand be sure to follow name with a Comma  "
+            : "City/Town not recognized ...\n\nPlease use parent municipality and check spelling  ",
+        office);
+    return false;
+}
+
+/// Shows that a value came by itself: its row is current and free to be edited.
+void ShowFilled(int n, SelectionState& screen) {
+    screen.job.txtField(n).locked = false;
+    GridRow* row = FindRow(n, screen);
+    if (!row) return;
+    screen.currentRow = static_cast<int>(row - screen.grid.data());
+    SetRowState(*row, "OFF", screen);
 }
 
 void Redraw(int n, SelectionState& screen) {
@@ -48,24 +57,26 @@ void Redraw(int n, SelectionState& screen) {
 
 }  // namespace
 
-void UpdateListing(int n, std::string_view value, SelectionState& screen, const Office& office,
-                   const FieldDialogue& dialogue) {
+bool UpdateListing(int n, std::string_view value, SelectionState& screen, const Office& office,
+                   const FieldDialogue& dialogue, ListingEntry entry) {
     if (n == 0) {
-        UpdateUserRow(value, screen);
-        return;
+        UpdateUserRow(entry.row < 0 ? screen.currentRow : entry.row, value, screen);
+        return true;
     }
     Job& job = screen.job;
-    if (value == job.txtField(n).text) return;
-    if (value.empty()) {
-        if (job.IsFilled(n)) job.ClearField(n);
-        Redraw(n, screen);
-        return;
+    if (value == job.txtField(n).text && !entry.filling) return true;
+    bool known = true;
+    if (!value.empty()) {
+        std::string stored(value);
+        if (dialogue) stored = dialogue(n, std::move(stored));
+        stored.empty() ? job.ClearField(n) : job.SetField(n, stored);
+        known = CheckTown(n, screen, office);
+    } else if (job.IsFilled(n)) {
+        job.ClearField(n);
     }
-    std::string stored(value);
-    if (dialogue) stored = dialogue(n, std::move(stored));
-    job.SetField(n, stored);
-    CheckTown(n, screen, office);
+    if (entry.filling) ShowFilled(n, screen);
     Redraw(n, screen);
+    return known;
 }
 
 void SetRowState(GridRow& row, std::string_view state, SelectionState& screen) {

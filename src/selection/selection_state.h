@@ -83,6 +83,26 @@ struct Button {
     bool visible = true;
 };
 
+enum class InfoColour { Black, Red, Blue };
+
+/// The colours of the guidance bar's text; they hold only while the bar shows `text`.
+struct InfoColours {
+    struct Span {
+        std::size_t begin = 0;  ///< bytes
+        std::size_t length = 0;
+        InfoColour colour = InfoColour::Black;
+    };
+    std::string text;
+    std::vector<Span> spans;
+};
+
+/// The progress bar of CREATE.
+struct ProgressBar {
+    bool visible = false;
+    double value = 0;
+    double maximum = 1;
+};
+
 struct SelectionState {
     Job job;
     NameBox txtJobName;
@@ -115,6 +135,11 @@ struct SelectionState {
     Button cmdOpen, cmdCreate, cmdReset, cmdExit, cmdTemplate, cmdPackages, cmdCustom, cmdNameAs,
         cmdEnvelopes, cmdOP236, cmdPrintFList, cmdSelect;
     std::string picInfo;  ///< the guidance bar's text
+    InfoColours picInfoColours;
+
+    bool waiting = false;  ///< the wait form shows, the pointer is the busy one, the grid takes no click
+    ProgressBar progress;
+    std::string message;  ///< the message line under the progress bar
 };
 
 }  // namespace quillmark

@@ -1,8 +1,9 @@
-#include "core/job_file.h"
-#include "core/text_conversions.h"
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
+#include "production/create_checks.h"
+#include "production/create_notices.h"
 #include "selection/relevant_fields.h"
+#include "session/info_bar.h"
 #include "session/main_screen.h"
 #include "word/trace.h"
 
@@ -12,11 +13,18 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int kBuyerAttyEmail = 18;
-constexpr int kSellerLawfirm = 2;
+constexpr std::string_view kReMake = "Re-Make";
+constexpr int kDocumentDate = 1;
 
-bool Contains(std::string_view text, std::string_view part) {
-    return text.find(part) != std::string_view::npos;
+/// The document's date does not count: no job file holds it, and an undated job is dated on the day it is
+/// made.
+bool RequiredFieldsAreDone(const SelectionState& screen) {
+    for (int n = kDocumentDate + 1; n <= kFields; ++n) {
+        const FieldHolder& holder = screen.job.txtField(n);
+        if (holder.relevant && holder.text == FieldMarker(n) && !IsOptionalField(n, screen.job)) return false;
+    }
+    return std::none_of(screen.grid.begin(), screen.grid.end(),
+                        [](const GridRow& row) { return row.kind == RowKind::User && row.value.empty(); });
 }
 
 /// A name beside documents that the user may have changed.
@@ -30,7 +38,33 @@ fs::path FreeName(const fs::path& wanted) {
 fs::path DocumentPath(const fs::path& target, const std::string& name, Shell& shell) {
     if (target.extension() == ".docx") return target;
     const fs::path folder = target.empty() ? shell.FolderOf(SpecialFolder::Documents) : target;
+    std::error_code error;
+    fs::create_directories(folder, error);
+    if (error) throw FileError(folder, error);
     return FreeName(folder / PathOf((name.empty() ? "Untitled" : name) + "_QMF.docx"));
+}
+
+void ShowProgress(const CreateProgress& progress, SelectionState& screen) {
+    screen.progress = {true, progress.value, progress.maximum};
+    if (progress.document > progress.documents) screen.message = " Finalizing Job Please Wait";
+}
+
+void EndWaiting(SelectionState& screen) {
+    screen.waiting = false;
+    screen.progress = {};
+    screen.message.clear();
+}
+
+/// One line, as the guidance bar has no more.
+std::string InOneLine(std::string_view text) {
+    std::string line;
+    for (const char c : text) {
+        if (c == '\n')
+            line += " - ";
+        else if (c != '\r')
+            line += c;
+    }
+    return line;
 }
 
 }  // namespace
@@ -43,29 +77,55 @@ void MainScreen::SetCreateTarget(fs::path to, fs::path trace) {
 void MainScreen::Create() {
     Require(!screen_.List2.empty(), "the job list is empty");
     lastDocument_.reset();
-    if (run_) {
-        try {
-            run_->session().WordApp.Quit();
-        } catch (const word::AutomationError&) {
-            // The user has closed it already.
-        }
-        run_.reset();
+    creating_ = true;
+    try {
+        EndFormerRun();
+        if (MayCreate()) MakeDocuments();
+        creating_ = false;
+    } catch (...) {
+        creating_ = false;
+        const CreateError failure = CreateError::OfPresentException();
+        EndFailedRun(failure);
+        throw CreateError(failure.number(), failure.Message() + ": " + failure.what());
     }
-    screen_.cmdOpen.enabled = screen_.cmdOpen.caption == "SAVE";
-    if (!MayOverwrite()) return;
+}
 
-    const NameBox& box = screen_.txtJobName;
-    screen_.job.name = box.IsSaveable() ? box.text : std::string();
-    const fs::path document = DocumentPath(createTo_, screen_.job.name, machine_.shell);
-    // The word processor outlives this run, and so must the trace that it writes to.
-    const auto trace = std::make_shared<std::string>();
+/// Of the document of the run before, Re-Make makes another one.
+void MainScreen::EndFormerRun() {
+    if (!run_) return;
+    const std::unique_ptr<CreateRun> former = std::move(run_);
+    try {
+        former->session().WordApp.Quit();
+    } catch (const word::AutomationError& failure) {
+        // The user may have closed it already.
+        if (failure.number() != word::error::kServerGone) throw;
+    }
+    LetRepaint();
+}
+
+bool MainScreen::MayCreate() {
+    if (screen_.cmdCreate.caption != kReMake && !RequiredFieldsAreDone(screen_) &&
+        !machine_.dialogs.Confirm("  ALERT",
+                                  "You have not completed all the required fields.\nProceed anyway ???",
+                                  DialogButton::No))
+        return false;
+    if (const auto obstacle = WhyNotCreate(screen_.job)) {
+        machine_.dialogs.Show(*obstacle);
+        return false;
+    }
+    screen_.cmdOpen.enabled = false;
+    return MayOverwrite();
+}
+
+CreateOrder MainScreen::OrderOfRun(const std::shared_ptr<std::string>& trace) {
     CreateOrder order;
     for (const JobListLine& line : screen_.List2) order.DocumentNames.push_back(line.name);
     order.LegalList = screen_.LegalList;
     order.settings = settings_;
     order.today = machine_.clock.Today();
-    order.nameUsable = box.IsSaveable();
-    order.saveAs = TextOf(document);
+    order.nameUsable = screen_.txtJobName.IsSaveable();
+    order.dialogs = &machine_.dialogs;
+    // The word processor outlives this run, and so must the trace that it writes to.
     order.startWord = [this, trace] {
         word::StartedWordProcessor started = machine_.startWord();
         if (!createTrace_.empty())
@@ -73,49 +133,123 @@ void MainScreen::Create() {
                 started.application, [trace](std::string_view line) { trace->append(line).append("\n"); });
         return started;
     };
-    auto run = std::make_unique<CreateRun>(screen_.job, std::move(order));
+    order.onProgress = [this](const CreateProgress& progress) {
+        ShowProgress(progress, screen_);
+        LetRepaint();
+    };
+    return order;
+}
+
+void MainScreen::MakeDocuments() {
+    const NameBox& box = screen_.txtJobName;
+    screen_.job.name = box.IsSaveable() ? box.text : std::string();
+    const auto trace = std::make_shared<std::string>();
+    auto run = std::make_unique<CreateRun>(screen_.job, OrderOfRun(trace));
+    screen_.waiting = true;
+    run->Produce();
+    const std::string notFed = FeedBooks();
+    run->PutValuesBack();
+    fs::path document;
+    run->Attempt([&] {
+        document = SaveDocument(*run);
+        if (box.IsSaveable()) KeepMadeJob();
+        ShowNotices(run->CreateNotices());
+        TellOfBooks(notFed);
+        run->RestoreCheckers();
+        ShowAsMade();
+    });
+    run->Show();
+    run->Attempt([&] {
+        if (!createTrace_.empty()) ReplaceFile(createTrace_, *trace);
+    });
+    const bool opens = run->IsEmbedded() && createTo_.empty();
+    run_ = std::move(run);
+    lastDocument_ = document;
+    if (opens) OpenDocument(document);
+}
+
+/// The file that the document is in now; empty while the word processor alone has it.
+fs::path MainScreen::SaveDocument(CreateRun& run) {
+    const std::string& name = screen_.job.name;
+    const bool keeps = run.IsEmbedded() || !createTo_.empty() || (settings_.wordAutoSave && !name.empty());
+    if (!keeps) return {};
+    fs::path file = DocumentPath(createTo_, name, machine_.shell);
     try {
-        run->Run();
-    } catch (const CreateError& failure) {
-        machine_.dialogs.Tell(" FAILED !!!", failure.Message(), DialogIcon::Stop);
+        run.session().WordDoc.SaveAs(TextOf(file));
+    } catch (const word::AutomationError& failure) {
+        // The user has that file open, and the new document on the screen.
+        if (run.IsEmbedded() || failure.number() != word::error::kPermissionDenied) throw;
+        return {};
+    }
+    return file;
+}
+
+/// The job's file with what has been made for it.
+void MainScreen::KeepMadeJob() {
+    std::string& history = screen_.job.JobDocuments;
+    const std::string former = history;
+    for (const JobListLine& line : screen_.List2)
+        if (history.find(line.name) == history.npos) history += line.name + ":";
+    try {
+        WriteJob();
+    } catch (...) {
+        history = former;
         throw;
     }
-    if (!createTrace_.empty()) ReplaceFile(createTrace_, *trace);
-    lastDocument_ = document;
-    run_ = std::move(run);
-    if (box.IsSaveable()) {
-        for (const JobListLine& line : screen_.List2)
-            if (!Contains(screen_.job.JobDocuments, line.name)) screen_.job.JobDocuments += line.name + ":";
-        WriteJob();
-        CountAsSaved();
-    }
-    screen_.cmdCreate.caption = "Re-Make";
+    CountAsSaved();
+}
+
+void MainScreen::ShowNotices(const std::string& letters) {
+    const std::string notices = settings_.documentAlerts ? TextOfNotices(letters) : std::string();
+    if (!notices.empty())
+        machine_.dialogs.Tell("  IMPORTANT NOTICES ABOUT THE DOCUMENTS YOU JUST CREATED", notices,
+                              DialogIcon::Information);
+    if (!screen_.job.optConf(Letterhead)) return;
+    std::vector<std::string> documents;
+    for (const JobListLine& line : screen_.List2) documents.push_back(line.name);
+    const std::string reminder = LetterheadReminder(documents);
+    if (!reminder.empty()) machine_.dialogs.Tell("  REMINDER", reminder, DialogIcon::Information);
+}
+
+void MainScreen::ShowAsMade() {
+    EndWaiting(screen_);
+    screen_.cmdCreate.caption = kReMake;
     screen_.cmdEnvelopes.enabled = screen_.cmdOP236.enabled = true;
-    screen_.picInfo = " Edit fields and Re-Make/Save OR click 'RESET' to clear & start over";
+    ShowInfo({{" Edit fields and Re-Make/Save OR click 'RESET' to clear & start over", InfoColour::Blue}},
+             screen_);
+    LetRepaint();
 }
 
-void MainScreen::Templates() {
-    screen_.ScreenMode = screen_mode::kPresets;
-    screen_.cmdOpen = {"SAVE", " save settings ", false, true};
-    for (OptionButton& option : screen_.options) option = {true, true, option.tooltip};
-    OpenBrowser(true);
+void MainScreen::OpenDocument(const fs::path& document) {
+    try {
+        machine_.shell.Open(TextOf(document));
+    } catch (const MachineError& failure) {
+        machine_.dialogs.Tell("  ALERT", "The document is " + TextOf(document) + "\n\n" + failure.what(),
+                              DialogIcon::Warning);
+    }
 }
 
-/// With the buyer's attorney's address at hand, the button writes to it.
-void MainScreen::ShowExit() {
-    if (screen_.job.IsFilled(kBuyerAttyEmail))
-        screen_.cmdExit = {"EMAIL", " email buyer attorney ", true, true};
-    else
-        screen_.cmdExit = {"EXIT", " shutdown Quillmark ", true, true};
+/// The word processor has gone by now. The job's own changes can be saved before the screen is empty.
+void MainScreen::EndFailedRun(const CreateError& failure) {
+    screen_.waiting = false;
+    machine_.dialogs.Tell(" FAILED !!!", failure.Message(), DialogIcon::Stop);
+    EndWaiting(screen_);
+    const auto showError = [&] {
+        ShowInfo({{" ERROR:  ", InfoColour::Black}, {InOneLine(failure.what()), InfoColour::Red}}, screen_);
+    };
+    showError();
+    if (screen_.cmdOpen.caption == "SAVE") screen_.cmdOpen.enabled = true;
+    try {
+        ResetSession();
+    } catch (const std::exception& unsaved) {
+        machine_.dialogs.Tell("  ALERT", unsaved.what(), DialogIcon::Stop);
+    }
+    showError();
+    LetRepaint();
 }
 
-void MainScreen::Mail() {
-    Job& job = screen_.job;
-    if (!job.IsFilled(kSellerLawfirm)) AddFields("D(2)_D(3)_D(4)_D(5)_D(6)_D(7)", screen_, office_);
-    std::string body = "Greetings Attorney " + job.D(3012) + ",\r\n\r\n\r\n\r\nRespectfully Yours,\r\n\r\n";
-    for (const int n : {3, 2, 1004, 6, 7}) body += job.D(n) + "\r\n";
-    machine_.shell.Open("mailto:" + job.D(kBuyerAttyEmail) + "?Subject=" + job.D(1070) + ", " + job.D(1072) +
-                        "&Body=" + EncodeForMail(body));
+void MainScreen::LetRepaint() const {
+    if (machine_.onProgress) machine_.onProgress();
 }
 
 }  // namespace quillmark

@@ -1,10 +1,21 @@
 #include "session/field_editor.h"
 
+#include <algorithm>
+
 namespace quillmark {
 
 namespace {
 
-/// Puts `lineEnd` in the place of every CR LF, CR or LF.
+bool ContinuesCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
+
+}  // namespace
+
+bool IsBlockField(int n) {
+    return n == 201 || n == 202;
+}
+
 std::string WithLineEnds(std::string_view text, std::string_view lineEnd) {
     std::string lines;
     for (std::size_t at = 0; at < text.size(); ++at) {
@@ -18,38 +29,22 @@ std::string WithLineEnds(std::string_view text, std::string_view lineEnd) {
     return lines;
 }
 
-/// The UTF-8 character that begins at a place.
-std::string_view CharacterAt(std::string_view text, std::size_t at) {
-    std::size_t end = at + 1;
-    while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) ++end;
-    return text.substr(at, end - at);
-}
-
-}  // namespace
-
-bool IsBlockField(int n) {
-    return n == 201 || n == 202;
-}
-
-TypedText TypeOver(std::string_view text, const KeyPlace& place, std::string_view marker, bool properCase) {
-    EditorText editor;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::string_view character = CharacterAt(text, at);
-        at += character.size();
-        if (character == "\r" || character == "\n") continue;
-        TypedKey key = TypeKey(editor, character, place, marker, properCase);
-        editor = std::move(key.editor);
-        if (key.effect != KeyEffect::None) return {editor.text, key.effect};
-    }
-    return {editor.text};
-}
-
 std::string PastedLine(std::string_view text) {
+    while (text.ends_with('\r') || text.ends_with('\n')) text.remove_suffix(1);
     return WithLineEnds(text, ", ");
 }
 
-std::string WithFileLineEnds(std::string_view text) {
-    return WithLineEnds(text, "\r\n");
+std::string WhatWasPutIn(std::string_view before, std::string_view after) {
+    const std::size_t shorter = std::min(before.size(), after.size());
+    std::size_t front = 0;
+    while (front < shorter && before[front] == after[front]) ++front;
+    std::size_t back = 0;
+    while (back < shorter - front && before[before.size() - 1 - back] == after[after.size() - 1 - back])
+        ++back;
+    // Two characters may share their first or their last byte.
+    while (front > 0 && front < after.size() && ContinuesCharacter(after[front])) --front;
+    while (back > 0 && ContinuesCharacter(after[after.size() - back])) --back;
+    return std::string(after.substr(front, after.size() - front - back));
 }
 
 }  // namespace quillmark

@@ -1,12 +1,18 @@
 #include "core/job_file.h"
 
+#include <fmt/format.h>
+
+#include <thread>
 #include <utility>
 
 #include "core/text_conversions.h"
+#include "entry/address_book_fields.h"
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
 #include "selection/document_catalogue.h"
+#include "selection/field_listing.h"
 #include "selection/option_buttons.h"
+#include "session/info_bar.h"
 #include "session/main_screen.h"
 
 namespace quillmark {
@@ -27,6 +33,7 @@ auto RetriedWhileInUse(Step step) {
         } catch (const FileError& failure) {
             if (failure.kind != FileError::Kind::InUse) throw;
         }
+        std::this_thread::sleep_for(FileLock::kPause);
     }
 }
 
@@ -47,7 +54,12 @@ bool MainScreen::ChangedByOthers() const {
 bool MainScreen::MayOverwrite() {
     NameBox& box = screen_.txtJobName;
     if (!JobExists(box.text) && !ChangedByOthers()) return true;
-    screen_.picInfo = " WARNING:  A file by the name  " + box.text + "  already exists in the database!";
+    const InfoColour name = creating_ ? InfoColour::Red : InfoColour::Black;
+    const InfoColour rest = creating_ ? InfoColour::Black : InfoColour::Red;
+    ShowInfo({{" WARNING:  A file by the name  ", rest},
+              {box.text, name},
+              {"  already exists in the database!", rest}},
+             screen_);
     const auto answer = machine_.dialogs.Show({"  ALERT",
                                                "About to overwrite an existing file, data will be lost.",
                                                {DialogButton::OK, DialogButton::Cancel},
@@ -59,9 +71,31 @@ bool MainScreen::MayOverwrite() {
         return true;
     }
     box.enabled = true;
+    FocusName();
     screen_.picInfo = " Choose a different name for this file or click RESET to start over";
     screen_.cmdOpen.enabled = screen_.cmdOpen.caption == "SAVE";
     return false;
+}
+
+AddressBooks MainScreen::Books() const {
+    return {folders_.DatabasePath, machine_.clock, machine_.waitForBooks};
+}
+
+/// Adds the job's addresses to the books. Gives what kept any of them out, a line each: the books are a
+/// convenience, and nothing about them may stand in the way of the job's own file.
+std::string MainScreen::FeedBooks() const {
+    try {
+        return fmt::format("{}", fmt::join(SaveToDatabases(screen_.job, Books()).leftOut, "\n"));
+    } catch (const std::exception& failure) {
+        return failure.what();
+    }
+}
+
+void MainScreen::TellOfBooks(const std::string& notFed) {
+    if (notFed.empty()) return;
+    machine_.dialogs.Tell("  ALERT",
+                          "Addresses of this job were not added to the address databases.\n\n" + notFed,
+                          DialogIcon::Warning);
 }
 
 void MainScreen::Save() {
@@ -76,8 +110,10 @@ void MainScreen::SaveJob() {
         box.text = TemplateName(box.text);
     screen_.job.name = box.text;
     if (!MayOverwrite()) return;
+    const std::string notFed = FeedBooks();
     WriteJob();
     CountAsSaved();
+    TellOfBooks(notFed);
 }
 
 void MainScreen::WriteJob() {
@@ -99,7 +135,7 @@ void MainScreen::CountAsSaved() {
     if (screen_.ScreenMode != screen_mode::kEdit) return;
     screen_.cmdNameAs.enabled = true;
     if (screen_.currentRow < 0 || screen_.currentRow >= static_cast<int>(screen_.grid.size())) return;
-    screen_.grid[static_cast<std::size_t>(screen_.currentRow)].locked = false;
+    SetRowState(screen_.grid[static_cast<std::size_t>(screen_.currentRow)], "OFF", screen_);
 }
 
 void MainScreen::LoadJob(std::string_view name, bool asTemplate) {

@@ -9,9 +9,13 @@
 #include <string_view>
 #include <vector>
 
+#include "closing/proration_calculator.h"
 #include "core/firm_defaults.h"
 #include "core/folders.h"
 #include "core/settings.h"
+#include "entry/address_book_files.h"
+#include "entry/address_editor.h"
+#include "entry/smart_fields.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/machine.h"
@@ -19,18 +23,13 @@
 #include "selection/office.h"
 #include "selection/option_clicks.h"
 #include "selection/selection_state.h"
+#include "session/grid_editor.h"
+#include "session/not_allowed.h"
 #include "tools/browser/file_browser.h"
 
 /// The main screen without a toolkit: a window shows its state and passes keys and clicks to it; it decides
 /// everything. It owns exactly one job.
 namespace quillmark {
-
-/// What the screen would not allow in its present state: a disabled button, a hidden option, a line that is
-/// not in the list. Nothing has changed.
-class NotAllowed : public std::runtime_error {
- public:
-    using std::runtime_error::runtime_error;
-};
 
 /// What lies outside the program. `http` may be null: then no upgrade is looked for.
 struct Machine {
@@ -38,11 +37,17 @@ struct Machine {
     Dialogs& dialogs;
     Shell& shell;
     HttpClient* http = nullptr;
-    std::function<word::StartedWordProcessor()> startWord;
+    Printer* printer = nullptr;  ///< null: nothing can be printed
+    std::function<word::StartedWordProcessor()> startWord = {};
     /// Whether another copy of the program runs on this computer and has been brought to the front; null
     /// where several may run.
-    std::function<bool()> handOver;
-    std::filesystem::path programFile;  ///< whose date upgrades are measured by; empty for none
+    std::function<bool()> handOver = {};
+    std::filesystem::path programFile = {};  ///< whose date upgrades are measured by; empty for none
+    /// While another user holds the address books: shows the wait and gives way to Cancel. Null waits for
+    /// ever.
+    WaitForBooks waitForBooks = {};
+    /// Called at each step of CREATE, so that a window can show the state as it is then. Null where none shows.
+    std::function<void()> onProgress = {};
 };
 
 /// The first entry of the template browser: a template that is yet to be made.
@@ -79,23 +84,50 @@ class MainScreen {
     // The name box.
     void FocusName();
     void TypeName(std::string_view text);  ///< key by key, into the empty or selected box
+    void EditName(std::string_view text);  ///< the box's present text, after any edit in it
     void EnterName();                      ///< the Enter key
 
     // The lists and the options.
+    void FocusList1();                                        ///< the keyboard or a click comes to List1
+    void FocusList2();
     void PickDocument(std::string_view line);                 ///< double click in List1
     void DropDocument(std::string_view line);                 ///< double click in List2, the first such line
     void SelectLegal(const std::vector<std::string>& lines);  ///< makes exactly these lines selected
     void ClickOption(int n);
     void DoubleClickOption(int n);
 
-    // The grid. Fields are named by their number; a user-defined row by its marker.
+    // The grid and the editors over it: see GridEditor for each.
+    const GridEditorState& Editor() const { return editor_.State(); }
+    void ClickGrid(int row, int column);
+    void DoubleClickGrid(int row, int column);
+    void KeyInGrid(EditorKey key);
+    void KeyInEditor(std::string_view character);
+    void KeyInEditor(EditorKey key);
+    void SetEditorText(EditorText text);
+    void SetBlockText(std::string_view text);  ///< the caret behind it
+    void SetBlockText(EditorText text);
+    void ClickDay(std::chrono::year_month_day day, bool twice);
+    void KeyInCalendar(EditorKey key, std::chrono::year_month_day day);
+    void PickChoice(std::size_t line);
+    void KeyInChoices(EditorKey key, std::string_view text);
+    void PickRecord(std::size_t line);
+    void LoseFocus(ScreenFocus to);
+    void ScrollTo(int topRow);
+    void SetRowsOnScreen(int rows);
+    void ClickJumpLabel(int group);
+    void Paste(const Clipboard& clipboard);
+    void ClearValue();
+    void SelectAll();
+    void ViewPicture();
+
+    // The same as one step each, for a person who names rows instead of seeing them: fields by their number, a
+    // user-defined row by its marker. The editor is closed with Escape after it, wherever the commit led.
     std::string EnterField(int n, std::string_view text, EntryWay way);
     std::string EnterUserField(std::string_view marker, std::string_view text, EntryWay way);
     /// What the editor shows after the text was typed; closed with Escape.
     std::string TypeInEditor(int n, std::string_view text);
     void UnlockRow(int n);
     std::string ClickNote(int n, int column);
-    void ClickJumpLabel(int group);
 
     /// A click on a button of the main screen by its control name, such as "cmdCreate".
     void Click(std::string_view button);
@@ -111,14 +143,33 @@ class MainScreen {
     void LoadJob(std::string_view name, bool asTemplate);
     void Spawn(std::string_view entry);
 
+    // Companion windows (companions.cpp).
+    /// The screen of an address book: by the browser's `cmdAttorneys` and `cmdServicers`, or from the main
+    /// screen. It keeps the main screen waiting until `CloseAddresses`. Throws FileError, and there is no
+    /// such screen then.
+    AddressEditor& OpenAddresses(AddressBook book);
+    AddressEditor* Addresses() { return addresses_.get(); }
+    void CloseAddresses() { addresses_.reset(); }
+    /// The proration calculator beside the grid, as after its RESET; the main screen stays in use under it.
+    ProrationCalculator& OpenCalculator();
+    ProrationCalculator* Calculator() { return calculator_.get(); }
+    /// `cmdBuyer`, `cmdSeller`: the amount goes into the grid's current row, if it takes one, as a credit to
+    /// that side, with nothing asked; the calculator closes and the grid has the keyboard.
+    void HandOver(CreditTo side);
+    void CloseCalculator() { calculator_.reset(); }
+
     // Firm defaults, settings and clients.
+    void SelectSetting(std::size_t row);       ///< click in List3
     void EditSetting(std::size_t row);         ///< double click in List3
+    bool ChoosingClient() const { return choosingClient_; }
+    const std::string& Client() const { return client_; }  ///< the law firm being served, in Para-Pro mode
     void SelectClient(std::string_view name);  ///< the first line adds one
     void DeleteClient(std::string_view name);
 
     /// Where the next CREATE puts its document (a .docx path or an existing folder) and its trace.
     void SetCreateTarget(std::filesystem::path to, std::filesystem::path trace);
-    /// The document that the last CREATE made; nothing when the run left early.
+    /// The document that the last CREATE made; nothing when the run left early, the empty path while the word
+    /// processor alone has it. A run that fails throws CreateError; the user has been told by then.
     const std::optional<std::filesystem::path>& LastDocument() const { return lastDocument_; }
 
  private:
@@ -150,6 +201,9 @@ class MainScreen {
     void OfferUpgrade();
 
     // Files (job_files.cpp).
+    AddressBooks Books() const;
+    std::string FeedBooks() const;
+    void TellOfBooks(const std::string& notFed);
     void Save();
     void SaveJob();
     bool JobExists(std::string_view name) const;
@@ -170,24 +224,41 @@ class MainScreen {
     void EditPath(SettingsRow& row);
     void EditAnswer(SettingsRow& row);
 
-    // The grid (grid.cpp).
-    std::size_t RowOf(int n) const;
-    std::size_t RowOf(std::string_view marker) const;
-    void OpenRow(std::size_t row);
-    std::string PickChoice(std::size_t row, std::string_view text);
-    std::string Commit(std::size_t row, std::string_view text);
-    void FieldChanged();
-    void Advance(std::size_t row);
+    // The grid (grid.cpp, grid_steps.cpp).
+    GridSurroundings AroundGrid();
+    int RowOf(int n) const;
+    int RowOf(std::string_view marker) const;
+    void OpenRow(int row);
+    void CommitText(std::string_view text, EntryWay way);
+    void PickFrom(int row, std::string_view text);
+    void EscapeEditor();
+    void FieldChanged(int n);
 
-    // CREATE and the rest of the buttons.
+    // CREATE (create_command.cpp).
     void Create();
+    void EndFormerRun();
+    bool MayCreate();
+    CreateOrder OrderOfRun(const std::shared_ptr<std::string>& trace);
+    void MakeDocuments();
+    std::filesystem::path SaveDocument(CreateRun& run);
+    void KeepMadeJob();
+    void ShowNotices(const std::string& letters);
+    void ShowAsMade();
+    void OpenDocument(const std::filesystem::path& document);
+    void EndFailedRun(const CreateError& failure);
+    void LetRepaint() const;
+
+    // The rest of the buttons (top_buttons.cpp).
     void Mail();
+    void PrintFieldList();
     void ShowExit();
     void Templates();
 
     void RequireOption(int n, OptionAction action) const;
     void Require(bool condition, const std::string& otherwise) const;
     void Refresh(bool headingsOnly = false);
+    void RowsHaveChanged();
+    void TellBadInput(const BadFieldInput& bad);
 
     std::filesystem::path programFolder_;
     Machine machine_;
@@ -196,6 +267,7 @@ class MainScreen {
     FirmDefaults firmDefaults_;
     Office office_;
     SelectionState screen_;
+    GridEditor editor_;
     std::vector<SettingsRow> List3_;
     std::vector<std::string> clients_;
     std::string client_;
@@ -203,10 +275,13 @@ class MainScreen {
     bool choosingClient_ = false;
     bool dataPathLost_ = false;
     std::unique_ptr<CreateRun> run_;
+    bool creating_ = false;
     std::filesystem::path createTo_;
     std::filesystem::path createTrace_;
     std::optional<std::filesystem::path> lastDocument_;
     bool browserOpen_ = false;
+    std::unique_ptr<AddressEditor> addresses_;
+    std::unique_ptr<ProrationCalculator> calculator_;
     bool ended_ = false;
 };
 

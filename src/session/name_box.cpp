@@ -20,6 +20,7 @@ bool IsOneOf(std::string_view text, std::string_view capitals) {
 }  // namespace
 
 void MainScreen::FocusName() {
+    editor_.LoseFocus(ScreenFocus::NameBox);
     NameBox& box = screen_.txtJobName;
     if (box.noSave) {
         box.noSave = false;
@@ -65,6 +66,17 @@ void MainScreen::TypeName(std::string_view text) {
         box.text.clear();
         NameChanged();
     }
+}
+
+void MainScreen::EditName(std::string_view text) {
+    NameBox& box = screen_.txtJobName;
+    Require(box.enabled && !choosingClient_, "the name box is disabled");
+    Require(!box.locked, "the name box is locked");
+    if (box.noSave) FocusName();
+    box.text.clear();
+    for (const char key : text)
+        if (!HoldsIllegalNameCharacter({&key, 1})) box.text += key;
+    NameChanged();
 }
 
 void MainScreen::NameChanged() {
@@ -116,8 +128,10 @@ void MainScreen::EnterName() {
         screen_.job.name = kDefaultsName;
         ShowSettings();
     } else if (screen_.templateBeingSet && !box.text.empty()) {
+        editor_.LoseFocus(ScreenFocus::Grid);
         screen_.picInfo = " Set option buttons & default field-values for this template";
     } else if (screen_.List1Enabled) {
+        editor_.LoseFocus(ScreenFocus::Documents);
         screen_.picInfo = " Double-Click documents to add them to the job list";
     }
 }

@@ -64,9 +64,12 @@ void MainScreen::StartAnew() {
     for (int n = 1; n <= kFields; ++n) screen_.job.SetField(n, "");
     ResetOptions(screen_);
     ResetButtons(screen_, settings_.paraPro && !client_.empty());
+    editor_.Forget();
     List3_.clear();
     knownFile_.clear();
     browserOpen_ = false;
+    addresses_.reset();
+    calculator_.reset();
     lastDocument_.reset();
     FocusName();
 }
@@ -90,6 +93,7 @@ void MainScreen::Edit() {
     screen_.options[LandMultiFamily].visible = true;
     screen_.ScreenMode = screen_mode::kEdit;
     Refresh();
+    editor_.LoseFocus(ScreenFocus::Grid);
     screen_.cmdNameAs.enabled = false;
     screen_.picInfo = " Click an item for edit (Double-Click if locked)";
     screen_.cmdOpen = {"SAVE", " save changes ", false, true};

@@ -109,6 +109,11 @@ void MainScreen::ShowSettings() {
         " Select an item to see description.  Dbl-Click to edit  (use \";\" separator for multiple choice)";
 }
 
+void MainScreen::SelectSetting(std::size_t row) {
+    Require(row < List3_.size(), "the settings list has no such row");
+    if (List3_[row].field > 0) screen_.picInfo = FieldDescription(List3_[row].field, screen_.job);
+}
+
 void MainScreen::EditSetting(std::size_t row) {
     Require(row < List3_.size(), "the settings list has no such row");
     SettingsRow& chosen = List3_[row];

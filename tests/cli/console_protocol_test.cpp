@@ -103,7 +103,7 @@ TEST_F(ConsoleProtocol, EveryLineGetsOneReplyHoweverBad) {
         {Do("field", {{"n", 21}, {"text", "x"}, {"how", "sing"}}), "how is none of"},
         {Do("value", {{"n", 241}}), "241 is no value"},
         {Do("value", {{"n", 5021}}), "5021 is no value"},
-        {Do("calculator"), "not part of this version"},
+        {Do("calculator", {{"gross", {1}}}), "gross is not a text"},
         {std::string(1'000'000, '['), "not JSON"},
         {Do("browse", {{"text", std::string(5'000'000, 'x')}}), ""},
     };
@@ -126,7 +126,7 @@ TEST_F(ConsoleProtocol, EveryCommandNamesTheArgumentsThatItMisses) {
         if (reply["ok"] == true) continue;
         const std::string error = reply["error"];
         for (const Argument& argument : command.arguments) {
-            if (!argument.required || error.find("not part of this version") != error.npos) continue;
+            if (!argument.required) continue;
             EXPECT_EQ(error, "the argument " + std::string(argument.name) + " is missing") << command.name;
             break;
         }

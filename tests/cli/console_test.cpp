@@ -213,7 +213,7 @@ TEST_F(ConsoleJobs, CreateTellsWhereTheDocumentIs) {
     const std::string document = TextOf(office / "out.docx");
     const std::string trace = TextOf(office / "trace.txt");
     const auto replies = Session(SmallJobAnd({
-        Do("create", {{"to", document}, {"trace", trace}}),
+        Do("create", {{"to", document}, {"trace", trace}, {"answers", {"Yes"}}}),
         Do("create", {{"to", TextOf(office / "nowhere")}}),
         Do("click", {{"button", "cmdReset"}}),
         Do("create"),

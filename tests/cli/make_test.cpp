@@ -138,6 +138,18 @@ TEST_F(Making, AValueThatIsNoDateIsReportedAndDoesNotStopTheRun) {
     EXPECT_THAT(err.str(), HasSubstr("[closing date] holds \"soon\""));
 }
 
+TEST_F(Making, AValueThatWouldMakeAFalseDocumentStopsTheJobsThatUseIt) {
+    WriteBytes(program / "data/Wrong.dat",
+               Job("\"C05\",#FALSE#\r\n\"C06\",#TRUE#\r\n\"092\",\"in common\"\r\n"
+                   "\"081\",\"soon\"\r\n"));
+    EXPECT_EQ(Make({"Wrong", "Hollis"}), 1);
+    EXPECT_THAT(err.str(), HasSubstr("Wrong: The 'Tenancy Type' field has an improper value,"));
+    EXPECT_EQ(out.str(), TextOf(Document("Hollis")) + "\n");
+    EXPECT_EQ(Make({"--documents", "Closing Statement", "Wrong"}), 1);
+    EXPECT_THAT(err.str(), HasSubstr("The 'Proration Date' field is empty or contains invalid data,"));
+    EXPECT_EQ(Make({"--documents", "Privacy Policy", "Wrong"}), 0) << err.str();
+}
+
 TEST_F(Making, ProgressShowsOnATerminalOnlyAndQuietSilencesAll) {
     EXPECT_EQ(Make({"Hollis"}, true), 0);
     EXPECT_THAT(err.str(), HasSubstr("job 1 of 1 (Hollis), document 2 of 2"));

@@ -43,6 +43,17 @@ TEST_F(Program, PdfOutputWithoutLibreOfficeSaysWhatIsMissing) {
     EXPECT_THAT(Err(), HasSubstr("LibreOffice, which is not installed"));
 }
 
+TEST_F(Program, AFullDiskLeavesTheOldDocumentAndIsTold) {
+    test::WriteBytes(folder / "Lone.dat", "\"000\",\"Schedule A\"\r\n");
+    test::WriteBytes(folder / "Lone_QMF.docx", "old");
+    // The system's limit on the size of files stands in for the end of the disk.
+    const std::string full = "trap '' XFSZ && ulimit -f 1 &&";
+    EXPECT_EQ(Run("make ./Lone.dat", full), 1);
+    EXPECT_THAT(Err(), HasSubstr("Lone.dat: CREATE error 61: "));
+    EXPECT_EQ(Out(), "");
+    EXPECT_EQ(ReadBytes(folder / "Lone_QMF.docx"), "old");
+}
+
 TEST_F(Program, TheCurrentFolderIsTheDefault) {
     test::WriteBytes(folder / "Lone.dat", "\"000\",\"Schedule A\"\r\n");
     EXPECT_EQ(Run("make ./Lone.dat"), 0) << Err();

@@ -8,6 +8,7 @@
 
 #include "entry/address_stress.h"
 #include "platform/atomic_file.h"
+#include "platform/this_user.h"
 #include "support/scratch.h"
 
 namespace quillmark {
@@ -100,8 +101,8 @@ TEST(AddressBooks, TellWhoHoldsThemAndGiveWayToCancel) {
     const ScratchFolder folder;
     Holder holder(folder.path());
     std::vector<BookHolder> told;
-    const auto cancel = [&](const std::optional<BookHolder>& who) {
-        if (who) told.push_back(*who);
+    const auto cancel = [&](const BooksInUse& use) {
+        if (use.holder) told.push_back(*use.holder);
         return told.size() < 3;
     };
     try {
@@ -109,6 +110,7 @@ TEST(AddressBooks, TellWhoHoldsThemAndGiveWayToCancel) {
         FAIL() << "wrote while another held the books";
     } catch (const FileError& error) {
         EXPECT_EQ(error.kind, FileError::Kind::InUse);
+        EXPECT_NE(std::string(error.what()).find(DescriptionOf(told.at(0))), std::string::npos);
     }
     ASSERT_EQ(told.size(), 3u);
     EXPECT_EQ(told[0].user, ThisUser().user);
@@ -118,7 +120,7 @@ TEST(AddressBooks, TellWhoHoldsThemAndGiveWayToCancel) {
     EXPECT_FALSE(std::filesystem::exists(folder / "Servicers.lst"));
 
     holder.Kill();
-    const auto never = [](const std::optional<BookHolder>&) { return false; };
+    const auto never = [](const BooksInUse&) { return false; };
     EXPECT_TRUE(AddressBooks(folder.path(), kClock, never).Add(AddressBook::Servicers, kBank).made)
         << "a holder that died still holds the books";
 }
@@ -127,7 +129,7 @@ TEST(AddressBooks, WaitUntilTheHolderIsDone) {
     const ScratchFolder folder;
     Holder holder(folder.path());
     int asked = 0;
-    const auto patient = [&](const std::optional<BookHolder>&) {
+    const auto patient = [&](const BooksInUse&) {
         if (++asked == 4) holder.Kill();
         return asked < 20;
     };

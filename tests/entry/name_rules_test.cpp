@@ -84,7 +84,7 @@ TEST_F(NameRules, AttorneyGivesItsJurisNumberAway) {
 
 TEST(SellerAttorney, TagIsThePlaceInTheChoiceList) {
     Job job;
-    AttachSmartFields(job, [](int) { return "Jane Roe/412345; Max Mustermann/498765"; });
+    AttachSmartFields(job, {.choices = [](int) { return "Jane Roe/412345; Max Mustermann/498765"; }});
     job.SetField(3, "Max Mustermann/498765");
     EXPECT_EQ(job.txtField(3).tag, "1");
     job.SetField(3, "Nobody Known");

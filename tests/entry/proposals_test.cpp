@@ -101,7 +101,7 @@ TEST_F(Proposals, AddressBooksShowTheMarker) {
     EXPECT_EQ(Open(12).book, AddressBook::Attorneys) << "the law firm is not listed";
     EXPECT_EQ(Open(11).book, AddressBook::Attorneys);
     EXPECT_EQ(Open(11).text, "[buyer lawfirm]");
-    EXPECT_EQ(Open(12).book, AddressBook::None);
+    EXPECT_EQ(Open(12).book, std::nullopt);
     EXPECT_EQ(Open(113).book, AddressBook::Servicers);
     screen.ScreenMode = screen_mode::kPresets;
     EXPECT_EQ(Open(95).text, "");

@@ -171,7 +171,7 @@ std::size_t QuestionsDue(int n, const std::string& text, const SelectionState& s
         if (text.ends_with(" (E)") || text.ends_with(" (M)")) return 0;
         return job.D(n == 99 ? 117 : 99).ends_with(" (E)") ? 0 : 1;
     }
-    const bool amount = text[0] == '$' || (text[0] >= '1' && text[0] <= '9');
+    const bool amount = (text[0] == '$' && text != "$0") || (text[0] >= '1' && text[0] <= '9');
     const bool tagged = text.find('=') != text.npos || (n < 178 && text.find('-') != text.npos);
     if (!amount || tagged) return 0;
     if (n == 86 || n == 88) return job.D(n == 86 ? 88 : 86).ends_with(" - B") ? 0 : 1;

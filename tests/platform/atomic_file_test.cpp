@@ -9,6 +9,7 @@
 #include <csignal>
 #include <functional>
 
+#include "platform/file_lock.h"
 #include "support/scratch.h"
 
 namespace quillmark {
@@ -105,6 +106,27 @@ TEST(ReplaceFile, AReaderNeverSeesATornFileWhileAWriterIsKilled) {
         const std::string left = ReadFile(file, 1'000'000);
         EXPECT_TRUE(left == old || left == replacement) << left.size() << " bytes";
     }
+}
+
+TEST(ReplaceFile, SweepsWhatDeadWritersLeftAndNothingElse) {
+    using namespace std::chrono_literals;
+    const ScratchFolder folder;
+    const auto left = [&](const char* name, std::chrono::hours age) {
+        WriteBytes(folder / name, "half");
+        fs::last_write_time(folder / name, fs::file_time_type::clock::now() - age);
+        return folder / name;
+    };
+    const fs::path dead = left(".quillmark-0123456789abcdef.tmp", 25h);
+    const fs::path recent = left(".quillmark-1123456789abcdef.tmp", 23h);
+    const fs::path held = left(".quillmark-2123456789abcdef.tmp", 50h);
+    const fs::path other = left("quillmark-3123456789abcdef.tmp", 50h);
+    {
+        const FileLock living(held);
+        ReplaceFile(folder / "Smith.dat", "new");
+    }
+    EXPECT_FALSE(fs::exists(dead));
+    EXPECT_TRUE(fs::exists(recent) && fs::exists(held) && fs::exists(other));
+    EXPECT_EQ(FilesIn(folder.path()), 4u);
 }
 
 TEST(ReplaceFile, WhatTheUserMayNotWriteIsNotReplaced) {

@@ -46,6 +46,7 @@ Job FilledDeal() {
     SellersApart(job);
     BuyersApart(job);
     job.SetField(field::ClosingDate, "May 2, 2024");
+    job.SetField(field::ProrationDate, "May 3, 2024");
     for (int n = 1; n <= kFields; ++n) {
         if (FieldMarker(n).size() > 2 && !job.IsFilled(n)) job.SetField(n, "12");
     }
@@ -64,13 +65,14 @@ TEST(Builders, LeaveTheInsertionPointAsTheyFoundIt) {
         SetUpWordSession(session);
         for (const Builder& builder : Builders()) {
             SCOPED_TRACE(std::string(builder.document) + " with options " + options);
-            TypeDocument(builder, job, session);
+            TypeDocument(builder, From(job), session);
             EXPECT_FALSE(recorder.characters().bold);
             EXPECT_FALSE(recorder.characters().italic);
             EXPECT_EQ(recorder.characters().underline, 0);
             EXPECT_EQ(recorder.paragraph().left, 0);
             EXPECT_EQ(recorder.paragraph().right, 0);
             EXPECT_EQ(recorder.paragraph().spaceAfter, 0);
+            EXPECT_EQ(recorder.paragraph().lineSpacing, 12);
             EXPECT_TRUE(recorder.paragraph().tabs.empty());
             EXPECT_TRUE(recorder.paragraph().list.empty());
         }
@@ -81,7 +83,7 @@ std::string TextOf(const Builder& builder, const Job& job) {
     RecordingWord recorder;
     WordSession session(recorder.Application(), recorder.clipboard());
     SetUpWordSession(session);
-    TypeDocument(builder, job, session);
+    TypeDocument(builder, From(job), session);
     return recorder.Text();
 }
 
@@ -124,12 +126,25 @@ TEST(Builders, UnfilledJobShowsMarkersOnly) {
     }
 }
 
+/// The text of a paragraph, with the results of its form fields in braces.
+std::string ParagraphText(const word::docx::Paragraph& paragraph) {
+    std::string text;
+    std::size_t object = 0;
+    for (const char c : paragraph.text) {
+        const auto* field = c == word::docx::character::kObject
+                                ? std::get_if<word::docx::FormFieldData>(&paragraph.objects.at(object++))
+                                : nullptr;
+        text += field ? "{" + field->result + "}" : std::string(1, c);
+    }
+    return text;
+}
+
 /// The paragraphs of the embedded engine's document, one a line.
 std::string EngineText(const word::docx::Document& document) {
     std::string text;
     for (const word::docx::Block& block : document.body) {
         if (const auto* paragraph = std::get_if<word::docx::Paragraph>(&block))
-            text += paragraph->text + "\n";
+            text += ParagraphText(*paragraph) + "\n";
     }
     return text;
 }
@@ -145,7 +160,7 @@ TEST(Builders, TypeTheSameIntoTheEmbeddedEngine) {
             auto clipboard = std::make_shared<word::MemoryClipboard>();
             WordSession session(word::docx::StartEngine({.folder = {}, .clipboard = clipboard}), clipboard);
             SetUpWordSession(session);
-            TypeDocument(builder, job, session);
+            TypeDocument(builder, From(job), session);
             EXPECT_EQ(EngineText(word::docx::ModelOf(session.WordDoc.Reach())), TextOf(builder, job));
         }
     }
@@ -154,7 +169,7 @@ TEST(Builders, TypeTheSameIntoTheEmbeddedEngine) {
 TEST(Builders, RunAgainForTheSecondSellerOrPayoff) {
     static std::string calls;
     const Builder letter{"Letter",
-                         [](const JobValues&, Typist&, const Variant& variant) {
+                         [](const Production&, Typist&, const Variant& variant) {
                              calls += std::string(variant.tag) + std::to_string(variant.number) + " ";
                          },
                          {"SMS", 1},
@@ -165,17 +180,18 @@ TEST(Builders, RunAgainForTheSecondSellerOrPayoff) {
     SetUpWordSession(session);
     Job job;
     job.SetOption(TwoSellers, true);
-    TypeDocument(letter, job, session);
+    TypeDocument(letter, From(job), session);
     EXPECT_EQ(calls, "SMS1 ");
     job.SetOption(TwoPayoffs, true);
-    TypeDocument(letter, job, session);
+    TypeDocument(letter, From(job), session);
     EXPECT_EQ(calls, "SMS1 SMS1 SMS2 ");
 }
 
 TEST(Builders, EveryFileIsOnTheList) {
     const fs::path folder = fs::path(QUILLMARK_SOURCE_DIR) / "src" / "production" / "builders";
     const std::string list = ReadBytes(folder / "builders.inc");
-    const std::regex definition(R"(\nvoid (Type\w+)\(const JobValues& job, Typist& type)");
+    const std::regex definition(
+        R"(\nvoid (Type\w+)\((?:const JobValues& job|const Production& production), Typist& type)");
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
         if (entry.path().extension() != ".cpp") continue;
         const std::string source = ReadBytes(entry.path());

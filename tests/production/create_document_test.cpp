@@ -23,13 +23,12 @@ class CreatedDocument : public ::testing::Test {
         order.DocumentNames = {"Deed / Warranty", "Privacy Policy", "Schedule A"};
         order.LegalList = "Schedule A,";
         order.today = 2025y / April / 6;
-        order.saveAs = TextOf(folder / "Hollis_QMF.docx");
         order.startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); };
     }
 
     const word::Document& Create() {
         run.emplace(job, order);
-        run->Run();
+        run->Run(TextOf(folder / "Hollis_QMF.docx"));
         return run->session().WordDoc;
     }
 

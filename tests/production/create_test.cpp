@@ -25,7 +25,6 @@ class Creating : public ::testing::Test {
         job.name = "Hollis";
         order.DocumentNames = {"Deed / Warranty", "Schedule A"};
         order.today = 2025y / April / 6;
-        order.saveAs = "/tmp/Hollis_QMF.docx";
         order.startWord = [this] { return word::StartedWordProcessor{Traced(), recorder.clipboard()}; };
         recorder.SetValue("Version", std::string("16.0"));
         Sections({word::SectionNewPage, word::SectionNewPage});
@@ -55,7 +54,7 @@ class Creating : public ::testing::Test {
 
     void Run() {
         CreateRun run(job, order);
-        run.Run();
+        run.Run("/tmp/Hollis_QMF.docx");
         notices = run.CreateNotices();
     }
 
@@ -125,7 +124,7 @@ TEST_F(Creating, AFailureRestoresWordAndTheJobAndTellsTheNumber) {
 
 TEST_F(Creating, AnUnknownEntryStopsBeforeWordStarts) {
     order.DocumentNames.push_back("Deed / Waranty");
-    EXPECT_THROW(Run(), std::invalid_argument);
+    EXPECT_THROW(Run(), CreateError);
     EXPECT_TRUE(trace.empty());
 }
 

@@ -21,7 +21,7 @@ std::string Reading(const std::string& document, const Job& job) {
     RecordingWord recorder;
     WordSession session(recorder.Application(), recorder.clipboard());
     SetUpWordSession(session);
-    TypeDocument(*FindBuilder(document), job, session);
+    TypeDocument(*FindBuilder(document), From(job), session);
     return recorder.Reading();
 }
 

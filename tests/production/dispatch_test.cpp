@@ -16,7 +16,7 @@ std::string Typed(std::string_view entry, const Job& job, std::string* notices =
     RecordingWord recorder;
     WordSession session(recorder.Application(), recorder.clipboard());
     SetUpWordSession(session);
-    const std::string letters = TypeEntry(entry, job, session);
+    const std::string letters = TypeEntry(entry, From(job), session);
     if (notices) *notices = letters;
     return recorder.Text();
 }

@@ -69,6 +69,7 @@ std::string MemberBehind(const std::string& prefix, const std::string& path) {
 }  // namespace
 
 RecordingWord::RecordingWord() : paragraphs_(1) {
+    SetValue("Version", std::string("16.0"));
     SetValue("Application.Options.CheckSpellingAsYouType", false);
     SetValue("Application.Options.CheckGrammarAsYouType", false);
 }
@@ -115,6 +116,8 @@ void RecordingWord::Put(const std::string& path, const Value& value) {
     if (path == "Selection.ParagraphFormat.Alignment") paragraph.alignment = static_cast<int>(Number(value));
     if (path == "Selection.ParagraphFormat.SpaceAfter") paragraph.spaceAfter = Number(value);
     if (path == "Selection.Paragraphs.SpaceAfter") paragraph.spaceAfter = Number(value);
+    if (path == "Selection.Paragraphs.LineSpacing") paragraph.lineSpacing = Number(value);
+    if (path.ends_with(".Result")) TypeText("{" + std::get<std::string>(value) + "}");
     if (path == "Selection.Paragraphs.LeftIndent") paragraph.left = Number(value);
     if (path == "Selection.Paragraphs.RightIndent") paragraph.right = Number(value);
 }
@@ -180,7 +183,7 @@ void RecordingWord::TypeText(const std::string& text) {
 
 bool RecordingWord::Paragraph::HasFormatOf(const Paragraph& other) const {
     return alignment == other.alignment && left == other.left && right == other.right &&
-           spaceAfter == other.spaceAfter && tabs == other.tabs;
+           spaceAfter == other.spaceAfter && lineSpacing == other.lineSpacing && tabs == other.tabs;
 }
 
 std::string RecordingWord::Text() const {
@@ -200,6 +203,7 @@ std::string FormatLine(const RecordingWord::Paragraph& paragraph) {
                                    paragraph.left, paragraph.right);
     for (const double tab : paragraph.tabs) line += fmt::format(", tab stop {:g}", tab);
     if (paragraph.spaceAfter != 0) line += fmt::format(", space after {:g}", paragraph.spaceAfter);
+    if (paragraph.lineSpacing != 12) line += fmt::format(", lines of {:g}", paragraph.lineSpacing);
     return line + "]\n";
 }
 
@@ -218,6 +222,7 @@ std::string Visible(const std::string& text) {
 
 std::string Marked(const RecordingWord::Characters& look, const std::string& text) {
     std::string marked = Visible(text);
+    if (look.underline == word::UnderlineDouble) marked = "=" + marked + "=";
     if (look.underline != 0) marked = "=" + marked + "=";
     if (look.italic) marked = "~" + marked + "~";
     if (look.bold) marked = "*" + marked + "*";

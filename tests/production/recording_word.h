@@ -24,7 +24,7 @@ class RecordingWord {
     };
     struct Paragraph {
         int alignment = 0;
-        double left = 0, right = 0, spaceAfter = 0;
+        double left = 0, right = 0, spaceAfter = 0, lineSpacing = 12;
         std::string list;  ///< the template it is an item of; empty for none
         int level = 1;
         std::set<double> tabs;
@@ -51,7 +51,7 @@ class RecordingWord {
 
     /// The typed characters alone, paragraph ends as "\n".
     std::string Text() const;
-    /// The document as a lawyer reads it in a diff: *bold*, ~italic~, =underlined=, tabs as →, line breaks as
+    /// The document as a lawyer reads it in a diff: *bold*, ~italic~, =underlined=, ==doubly==, tabs as →, line breaks as
     /// ↵, the fonts as ‹Arial 10› where they change, list items with their numbers, and a line in brackets
     /// above a paragraph whose alignment, indents or tab stops differ from those before it.
     std::string Reading() const;

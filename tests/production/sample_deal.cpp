@@ -67,6 +67,12 @@ Job SampleDeal() {
     return job;
 }
 
+Production From(const Job& job) {
+    static const Settings settings;
+    static ScriptedDialogs dialogs;
+    return {job, settings, dialogs};
+}
+
 void SellersAtOneAddress(Job& job) {
     Choose(job, TwoSellers, OneSeller);
     Fill(job, {{Seller2Name, "June Hollis"},

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/job.h"
+#include "production/production.h"
 
 /// Jobs to type documents of, told as a closing is: who sells what to whom.
 namespace quillmark::test {
@@ -9,6 +9,10 @@ namespace quillmark::test {
 Job SampleDeal();
 /// A job as it is before the first entry, with its derived values.
 Job UnfilledDeal();
+
+/// Documents of this job in an office with the settings of the first start, where every question gets its
+/// default answer.
+Production From(const Job& job);
 
 // Changes to such a job.
 void SellersAtOneAddress(Job& job);  ///< Walter and June Hollis of 14 Chestnut Lane

@@ -243,20 +243,6 @@ TEST_F(SettingsTest, EachParaProClientHasItsOwnFolder) {
     EXPECT_FALSE(std::filesystem::exists(scratch.path() / "data" / "Birch & Bell"));
 }
 
-TEST_F(OfficeTest, CreateMakesTheDocumentAndKeepsTheJob) {
-    Start();
-    MakeSmallJob("Abbott");
-    screen->SetCreateTarget(scratch / "Abbott.docx", {});
-    screen->Click("cmdCreate");
-    ASSERT_TRUE(screen->LastDocument());
-    EXPECT_TRUE(std::filesystem::exists(*screen->LastDocument()));
-    EXPECT_EQ("Re-Make", State().cmdCreate.caption);
-    EXPECT_EQ("Deed / Warranty:", State().job.JobDocuments);
-    EXPECT_NE(std::string::npos, ReadBytes(JobFile("Abbott")).find("\"000\",\"Deed / Warranty\""));
-    screen->Click("cmdCreate");
-    EXPECT_TRUE(screen->LastDocument()) << "the former session is closed and the job made again";
-}
-
 TEST_F(OfficeTest, TheBuyersAttorneyGetsMail) {
     Start();
     screen->TypeName("Abbott");

@@ -48,13 +48,14 @@ class OfficeTest : public ::testing::Test {
     MainScreen& Start(ScriptedDialogs::Answers answers = {}) {
         dialogs.SetAnswers(std::move(answers));
         screen = std::make_unique<MainScreen>(
-            scratch.path(), Machine{clock,
-                                    dialogs,
-                                    shell,
-                                    http,
-                                    [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
-                                    {},
-                                    {}});
+            scratch.path(),
+            Machine{.clock = clock,
+                    .dialogs = dialogs,
+                    .shell = shell,
+                    .http = http,
+                    .printer = printer,
+                    .startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
+                    .waitForBooks = waitForBooks});
         screen->Start();
         return *screen;
     }
@@ -78,6 +79,8 @@ class OfficeTest : public ::testing::Test {
     ScriptedDialogs dialogs;
     QuietShell shell{scratch.path()};
     HttpClient* http = nullptr;
+    Printer* printer = nullptr;
+    WaitForBooks waitForBooks;
     std::unique_ptr<MainScreen> screen;
 };
 

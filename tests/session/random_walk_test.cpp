@@ -236,8 +236,8 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
     }
     void Restart() {
         Note("the program starts");
-        screen =
-            std::make_unique<MainScreen>(scratch.path(), Machine{clock, person_, shell, nullptr, {}, {}, {}});
+        screen = std::make_unique<MainScreen>(scratch.path(),
+                                              Machine{.clock = clock, .dialogs = person_, .shell = shell});
         screen->Start();
     }
 

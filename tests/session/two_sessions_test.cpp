@@ -46,7 +46,7 @@ class Person final : public Dialogs {
 class Workstation {
  public:
     Workstation(const fs::path& folder, const Clock& clock)
-        : shell_(folder), screen(folder, Machine{clock, person, shell_, nullptr, {}, {}, {}}) {
+        : shell_(folder), screen(folder, Machine{.clock = clock, .dialogs = person, .shell = shell_}) {
         screen.Start();
     }
 

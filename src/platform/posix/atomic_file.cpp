@@ -38,6 +38,13 @@ class File {
     int descriptor_;
 };
 
+struct flock WholeFile(short type) {
+    struct flock whole = {};
+    whole.l_type = type;
+    whole.l_whence = SEEK_SET;
+    return whole;
+}
+
 /// A new file that is gone with the object unless it was kept under another name.
 class TemporaryFile {
  public:
@@ -47,6 +54,9 @@ class TemporaryFile {
           path_(target.parent_path() / TemporaryName()),
           file_(path_, O_WRONLY | O_CREAT | O_EXCL, 0666) {
         if (!file_.IsOpen()) Fail();
+        // Tells others that a living writer has it; a file system without locks does without.
+        struct flock mine = WholeFile(F_WRLCK);
+        ::fcntl(file_.Descriptor(), F_OFD_SETLK, &mine);
     }
     ~TemporaryFile() {
         if (!path_.empty() && file_.IsOpen()) ::unlink(path_.c_str());
@@ -67,6 +77,7 @@ class TemporaryFile {
 
     void Replace() {
         if (::fsync(file_.Descriptor()) != 0) Fail();
+        SweepLeftovers(path_);
         if (::rename(path_.c_str(), target_.c_str()) != 0) Fail();
         path_.clear();
     }
@@ -106,6 +117,13 @@ int RenameInOneStep(const fs::path& file, const fs::path& newFile) {
 }
 
 }  // namespace
+
+bool IsBeingWritten(const fs::path& temporary) {
+    const File file(temporary, O_RDONLY | O_NOFOLLOW);
+    struct flock other = WholeFile(F_RDLCK);
+    if (!file.IsOpen() || ::fcntl(file.Descriptor(), F_OFD_GETLK, &other) != 0) return true;
+    return other.l_type != F_UNLCK;
+}
 
 void ReplaceFile(const fs::path& file, std::string_view bytes) {
     const fs::path target = TargetOf(file);

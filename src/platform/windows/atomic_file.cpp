@@ -58,6 +58,11 @@ bool MoveOnto(const fs::path& temporary, const fs::path& target) {
 
 }  // namespace
 
+/// Writers share their file with nobody.
+bool IsBeingWritten(const fs::path& temporary) {
+    return !File(temporary, GENERIC_READ, 0, OPEN_EXISTING).IsOpen();
+}
+
 void ReplaceFile(const fs::path& file, std::string_view bytes) {
     const fs::path temporary = file.parent_path() / TemporaryName();
     File out(temporary, GENERIC_WRITE, 0, CREATE_NEW);
@@ -66,6 +71,7 @@ void ReplaceFile(const fs::path& file, std::string_view bytes) {
     std::error_code error = LastError();
     out.Close();
     if (done) {
+        SweepLeftovers(temporary);
         done = MoveOnto(temporary, file);
         error = LastError();
     }

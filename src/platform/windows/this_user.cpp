@@ -4,13 +4,13 @@
 
 #include <array>
 
-#include "entry/address_book_lock.h"
 #include "platform/paths.h"
+#include "platform/this_user.h"
 
 namespace quillmark {
 
-BookHolder ThisUser() {
-    BookHolder user;
+ComputerUser ThisUser() {
+    ComputerUser user;
     std::array<wchar_t, 260> text = {};
     DWORD size = static_cast<DWORD>(text.size());
     if (GetUserNameW(text.data(), &size)) user.user = TextOf(text.data());

@@ -1,16 +1,16 @@
 #ifndef _WIN32
 
+#include "platform/this_user.h"
+
 #include <pwd.h>
 #include <unistd.h>
 
 #include <array>
 
-#include "entry/address_book_lock.h"
-
 namespace quillmark {
 
-BookHolder ThisUser() {
-    BookHolder user;
+ComputerUser ThisUser() {
+    ComputerUser user;
     std::array<char, 4096> texts;
     passwd entry = {};
     passwd* found = nullptr;

@@ -1,0 +1,21 @@
+#include "cli/console_commands.h"
+#include "closing/closing_statement.h"
+#include "production/normalise.h"
+
+namespace quillmark::cli {
+
+Json FiguresOfStatement(ConsoleSession& session, const Request& request) {
+    const std::string mode = request.Text("mode");
+    if (!mode.empty() && mode != kTaxExemptMode)
+        throw BadRequest("mode is neither empty nor " + std::string(kTaxExemptMode));
+    const Office& office = session.screen().OfficeAround();
+    Job job = session.State().job;  // the values as documents have them, in a copy: the job stays as it is
+    const NormalisedValues asTyped(job, office.clock.Today());
+    Json figures = Json::object();
+    for (const auto& [name, figure] :
+         FiguresByName(ComputeClosingStatement(job, office.settings, mode, office.dialogs)))
+        figures[std::string(name)] = figure;
+    return figures;
+}
+
+}  // namespace quillmark::cli

@@ -1,0 +1,223 @@
+#include "desktop/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QScreen>
+#include <QShortcut>
+
+#include "desktop/companions/look.h"
+
+namespace quillmark::desktop {
+
+namespace {
+
+constexpr double kTwipsPerPixel = 15;
+constexpr std::size_t kPathRow = 11;  ///< of List3
+constexpr QSize kFirstSize(1240, 680);
+
+bool IsWithin(const QWidget* widget, const QWidget* part) {
+    return part && (widget == part || part->isAncestorOf(widget));
+}
+
+}  // namespace
+
+MainWindow::MainWindow(MainScreen& screen, DocumentOpener& opener)
+    : appearance_(*this),
+      desk_(screen, *this),
+      buttons_(desk_, appearance_, this),
+      flow_(desk_, opener, *this) {
+    setObjectName(QStringLiteral("Form1"));
+    Arrange();
+    editors_ = new GridEditors(desk_, *grid_, *this);
+    progress_ = new ProgressPanel(desk_, this);
+    Connect();
+    AddShortcuts();
+    SetTabOrder();
+    resize(kFirstSize.boundedTo(QWidget::screen()->availableSize()));
+    ShowState();
+}
+
+void MainWindow::Connect() {
+    connect(&desk_, &Desk::Changed, this, [this] {
+        ShowState();
+        flow_.Follow();
+    });
+    connect(&desk_, &Desk::Refused, guidance_, &GuidanceBar::ShowRefusal);
+    connect(&buttons_, &MainButtons::Pressed, &flow_, &CompanionFlow::Press);
+    connect(&flow_, &CompanionFlow::PathWanted, this, [this] { List3_->SelectRow(kPathRow); });
+    connect(List3_, &SettingsView::RowSelected, this, [this](std::size_t row) {
+        if (!showing_) desk_.DoQuietly([row](MainScreen& screen) { screen.SelectSetting(row); });
+    });
+    connect(List3_, &SettingsView::RowOpened, this,
+            [this](std::size_t row) { desk_.Do([row](MainScreen& screen) { screen.EditSetting(row); }); });
+    connect(view_, &ViewControls::Resized, this, &MainWindow::FitLeft);
+    connect(view_, &ViewControls::Dimmed, this, &MainWindow::ShowState);
+    connect(qApp, &QApplication::focusChanged, this, &MainWindow::FocusMoved);
+}
+
+void MainWindow::AddShortcuts() {
+    const auto add = [this](QKeySequence key, auto action) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, action);
+    };
+    const auto control = [](Qt::Key key) { return QKeySequence(QKeyCombination(Qt::ControlModifier, key)); };
+    for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Equal}) add(control(key), [this] { view_->Resize(1); });
+    add(control(Qt::Key_Minus), [this] { view_->Resize(-1); });
+    add(control(Qt::Key_0), [this] { view_->Resize(0); });
+    add(control(Qt::Key_Return), [this] { flow_.Press("cmdCreate"); });
+    add(control(Qt::Key_O), [this] { flow_.Press("cmdOpen"); });
+    add(QKeySequence::Save, [this] {
+        if (desk_.State().cmdOpen.caption == "SAVE") flow_.Press("cmdOpen");
+    });
+    add(Qt::Key_F9, [this] { flow_.OpenCalculator(); });
+}
+
+void MainWindow::ShowState() {
+    if (showing_) return;
+    showing_ = true;
+    name_->Show();
+    options_->Show();
+    documents_->Show();
+    buttons_.Show();
+    jump_->Show();
+    guidance_->Show();
+    ShowPage();
+    editors_->Show();
+    ShowCounters();
+    progress_->Show();
+    ShowTitle();
+    ShowFocus();
+    showing_ = false;
+    if (desk_.Screen().HasEnded()) close();
+}
+
+void MainWindow::ShowProgress() {
+    ShowState();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void MainWindow::ShowTitle() {
+    QString title =
+        QStringLiteral("Quillmark - v 3.78 ct - Real Estate Document Generator for Microsoft Word");
+    const std::string& client = desk_.Screen().Client();
+    if (!client.empty()) title += QStringLiteral("   servicing\\   ") + Shown(client);
+    if (windowTitle() != title) setWindowTitle(title);
+}
+
+void MainWindow::ShowPage() {
+    const SelectionState& state = desk_.State();
+    if (desk_.Screen().SettingsListShown()) List3_->ShowRows(desk_.Screen().List3());
+    grid_->Show();
+    QWidget* page = state.grid.empty() ? welcome_ : grid_;
+    if (desk_.Screen().SettingsListShown()) page = List3_;
+    pages_->setCurrentWidget(page);
+    grid_->setEnabled(!state.waiting);
+}
+
+void MainWindow::ShowCounters() {
+    const SelectionState& state = desk_.State();
+    const bool counts = !state.grid.empty() && state.ScreenMode == screen_mode::kJob;
+    counters_->setText(counts ? tr("total flds %1     remaining %2").arg(state.total).arg(state.remaining)
+                              : QString());
+}
+
+QWidget* MainWindow::WidgetOf(ScreenFocus focus) const {
+    switch (focus) {
+        case ScreenFocus::NameBox:
+            if (desk_.Screen().SettingsListShown()) return List3_;
+            return name_->Box();
+        case ScreenFocus::Documents:
+            return documents_->Catalogue();
+        case ScreenFocus::Grid:
+            return pages_->currentWidget() == grid_ ? grid_ : nullptr;
+        case ScreenFocus::Editor:
+            return editors_->Editor();
+        case ScreenFocus::Calendar:
+            return editors_->Calendar();
+        case ScreenFocus::Choices:
+            return editors_->Choices();
+        case ScreenFocus::AddressBook:
+            return editors_->Records();
+        case ScreenFocus::Buttons:
+        case ScreenFocus::Elsewhere:
+            return nullptr;
+    }
+    return nullptr;
+}
+
+ScreenFocus MainWindow::FocusOf(const QWidget* widget) const {
+    if (IsWithin(widget, editors_->Editor())) return ScreenFocus::Editor;
+    if (IsWithin(widget, editors_->Calendar())) return ScreenFocus::Calendar;
+    if (IsWithin(widget, editors_->Choices())) return ScreenFocus::Choices;
+    if (IsWithin(widget, editors_->Records())) return ScreenFocus::AddressBook;
+    if (IsWithin(widget, grid_)) return ScreenFocus::Grid;
+    if (widget == name_->Box()) return ScreenFocus::NameBox;
+    if (IsWithin(widget, documents_) || IsWithin(widget, options_)) return ScreenFocus::Documents;
+    const bool isButton = std::find(topButtons_.begin(), topButtons_.end(), widget) != topButtons_.end();
+    return isButton ? ScreenFocus::Buttons : ScreenFocus::Elsewhere;
+}
+
+/// The keyboard goes where the session has it.
+void MainWindow::ShowFocus() {
+    const ScreenFocus focus = desk_.Editor().focus;
+    const QWidget* now = focusWidget();
+    QWidget* wanted = WidgetOf(focus);
+    if (!wanted || !wanted->isEnabled() || (now && now->isEnabled() && FocusOf(now) == focus)) return;
+    wanted->setFocus(Qt::OtherFocusReason);
+}
+
+/// The session hears of every move of the keyboard that the person makes.
+void MainWindow::FocusMoved(QWidget*, QWidget* to) {
+    if (showing_ || desk_.IsBusy() || !to || !isAncestorOf(to)) return;
+    const ScreenFocus focus = FocusOf(to);
+    if (focus != desk_.Editor().focus)
+        desk_.DoQuietly([focus](MainScreen& screen) { screen.LoseFocus(focus); });
+    if (to == name_->Box()) {
+        desk_.DoQuietly([](MainScreen& screen) { screen.FocusName(); });
+        if (!name_->Box()->isReadOnly()) name_->Box()->selectAll();
+    }
+    if (to == documents_->Catalogue()) desk_.DoQuietly([](MainScreen& screen) { screen.FocusList1(); });
+    if (to == documents_->JobList()) desk_.DoQuietly([](MainScreen& screen) { screen.FocusList2(); });
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!desk_.Screen().HasEnded()) desk_.Do([](MainScreen& screen) { screen.Close(); });
+    if (!desk_.Screen().HasEnded()) return event->ignore();
+    event->accept();
+    Q_EMIT Closed();
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ThemeChange) {
+        appearance_.TakeSystemPalette();
+        ShowState();
+    }
+}
+
+void MainWindow::Restore(const WindowPlacement& placement) {
+    view_->Dim(static_cast<int>(placement.slider));
+    appearance_.SetScale(static_cast<int>(placement.scale * 100 + 0.5));
+    view_->ShowScale();
+    FitLeft();
+    const QRect wanted(static_cast<int>(placement.left / kTwipsPerPixel),
+                       static_cast<int>(placement.top / kTwipsPerPixel),
+                       static_cast<int>(placement.width / kTwipsPerPixel),
+                       static_cast<int>(placement.height / kTwipsPerPixel));
+    const QScreen* on = QApplication::screenAt(wanted.center());
+    const QRect available = (on ? on : QWidget::screen())->availableGeometry();
+    resize(wanted.size().expandedTo(minimumSizeHint()).boundedTo(available.size()));
+    move(std::clamp(wanted.left(), available.left(), std::max(available.left(), available.right() - width())),
+         std::clamp(wanted.top(), available.top(), std::max(available.top(), available.bottom() - height())));
+}
+
+WindowPlacement MainWindow::Placement() const {
+    const QRect place(isMaximized() ? normalGeometry() : QRect(pos(), size()));
+    return {.height = place.height() * kTwipsPerPixel,
+            .left = place.left() * kTwipsPerPixel,
+            .top = place.top() * kTwipsPerPixel,
+            .width = place.width() * kTwipsPerPixel,
+            .scale = appearance_.Scale() / 100.0,
+            .slider = static_cast<double>(appearance_.Dimming())};
+}
+
+}  // namespace quillmark::desktop

@@ -1,0 +1,166 @@
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "desktop/companions/guide_window.h"
+#include "desktop/companions/look.h"
+#include "desktop/main_window.h"
+
+/// Where everything stands on the main screen.
+namespace quillmark::desktop {
+
+namespace {
+
+constexpr int kLeftColumns = 50;  ///< width of the left side in characters
+
+// clang-format off
+constexpr std::string_view kMainButtons[] = {"cmdOpen", "cmdCreate", "cmdReset", "cmdExit"};
+constexpr std::string_view kSideButtons[] = {"cmdTemplate", "cmdPackages", "cmdCustom", "cmdEnvelopes", "cmdOP236"};
+
+struct WelcomeStep {
+    const char* head;
+    const char* text;
+};
+constexpr WelcomeStep kWelcome[] = {
+    {"1.  Name the job",        "Type a name, such as \"Smith - 101 Any Street\", and press Enter."},
+    {"2.  Choose the documents", "Set who sells and who buys, then double-click documents or a package."},
+    {"3.  Fill in the fields",   "They appear here. Enter goes from one to the next."},
+    {"4.  CREATE",               "The documents are made, ready to print and sign."},
+};
+// clang-format on
+
+}  // namespace
+
+void MainWindow::Arrange() {
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setSpacing(10);
+    left_ = MakeLeft();
+    layout->addWidget(left_);
+    layout->addWidget(MakeRight(), 1);
+    FitLeft();
+}
+
+void MainWindow::FitLeft() {
+    left_->setFixedWidth(
+        std::max(fontMetrics().averageCharWidth() * kLeftColumns, options_->sizeHint().width()));
+}
+
+QWidget* MainWindow::MakeLeft() {
+    auto* left = new QWidget(this);
+    auto* layout = new QVBoxLayout(left);
+    layout->setContentsMargins({});
+    layout->setSpacing(6);
+    name_ = new NamePanel(desk_, buttons_, appearance_, left);
+    options_ = new OptionPanel(desk_, left);
+    documents_ = new DocumentPanel(desk_, left);
+    layout->addWidget(name_);
+    layout->addWidget(options_);
+    layout->addWidget(documents_, 1);
+    return left;
+}
+
+QWidget* MainWindow::MakeRight() {
+    auto* right = new QWidget(this);
+    auto* layout = new QVBoxLayout(right);
+    layout->setContentsMargins({});
+    layout->setSpacing(6);
+    jump_ = new JumpBar(desk_, appearance_, right);
+    guidance_ = new GuidanceBar(desk_, appearance_, right);
+    pages_ = new QStackedWidget(right);
+    grid_ = new GridView(desk_, appearance_, pages_);
+    List3_ = new SettingsView(pages_);
+    List3_->setObjectName(QStringLiteral("List3"));
+    welcome_ = MakeWelcome();
+    for (QWidget* page : {static_cast<QWidget*>(grid_), static_cast<QWidget*>(List3_), welcome_})
+        pages_->addWidget(page);
+    layout->addLayout(MakeButtonRow(right));
+    layout->addWidget(guidance_);
+    layout->addWidget(jump_);
+    layout->addWidget(pages_, 1);
+    layout->addLayout(MakeFooter(right));
+    return right;
+}
+
+QLayout* MainWindow::MakeButtonRow(QWidget* parent) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4);
+    for (const std::string_view name : kMainButtons) topButtons_.push_back(buttons_.Make(name, parent));
+    for (const std::string_view name : kSideButtons) topButtons_.push_back(buttons_.Make(name, parent));
+    for (QPushButton* button : topButtons_) {
+        button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);
+        button->setMinimumHeight(2 * fontMetrics().lineSpacing() + 12);
+        if (button == topButtons_[std::size(kMainButtons)]) row->addStretch(1);
+        row->addWidget(button, 2);
+    }
+    return row;
+}
+
+/// What stands in the grid's place while there is no job.
+QWidget* MainWindow::MakeWelcome() {
+    auto* page = new QFrame(pages_);
+    page->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    page->setAutoFillBackground(true);
+    page->setBackgroundRole(QPalette::Base);
+    auto* logo = new QLabel(page);
+    logo->setPixmap(QPixmap(QStringLiteral(":/icons/quillmark-128.png")));
+    logo->setAlignment(Qt::AlignCenter);
+    logo->setAccessibleName(tr("Quillmark"));
+    auto* layout = new QVBoxLayout(page);
+    layout->addStretch(2);
+    layout->addWidget(logo);
+    layout->addSpacing(16);
+    for (const WelcomeStep& step : kWelcome) {
+        auto* text = new QLabel(QStringLiteral("<b>%1</b><br>%2").arg(tr(step.head), tr(step.text)), page);
+        text->setAlignment(Qt::AlignCenter);
+        text->setWordWrap(true);
+        layout->addWidget(text);
+        layout->addSpacing(6);
+    }
+    layout->addStretch(3);
+    return page;
+}
+
+QLayout* MainWindow::MakeFooter(QWidget* parent) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    counters_ = new QLabel(parent);
+    view_ = new ViewControls(appearance_, parent);
+    row->addWidget(counters_);
+    row->addStretch(1);
+    row->addWidget(buttons_.Make("cmdPrintFList", parent));
+    row->addWidget(MakeMore(parent));
+    row->addWidget(view_);
+    return row;
+}
+
+QWidget* MainWindow::MakeMore(QWidget* parent) {
+    auto* more = new QPushButton(tr("Tools and &help"), parent);
+    more->setAutoDefault(false);
+    Describe(more, tr("Tools and help"), tr("calculator, address books, the user's guide"));
+    auto* menu = new QMenu(more);
+    menu->setAttribute(Qt::WA_WindowPropagation);
+    menu->addAction(tr("Proration &calculator"), Qt::Key_F9, &flow_, &CompanionFlow::OpenCalculator)
+        ->setShortcutContext(Qt::WidgetShortcut);
+    menu->addAction(tr("Lawfirms / &Attorneys"), this,
+                    [this] { flow_.OpenAddresses(AddressBook::Attorneys); });
+    menu->addAction(tr("Lenders / &Servicers"), this,
+                    [this] { flow_.OpenAddresses(AddressBook::Servicers); });
+    menu->addSeparator();
+    menu->addAction(tr("User's &guide\tF1"), this, [this] { ShowGuide(this, "index"); });
+    more->setMenu(menu);
+    return more;
+}
+
+/// From the name down to the grid, then what is done with the job, then what stands below.
+void MainWindow::SetTabOrder() {
+    std::vector<QWidget*> order = {name_->Box()};
+    for (QRadioButton* option : options_->findChildren<QRadioButton*>()) order.push_back(option);
+    order.insert(order.end(), {documents_->Catalogue(), documents_->JobList(), grid_, List3_});
+    order.insert(order.end(), topButtons_.begin(), topButtons_.end());
+    for (QPushButton* label : jump_->findChildren<QPushButton*>()) order.push_back(label);
+    for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+}
+
+}  // namespace quillmark::desktop

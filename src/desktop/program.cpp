@@ -1,0 +1,134 @@
+#include "desktop/program.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include "desktop/companions/book_wait.h"
+#include "desktop/companions/first_run_window.h"
+#include "desktop/companions/guard.h"
+#include "platform/paths.h"
+#include "session/program_folder.h"
+#include "session/upkeep.h"
+#include "word/start.h"
+
+namespace quillmark::desktop {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The name of the job that a word of the command line means: that of a job file, or the word itself.
+std::string JobOf(const std::string& word) {
+    const fs::path file = PathOf(word);
+    return Lowered(TextOf(file.extension())) == ".dat" ? TextOf(file.stem()) : word;
+}
+
+std::chrono::year_month_day DateOfFile(const fs::path& file) {
+    const auto written = std::chrono::file_clock::to_sys(fs::last_write_time(file));
+    return std::chrono::floor<std::chrono::days>(written);
+}
+
+}  // namespace
+
+fs::path ProgramFile() {
+    return PathOf(Utf8(QCoreApplication::applicationFilePath()));
+}
+
+DialogButton ShowingDialogs::Show(const MessageDialog& box) {
+    if (beforeBox) beforeBox();
+    return shown_.Show(box);
+}
+
+std::optional<std::string> ShowingDialogs::Ask(const InputDialog& box) {
+    if (beforeBox) beforeBox();
+    return shown_.Ask(box);
+}
+
+Program::Program(LaunchOrder order) : order_(std::move(order)) {
+    if (order_.folder.empty())
+        order_.folder = DefaultProgramFolder(fs::current_path(), ProgramFile(), shell_);
+    order_.folder = fs::absolute(order_.folder);
+    screen_ = std::make_unique<MainScreen>(order_.folder, MachineAround());
+    window_ = std::make_unique<MainWindow>(*screen_, opener_);
+    boxes_.SetParent(window_.get());
+    dialogs_.beforeBox = [this] {
+        window_->ShowState();
+        window_->show();
+    };
+    connect(&instance_, &SingleInstance::Called, this, &Program::Raise);
+    connect(window_.get(), &MainWindow::Closed, this, &Program::KeepPlacement);
+}
+
+/// Upgrades are looked for when the window is up (LookForUpgrade), not while the person waits for it.
+Machine Program::MachineAround() {
+    Machine machine{.clock = clock_, .dialogs = dialogs_, .shell = shell_};
+    machine.startWord = [this] {
+        word::StartedWordProcessor started = word::StartWordProcessor(word::WordProcessor::Automatic);
+        opener_.SetShownElsewhere(!started.isEmbedded);
+        return started;
+    };
+    if (!order_.shared) machine.handOver = [this] { return instance_.HandOver(); };
+    machine.programFile = ProgramFile();
+    machine.waitForBooks = [this, wait = WaitForBooks()](const BooksInUse& use) mutable {
+        if (!wait) wait = WaitingForBooks(window_.get());
+        return wait(use);
+    };
+    machine.onProgress = [this] { window_->ShowProgress(); };
+    return machine;
+}
+
+bool Program::Start() {
+    if (order_.upgrade) {
+        StartUpgrade(order_.folder, shell_);
+        return false;
+    }
+    SetUpFirstRun();
+    if (!screen_->Start()) return false;
+    if (const auto placement = ReadWindowPlacement(order_.folder)) window_->Restore(*placement);
+    window_->ShowState();
+    window_->show();
+    if (!order_.job.empty()) OpenJob();
+    QTimer::singleShot(0, this, [this] {
+        if (firstRun_ && order_.job.empty()) Welcome(window_.get(), *screen_);
+        window_->ShowState();
+        LookForUpgrade();
+    });
+    return true;
+}
+
+void Program::SetUpFirstRun() {
+    firstRun_ = IsFirstRun(order_.folder);
+    if (firstRun_) SetUpProgramFolder(order_.folder, SeedFiles());
+}
+
+void Program::OpenJob() {
+    window_->CommandDesk().Do([this](MainScreen& screen) {
+        screen.OpenBrowser(false);
+        screen.LoadJob(JobOf(order_.job), false);
+        if (screen.BrowserOpen()) screen.CloseBrowser();
+    });
+}
+
+void Program::LookForUpgrade() {
+    Guarded(window_.get(), [this] {
+        const fs::path file = ProgramFile();
+        if (!fs::exists(file) || !OffersUpgrade(order_.folder, DateOfFile(file), http_, shell_, dialogs_))
+            return;
+        window_->close();
+    });
+}
+
+void Program::KeepPlacement() {
+    Guarded(window_.get(), [this] {
+        if (!window_->isMinimized()) WriteWindowPlacement(order_.folder, window_->Placement());
+    });
+    QCoreApplication::quit();
+}
+
+void Program::Raise() {
+    if (window_->isMinimized()) window_->showNormal();
+    window_->raise();
+    window_->activateWindow();
+}
+
+}  // namespace quillmark::desktop

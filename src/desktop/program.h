@@ -1,0 +1,73 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "desktop/companions/dialogs.h"
+#include "desktop/document_opener.h"
+#include "desktop/http_client.h"
+#include "desktop/main_window.h"
+#include "desktop/single_instance.h"
+
+namespace quillmark::desktop {
+
+/// What the command line asks for.
+struct LaunchOrder {
+    std::filesystem::path folder;  ///< the program folder; empty for the usual one
+    std::string job;               ///< a job's name, or the path of its file; empty for none
+    bool upgrade = false;          ///< run the upgrade tool and end
+    bool shared = false;           ///< several copies may run
+};
+
+/// Shows the state of the window before each box, so that what the box is about stands behind it.
+class ShowingDialogs final : public Dialogs {
+ public:
+    explicit ShowingDialogs(Dialogs& shown) : shown_(shown) {}
+
+    DialogButton Show(const MessageDialog& box) override;
+    std::optional<std::string> Ask(const InputDialog& box) override;
+
+    std::function<void()> beforeBox;
+
+ private:
+    Dialogs& shown_;
+};
+
+/// The program from its start to its end: the machine around the session, the session, its window.
+class Program final : public QObject {
+    Q_OBJECT
+
+ public:
+    explicit Program(LaunchOrder order);
+
+    /// Shows the window with the name box ready, or the job that was asked for. False when the program is to
+    /// end at once.
+    bool Start();
+    MainWindow& Window() { return *window_; }
+
+ private:
+    Machine MachineAround();
+    void SetUpFirstRun();
+    void OpenJob();
+    void LookForUpgrade();
+    void KeepPlacement();
+    void Raise();
+
+    LaunchOrder order_;
+    bool firstRun_ = false;
+    SystemClock clock_;
+    SystemShell shell_;
+    QtHttpClient http_;
+    QtDialogs boxes_;
+    ShowingDialogs dialogs_{boxes_};
+    DocumentOpener opener_{shell_};
+    SingleInstance instance_;
+    std::unique_ptr<MainScreen> screen_;
+    std::unique_ptr<MainWindow> window_;
+};
+
+/// The file of this program; empty where the system does not tell.
+std::filesystem::path ProgramFile();
+
+}  // namespace quillmark::desktop

@@ -1,0 +1,177 @@
+#include <algorithm>
+#include <vector>
+
+#include "core/text_conversions.h"
+#include "production/job_values.h"
+#include "production/statement_lines.h"
+#include "production/typing.h"
+
+namespace quillmark {
+
+using namespace field;
+
+namespace {
+
+constexpr double kRightColumn = 3.75;
+/// Where the realtors' blanks stand behind their labels, and the figures behind theirs.
+constexpr double kLeftBlank = 0.75;
+constexpr double kRightBlank = 4.5;
+constexpr double kFigure = 5;
+
+using Lines = std::vector<std::string>;
+
+/// A line to write on, as long as a column takes beside its label.
+std::string Blank() {
+    return RepeatUnderscore(25);
+}
+
+std::string ValueOrBlank(const JobValues& job, Field n) {
+    return job.IsFilled(n) ? job[n] : Blank();
+}
+
+/// Two columns side by side, whichever is longer.
+void TypeColumns(Typist& type, Lines left, Lines right) {
+    const std::size_t rows = std::max(left.size(), right.size());
+    left.resize(rows);
+    right.resize(rows);
+    for (std::size_t row = 0; row < rows; ++row) type.Text(left[row], "\t", right[row], "\r");
+    type.Text("\r");
+}
+
+void AddAddress(Lines& lines, const JobValues& job, Field addr1, Field addr2, Field cityStateZip) {
+    lines.push_back(job[addr1]);
+    if (job.IsFilled(addr2)) lines.push_back(job[addr2]);
+    lines.push_back(job[cityStateZip]);
+}
+
+void AddTelephones(Lines& lines, const JobValues& job, Field taxId) {
+    lines.insert(lines.end(), {"Tax ID#:  " + job[taxId], "Home:  " + Blank(), "Work:  " + Blank()});
+}
+
+Lines Seller1(const JobValues& job) {
+    Lines lines = {job[Seller1Name]};
+    AddAddress(lines, job, Seller1Addr1, Seller1Addr2, Seller1CityStateZip);
+    if (job.Has(Entity)) lines.push_back(job[Seller1Agent]);
+    AddTelephones(lines, job, Seller1TaxId);
+    return lines;
+}
+
+Lines Seller2(const JobValues& job) {
+    if (!job.Has(TwoSellers)) return {};
+    Lines lines = {job[Seller2Name]};
+    AddAddress(lines, job, Seller2Addr1, Seller2Addr2, Seller2CityStateZip);
+    AddTelephones(lines, job, Seller2TaxId);
+    return lines;
+}
+
+Lines Buyer1(const JobValues& job) {
+    Lines lines = {job[Buyer1Name]};
+    AddAddress(lines, job, Buyer1Addr1, Buyer1Addr2, Buyer1CityStateZip);
+    AddTelephones(lines, job, Buyer1TaxId);
+    return lines;
+}
+
+Lines Buyer2(const JobValues& job) {
+    if (!job.Has(TwoBuyers)) return {};
+    Lines lines = {job[Buyer2Name]};
+    AddAddress(lines, job, Buyer2Addr1, Buyer2Addr2, Buyer2CityStateZip);
+    AddTelephones(lines, job, Buyer2TaxId);
+    return lines;
+}
+
+void TypeRealtors(const JobValues& job, Typist& type) {
+    const std::string fiveBlanks(5, ' ');
+    type.TypeBold("Realtor 1");
+    type.Text(fiveBlanks, job[Realtor1Name], "\t");
+    type.TypeBold("Realtor 2");
+    type.Text(fiveBlanks, ValueOrBlank(job, Realtor2Name), RepeatReturn(2));
+    type.AddTab(kLeftBlank);
+    type.AddTab(kRightBlank);
+    Lines rows;
+    for (const char* label : {"Agent:", "Addr1:", "Addr2:", "City:", "Phone:", "Fax:", "Email:"})
+        rows.push_back(label + ("\t" + Blank()));
+    TypeColumns(type, rows, rows);
+    type.ClearTab(kLeftBlank);
+    type.ClearTab(kRightBlank);
+}
+
+Lines BuyersAttorney(const JobValues& job) {
+    Lines lines = {job[BuyerAtty]};
+    // A firm without a name of its own bears its attorney's.
+    if (job.IsFilled(BuyerLawfirm) && job[BuyerLawfirm] != job[BuyerAtty])
+        lines.insert(lines.begin(), job[BuyerLawfirm]);
+    AddAddress(lines, job, BuyerAttyAddr1, BuyerAttyAddr2, BuyerAttyCityStateZip);
+    lines.insert(lines.end(), {"Phone:  " + job[BuyerAttyPhone], "Fax:  " + job[BuyerAttyFax]});
+    return lines;
+}
+
+Lines Notes(const JobValues& job, std::size_t rows) {
+    Lines lines = {"seller's agent:   " + (job.Has(Entity) ? job[Seller1Agent] : Blank())};
+    lines.resize(rows, SignatureRule());
+    return lines;
+}
+
+Lines SellersAttorney(const JobValues& job) {
+    Lines lines = {job[SellerLawfirm]};
+    AddAddress(lines, job, SellerAttyAddr1, SellerAttyAddr2, SellerAttyCityStateZip);
+    lines.insert(lines.end(), {"Phone:  " + job[SellerAttyPhone], "Fax:  " + job[SellerAttyFax]});
+    return lines;
+}
+
+/// Amounts that the job does not know are left to be written in; so is the balance that needs them.
+Lines Figures(const JobValues& job) {
+    const auto shown = [&](Field n) { return "$" + FigureText(AmountOf(job[n])); };
+    const auto deposit = [&](Field n) { return job.IsFilled(n) ? shown(n) : Blank(); };
+    const bool hasPrice = job.IsFilled(SalePriceNumeric);
+    const bool hasDeposits = job.IsFilled(BinderDeposit) || job.IsFilled(ContractDeposit);
+    const double deposits = AmountOf(job[BinderDeposit]) + AmountOf(job[ContractDeposit]);
+    const double balance = AmountOf(job[SalePriceNumeric]) - deposits;
+    return {
+        "Closing Date:\t" + job[ClosingDate],
+        "Sale Price:\t" + (hasPrice ? shown(SalePriceNumeric) : job[SalePriceNumeric]),
+        "Binder Deposit:\t" + deposit(BinderDeposit),
+        "Contract Deposit:\t" + deposit(ContractDeposit),
+        "Total Deposits:\t" + (hasDeposits ? "$" + FigureText(deposits) : Blank()),
+        "Balance:\t" + (hasPrice && hasDeposits ? "$" + FigureText(balance) : Blank()),
+    };
+}
+
+void TypeHeadings(Typist& type, std::string_view left, std::string_view right) {
+    type.TypeBold(left, "\t", right, RepeatReturn(2));
+}
+
+void TypeRule(Typist& type) {
+    type.Text(RepeatUnderscore(86), RepeatReturn(2));
+}
+
+}  // namespace
+
+void TypeFileSummarySheet(const JobValues& job, Typist& type) {
+    type.Indents(0);
+    type.Align(word::AlignLeft);
+    type.Font("Arial", 10);
+    type.Bold(false);
+    type.Italic(false);
+    type.AddTab(kRightColumn);
+
+    type.Text(job.TwoLines(PropertyAddress1), ", ", job.Town(PropertyCityStateZip), RepeatReturn(2));
+    TypeHeadings(type, "Seller 1 Information", "Seller 2 Information");
+    TypeColumns(type, Seller1(job), Seller2(job));
+    TypeHeadings(type, "Buyer 1 Information", "Buyer 2 Information");
+    TypeColumns(type, Buyer1(job), Buyer2(job));
+    TypeRule(type);
+
+    TypeRealtors(job, type);
+    TypeHeadings(type, "Buyer's Attorney", "NOTES");
+    const Lines attorney = BuyersAttorney(job);
+    TypeColumns(type, attorney, Notes(job, attorney.size()));
+    TypeRule(type);
+
+    TypeHeadings(type, "Seller's Attorney", "Figures");
+    type.AddTab(kFigure);
+    TypeColumns(type, SellersAttorney(job), Figures(job));
+    type.ClearTab(kRightColumn);
+    type.ClearTab(kFigure);
+}
+
+}  // namespace quillmark

@@ -1,0 +1,87 @@
+#include <algorithm>
+
+#include "entry/companions.h"
+#include "entry/questions.h"
+#include "selection/field_listing.h"
+#include "selection/field_rows.h"
+#include "session/grid_editor.h"
+
+namespace quillmark {
+
+namespace {
+
+constexpr int kBuyerAttorney = 12;
+constexpr int kFiduciaryType = 209;
+
+}  // namespace
+
+void GridEditor::ClickDay(std::chrono::year_month_day day, bool twice) {
+    RequireEditor(EditorKind::Line);
+    Require(state_.MonthView1.has_value(), "the calendar does not show");
+    Require(day.ok(), "there is no such day");
+    state_.MonthView1 = day;
+    const std::string date = LongDate(day);
+    state_.txtEdit = {date, date.size(), 0};
+    state_.focus = ScreenFocus::Calendar;
+    if (twice) CommitAndAdvance();
+}
+
+void GridEditor::KeyInCalendar(EditorKey key, std::chrono::year_month_day day) {
+    RequireEditor(EditorKind::Line);
+    Require(state_.MonthView1.has_value(), "the calendar does not show");
+    if (key == EditorKey::Escape) return Leave();
+    if (key == EditorKey::Up) return ClickDay(day, true);
+    CommitAndAdvance();
+}
+
+void GridEditor::PickChoice(std::size_t line) {
+    RequireEditor(EditorKind::Line);
+    Require(state_.Combo1.open && line < state_.Combo1.lines.size(), "the choice list has no such line");
+    CommitChoice(std::string(state_.Combo1.lines[line]));
+}
+
+void GridEditor::KeyInChoices(EditorKey key, std::string_view text) {
+    RequireEditor(EditorKind::Line);
+    Require(state_.Combo1.open || state_.Combo2, "no list is open");
+    if (key == EditorKey::Escape) return Leave();
+    if (key == EditorKey::Up || key == EditorKey::Down || !state_.Combo1.open) return;
+    const auto& lines = state_.Combo1.lines;
+    Require(!state_.Combo1.fixed || std::find(lines.begin(), lines.end(), text) != lines.end(),
+            "the field can only be picked from its list");
+    if (!RefusesText(text)) CommitChoice(std::string(text));
+}
+
+void GridEditor::CommitChoice(std::string_view text) {
+    if (state_.EditField == kFiduciaryType && !AskForCompanionOf(text)) return Leave();
+    state_.txtEdit = {std::string(text), text.size(), 0};
+    CommitAndAdvance();
+}
+
+bool GridEditor::AskForCompanionOf(std::string_view choice) {
+    const auto companion = CompanionOf(choice, screen_.job);
+    if (!companion) return true;
+    const std::string before = screen_.job.D(companion->n);
+    bool answered = false;
+    {
+        const StandingQuestion guard(&state_.EditRow);
+        answered = AskForCompanion(choice, screen_, office_);
+    }
+    if (screen_.job.D(companion->n) != before) around_.fieldChanged(companion->n);
+    return answered;
+}
+
+void GridEditor::PickRecord(std::size_t line) {
+    Require(state_.Combo2 && line < state_.Combo2->lines.size(), "the address book has no such line");
+    if (line == 0) return;
+    const bool attorneyHasRow = FindRow(kBuyerAttorney, screen_) != nullptr;
+    const std::vector<FieldText> block = FieldsOfPick(*state_.Combo2, line, attorneyHasRow);
+    Leave();
+    state_.markedRow = -1;
+    for (const FieldText& field : block) {
+        const std::string before = screen_.job.D(field.n);
+        UpdateListing(field.n, field.text, screen_, office_, {}, {.filling = true});
+        if (screen_.job.D(field.n) != before) around_.fieldChanged(field.n);
+    }
+}
+
+}  // namespace quillmark

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <stdexcept>
+
+namespace quillmark {
+
+/// What the screen would not allow in its present state: a disabled button, a hidden option, a line that is
+/// not in the list. Nothing has changed.
+class NotAllowed : public std::runtime_error {
+ public:
+    using std::runtime_error::runtime_error;
+};
+
+}  // namespace quillmark
