@@ -37,8 +37,8 @@ struct Mnemonic {
 };
 constexpr Mnemonic kMnemonics[] = {
     {"OPEN", 'O'},      {"EDIT", 'E'},     {"SAVE", 'S'},     {"CREATE", 'C'},    {"Re-Make", 'M'},
-    {"RESET", 'R'},     {"EXIT", 'X'},     {"EMAIL", 'A'},    {"TEMPLATES", 'T'}, {"PACKAGES", 'P'},
-    {"CUSTOM", 'U'},    {"Rename", 'N'},   {"Name As", 'N'},  {"envelopes", 'v'}, {"OP-236", '2'},
+    {"RESET", 'R'},     {"EXIT", 'X'},     {"EMAIL", 'A'},    {"TEMPLATES", 'T'}, {"PACKAGES", 'K'},
+    {"CUSTOM", 'U'},    {"Rename", 'N'},   {"Name As", 'N'},  {"envelopes", 'v'}, {"OP-236", 'P'},
     {"  PRINT", 'F'},   {"PRINT", 'F'},    {"Re-Select", 'l'},
 };
 // clang-format on
@@ -55,7 +55,7 @@ QString MarkedCaption(std::string_view caption) {
     const auto key = std::find_if(std::begin(kMnemonics), std::end(kMnemonics),
                                   [&](const Mnemonic& row) { return caption.starts_with(row.caption); });
     if (key == std::end(kMnemonics)) return text;
-    return text.insert(text.indexOf(QLatin1Char(key->letter)), QLatin1Char('&'));
+    return text.insert(text.indexOf(QLatin1Char(key->letter), 0, Qt::CaseInsensitive), QLatin1Char('&'));
 }
 
 MainButtons::MainButtons(Desk& desk, const Appearance& appearance, QObject* parent)

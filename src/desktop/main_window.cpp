@@ -161,7 +161,8 @@ void MainWindow::ShowFocus() {
     const ScreenFocus focus = desk_.Editor().focus;
     const QWidget* now = focusWidget();
     QWidget* wanted = WidgetOf(focus);
-    if (!wanted || !wanted->isEnabled() || (now && now->isEnabled() && FocusOf(now) == focus)) return;
+    const bool hasIt = now && now->isEnabled() && now->isVisible() && FocusOf(now) == focus;
+    if (!wanted || !wanted->isEnabled() || hasIt) return;
     wanted->setFocus(Qt::OtherFocusReason);
 }
 

@@ -20,8 +20,11 @@ std::string TitleOf(int n) {
     return std::string(marker.substr(1, marker.size() - 2)) + "  ";
 }
 
+/// Nothing is to be known about a zero, however it is written.
 bool IsAmount(std::string_view value) {
-    return value.starts_with('$') || LeadingNumber(value) > 0;
+    const std::string_view text = LeftTrimmed(value);
+    if (text.starts_with('$')) return ReadNumber(text.substr(0, text.find_first_of("-=", 1))) != 0.0;
+    return LeadingNumber(text) > 0;
 }
 
 /// A commission with "=" is asked about; what keeps its question away is the other commission's binder.

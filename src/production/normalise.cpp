@@ -17,10 +17,11 @@ constexpr field::Field kMayStayBlank[] = {
 constexpr std::uint16_t kBlankTime = 8;
 constexpr std::uint16_t kBlankDate = 16;
 
-/// Documents for a single seller never ask whose power it is.
-bool AsksForPrincipal(const Job& job) {
+/// A document that names the principal left the marker in the value, also where its field takes no row: with a
+/// single seller nobody is asked whose power it is.
+bool NamesPrincipal(const Job& job) {
     return job.txtField(field::PrincipalOfPower).relevant ||
-           (job.optConf(PowerOfAttorney) && !job.optConf(TwoSellers));
+           job.D(field::PrincipalOfPower) == FieldMarker(field::PrincipalOfPower);
 }
 
 }  // namespace
@@ -57,7 +58,7 @@ void NormalisedValues::DateDocuments(std::chrono::year_month_day today) {
 }
 
 void NormalisedValues::NamePrincipal() {
-    if (AsksForPrincipal(job_) && !job_.IsFilled(field::PrincipalOfPower) &&
+    if (NamesPrincipal(job_) && !job_.IsFilled(field::PrincipalOfPower) &&
         job_.IsFilled(field::Seller1Name))
         Put(field::PrincipalOfPower, job_.D(field::Seller1Name));
 }

@@ -108,7 +108,7 @@ void DrawOptionTags(GridRow& row, const SelectionState& screen) {
     row.notes = {};
     row.lit = {false, false};
     const TagFamily family = TagFamilyOf(row.n);
-    if (family == TagFamily::None || row.value.empty()) return;
+    if (family == TagFamily::None) return;
     if (family == TagFamily::Payoff && !PayoffShowsNotes(row.value, screen)) return;
     if (family == TagFamily::Sewer && row.value == "POC") return;
     for (const Captions& captions : kCaptions) {

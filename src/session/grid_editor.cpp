@@ -41,6 +41,7 @@ void GridEditor::ClickNote(int row, int column) {
     GridRow& clicked = RowAt(row);
     Require(!clicked.locked, "the field is locked");
     Require(IsNoteCell(clicked, column), "the row has no such note cell");
+    Require(screen_.job.IsFilled(clicked.n), "the field has no value to note this of");
     LoseFocus(ScreenFocus::Grid);
     if (LacksTemplateName() || !BeginsFieldEntry()) return;
     const std::string before = screen_.job.D(clicked.n);

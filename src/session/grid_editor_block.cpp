@@ -28,7 +28,8 @@ void GridEditor::SetBlockText(EditorText editor) {
         if (RefusesText(text)) return;
         const bool gaveWay =
             std::exchange(blockUntouched_, false) && (state_.ImageInField || IsPlaceholder(state_.txtBlock));
-        const bool wasReplaced = state_.blockSelection == state_.txtBlock.size();
+        const bool wasReplaced = state_.blockSelection == state_.txtBlock.size() &&
+                                 text.find(state_.txtBlock) == std::string::npos;
         if (gaveWay && !wasReplaced) {
             text = WhatWasPutIn(state_.txtBlock, text);
             editor = {text, text.size(), 0};

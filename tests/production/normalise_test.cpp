@@ -79,9 +79,10 @@ TEST_F(Normalising, SomeHolesAreBlanksOnPaper) {
 
 TEST_F(Normalising, ThePrincipalIsTheFirstSellerUnlessNamed) {
     job.SetField(Seller1Name, "Ann Lee");
-    NormalisedValues noPower(job, kToday);
-    EXPECT_EQ(job.D(PrincipalOfPower), "[principal of power]");
-    job.SetOption(PowerOfAttorney, true);
+    job.SetValue(PrincipalOfPower, "");
+    NormalisedValues noDocumentNamesHim(job, kToday);
+    EXPECT_EQ(job.D(PrincipalOfPower), "");
+    job.SetValue(PrincipalOfPower, "[principal of power]");
     NormalisedValues singleSeller(job, kToday);
     EXPECT_EQ(job.D(PrincipalOfPower), "Ann Lee");
     job.SetField(PrincipalOfPower, "Bob Lee");

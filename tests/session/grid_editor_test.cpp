@@ -200,24 +200,24 @@ TEST_F(GridEditing, AnAddressBookFillsItsBlock) {
 }
 
 TEST_F(GridEditing, AFiduciaryIsPickedAndBringsItsCompanion) {
-    StartWith({"Deed / Executor", "Trustee's Affidavit"});
+    StartWith({"Owner's Affidavit", "Trustee's Affidavit"});
     screen->ClickOption(EstateTrust);
     Click(209);
     ASSERT_TRUE(Editor().Combo1.open && Editor().Combo1.fixed);
-    Type("E");
+    Type("T");
     EXPECT_EQ("please select from list ...", Editor().txtEdit.text);
     screen->LoseFocus(ScreenFocus::Elsewhere);
     EXPECT_NE("please select from list ...", Value(209));
     Click(209);
     Answer({""});
-    screen->PickChoice(2);
-    EXPECT_NE("Executor", Value(209)) << "not without the decedent";
+    screen->PickChoice(4);
+    EXPECT_NE("Trustee", Value(209)) << "not without the trust";
     EXPECT_EQ(ScreenFocus::Grid, Editor().focus);
     Click(209);
-    Answer({"John Abbott"});
-    screen->PickChoice(2);
-    EXPECT_EQ("Executor", Value(209));
-    EXPECT_EQ("John Abbott", Value(45));
+    Answer({"Abbott Family Trust"});
+    screen->PickChoice(4);
+    EXPECT_EQ("Trustee", Value(209));
+    EXPECT_EQ("Abbott Family Trust", Value(206));
 }
 
 TEST_F(GridEditing, ScheduleATakesLinesAndPictures) {
@@ -280,8 +280,10 @@ TEST_F(GridEditing, LeavingTheEditorCommitsExceptForTheTopBarWithNothingToSave) 
     EXPECT_EQ(-1, Editor().markedRow);
     EXPECT_EQ(" Click an item for edit.  Use Enter, Tab, or Up/Down Arrow keys to navigate", State().picInfo);
     Click(86);
+    Answer({"OK", "No"});
     Type("6%");
-    EXPECT_EQ("No sale price given", LastBox());
+    EXPECT_EQ("No sale price given", dialogs.Shown().at(dialogs.Shown().size() - 2).text);
+    EXPECT_EQ("$6.00 - N", Value(86)) << "what was typed is kept";
     EXPECT_EQ(RowOf(76), Editor().EditRow);
     screen->ClickJumpLabel(3);
     EXPECT_EQ(State().lblJump[3].headingRow, Editor().topRow);
