@@ -20,10 +20,15 @@ class Office {
     Office() {
         fs::remove_all(folder);
         fs::create_directories(folder / "data");
+        FirmDefaults defaults;
+        defaults.Set("[seller lawfirm]", "Hale & Hale");
+        WriteFirmDefaults(folder / "defaults.fld", defaults);
     }
     ~Office() { fs::remove_all(folder); }
 
-    LaunchOrder Order() const { return {.folder = folder, .job = {}, .upgrade = false, .shared = true}; }
+    LaunchOrder Order() const {
+        return {.folder = folder, .job = {}, .upgrade = false, .shared = true, .lookForUpgrade = false};
+    }
 
     const fs::path folder = fs::temp_directory_path() / "quillmark-desktop-bench";
 };
@@ -31,7 +36,6 @@ class Office {
 /// What the toolkit itself takes before it comes to this is left out.
 void StartToNameBox(benchmark::State& state) {
     const Office office;
-    WriteFirmDefaults(office.folder / "defaults.fld", {});
     for (auto _ : state) {
         Program program(office.Order());
         program.Start();

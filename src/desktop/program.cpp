@@ -51,6 +51,7 @@ Program::Program(LaunchOrder order) : order_(std::move(order)) {
     screen_ = std::make_unique<MainScreen>(order_.folder, MachineAround());
     window_ = std::make_unique<MainWindow>(*screen_, opener_);
     boxes_.SetParent(window_.get());
+    printer_.SetParent(window_.get());
     dialogs_.beforeBox = [this] {
         window_->ShowState();
         window_->show();
@@ -68,6 +69,7 @@ Machine Program::MachineAround() {
         return started;
     };
     if (!order_.shared) machine.handOver = [this] { return instance_.HandOver(); };
+    machine.printer = &printer_;
     machine.programFile = ProgramFile();
     machine.waitForBooks = [this, wait = WaitForBooks()](const BooksInUse& use) mutable {
         if (!wait) wait = WaitingForBooks(window_.get());
@@ -91,7 +93,7 @@ bool Program::Start() {
     QTimer::singleShot(0, this, [this] {
         if (firstRun_ && order_.job.empty()) Welcome(window_.get(), *screen_);
         window_->ShowState();
-        LookForUpgrade();
+        if (order_.lookForUpgrade) LookForUpgrade();
     });
     return true;
 }

@@ -8,6 +8,7 @@
 #include "desktop/document_opener.h"
 #include "desktop/http_client.h"
 #include "desktop/main_window.h"
+#include "desktop/qt_printer.h"
 #include "desktop/single_instance.h"
 
 namespace quillmark::desktop {
@@ -18,6 +19,7 @@ struct LaunchOrder {
     std::string job;               ///< a job's name, or the path of its file; empty for none
     bool upgrade = false;          ///< run the upgrade tool and end
     bool shared = false;           ///< several copies may run
+    bool lookForUpgrade = true;    ///< ask the network whether there is a newer release
 };
 
 /// Shows the state of the window before each box, so that what the box is about stands behind it.
@@ -59,6 +61,7 @@ class Program final : public QObject {
     SystemClock clock_;
     SystemShell shell_;
     QtHttpClient http_;
+    QtPrinter printer_;
     QtDialogs boxes_;
     ShowingDialogs dialogs_{boxes_};
     DocumentOpener opener_{shell_};

@@ -94,13 +94,6 @@ std::vector<FieldText> FieldsOfPick(const DatabaseCombo& combo, std::size_t line
     return FieldsOfRecord(combo.field, combo.lines[line], attorneyHasRow);
 }
 
-void FillBlock(Job& job, const std::vector<FieldText>& fields) {
-    for (const FieldText& field : fields) {
-        job.txtField(field.n).locked = false;
-        job.SetField(field.n, field.text);
-    }
-}
-
 JobEntries EntriesOfJob(const Job& job) {
     JobEntries found;
     for (const Block& block : kBlocks) {

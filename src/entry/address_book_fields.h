@@ -45,9 +45,6 @@ std::vector<FieldText> FieldsOfRecord(int field, std::string_view record, bool a
 /// The same for a line of the drop-down; nothing for line 0 and for lines that it does not have.
 std::vector<FieldText> FieldsOfPick(const DatabaseCombo& combo, std::size_t line, bool attorneyHasRow);
 
-/// Sets the fields and unlocks them.
-void FillBlock(Job& job, const std::vector<FieldText>& fields);
-
 struct JobEntries {
     std::vector<BookEntry> entries;
     std::vector<std::string> leftOut;  ///< why an address cannot be kept in a book, for the user
