@@ -56,6 +56,7 @@ BusyOffice& Office() {
 }
 
 void StartToNameBox(benchmark::State& state) {
+    Office();  // its ten thousand jobs are there before the start that is measured
     for (auto _ : state) {
         MainScreen screen(Office().folder, Office().NewMachine());
         benchmark::DoNotOptimize(screen.Start());

@@ -50,7 +50,6 @@ void MainWindow::Connect() {
     });
     connect(List3_, &SettingsView::RowOpened, this,
             [this](std::size_t row) { desk_.Do([row](MainScreen& screen) { screen.EditSetting(row); }); });
-    connect(view_, &ViewControls::Resized, this, &MainWindow::FitLeft);
     connect(view_, &ViewControls::Dimmed, this, &MainWindow::ShowState);
     connect(qApp, &QApplication::focusChanged, this, &MainWindow::FocusMoved);
 }
@@ -189,6 +188,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 
 void MainWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange && left_) FitToFont();
     if (event->type() == QEvent::ThemeChange) {
         appearance_.TakeSystemPalette();
         ShowState();
@@ -199,7 +199,6 @@ void MainWindow::Restore(const WindowPlacement& placement) {
     view_->Dim(static_cast<int>(placement.slider));
     appearance_.SetScale(static_cast<int>(placement.scale * 100 + 0.5));
     view_->ShowScale();
-    FitLeft();
     const QRect wanted(static_cast<int>(placement.left / kTwipsPerPixel),
                        static_cast<int>(placement.top / kTwipsPerPixel),
                        static_cast<int>(placement.width / kTwipsPerPixel),

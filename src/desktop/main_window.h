@@ -65,7 +65,7 @@ class MainWindow final : public QWidget {
     void FocusMoved(QWidget* from, QWidget* to);
     ScreenFocus FocusOf(const QWidget* widget) const;
     QWidget* WidgetOf(ScreenFocus focus) const;
-    void FitLeft();
+    void FitToFont();
 
     Appearance appearance_;
     Desk desk_;
@@ -84,7 +84,7 @@ class MainWindow final : public QWidget {
     ProgressPanel* progress_;
     ViewControls* view_;
     QLabel* counters_;
-    QWidget* left_;
+    QWidget* left_ = nullptr;
     std::vector<QPushButton*> topButtons_;
     bool showing_ = false;
 };

@@ -39,10 +39,11 @@ void MainWindow::Arrange() {
     left_ = MakeLeft();
     layout->addWidget(left_);
     layout->addWidget(MakeRight(), 1);
-    FitLeft();
+    FitToFont();
 }
 
-void MainWindow::FitLeft() {
+void MainWindow::FitToFont() {
+    for (QPushButton* button : topButtons_) button->setMinimumHeight(2 * fontMetrics().lineSpacing() + 12);
     left_->setFixedWidth(
         std::max(fontMetrics().averageCharWidth() * kLeftColumns, options_->sizeHint().width()));
 }
@@ -90,7 +91,6 @@ QLayout* MainWindow::MakeButtonRow(QWidget* parent) {
     for (const std::string_view name : kSideButtons) topButtons_.push_back(buttons_.Make(name, parent));
     for (QPushButton* button : topButtons_) {
         button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);
-        button->setMinimumHeight(2 * fontMetrics().lineSpacing() + 12);
         if (button == topButtons_[std::size(kMainButtons)]) row->addStretch(1);
         row->addWidget(button, 2);
     }

@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QScreen>
 
 #include "desktop/companions/look.h"
 
@@ -54,9 +55,15 @@ bool ViewControls::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
+/// A step that would push the window over the edge of the screen is taken back.
 void ViewControls::Resize(int direction) {
-    const int scale = direction == 0 ? 100 : appearance_.Scale() + direction * Appearance::kStep;
-    if (appearance_.SetScale(scale)) Q_EMIT Resized();
+    const int before = appearance_.Scale();
+    const int scale = direction == 0 ? 100 : before + direction * Appearance::kStep;
+    appearance_.SetScale(scale);
+    const QSize needed = window()->minimumSizeHint();
+    const QSize available = screen()->availableSize();
+    const bool fits = needed.width() <= available.width() && needed.height() <= available.height();
+    if (!fits && scale > before) appearance_.SetScale(before);
     ShowScale();
 }
 

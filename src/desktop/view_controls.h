@@ -21,7 +21,6 @@ class ViewControls final : public QWidget {
     void ShowScale();
 
  Q_SIGNALS:
-    void Resized();
     void Dimmed();
 
  protected:

@@ -300,8 +300,15 @@ TEST_F(MainWindowTest, EveryStateIsUsableAtTheKeyboardAndByEar) {
 TEST_F(MainWindowTest, ScalesInStepsAndComesBackWhereItWas) {
     OpenWindow();
     const int height = Control("cmdCreate").fontMetrics().height();
-    for (int i = 0; i < 5; ++i) QTest::keyClick(window.get(), Qt::Key_Plus, Qt::ControlModifier);
+    for (int i = 0; i < 30; ++i) QTest::keyClick(window.get(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_TRUE(window->minimumSizeHint().width() <= window->screen()->availableSize().width() ||
+                window->Look().Scale() == 100)
+        << "as large as the screen allows and no larger";
+    window->Look().SetScale(150);
     EXPECT_GT(Control("cmdCreate").fontMetrics().height(), height);
+    QTest::qWait(50);
+    for (const char* option : {"optConf1", "optConf10", "optConf11", "optConf15"})
+        EXPECT_GE(Control(option).width(), Control(option).sizeHint().width()) << option;
     QTest::mouseClick(&Control("lblResize"), Qt::RightButton);
     EXPECT_EQ(window->Look().Scale(), 140);
     Control<QSlider>("Slider1").setValue(4);
