@@ -200,6 +200,10 @@ void MainScreen::Spawn(std::string_view entry) {
     constexpr std::size_t kEnd = 11;   // "_template }"
     Require(screen_.templateBeingSet && browserOpen_, "the template browser is not open");
     Require(IsTemplateName(entry) && entry.size() > kBegin + kEnd, "no template is selected");
+    if (!fs::exists(JobFilePath(folders_, entry))) {
+        machine_.dialogs.Tell("", "File No Longer Exists", DialogIcon::Warning);
+        return;
+    }
     screen_.List1Enabled = true;
     for (OptionButton& option : screen_.options) option.enabled = false;
     screen_.options[LandMultiFamily].visible = false;
