@@ -13,8 +13,8 @@
 
 #include "entry/smart_fields.h"
 #include "platform/paths.h"
-#include "production/builder_list.h"
-#include "production/create.h"
+#include "production/builders/builder_list.h"
+#include "production/run/create.h"
 #include "selection/document_catalogue.h"
 #include "word/start.h"
 

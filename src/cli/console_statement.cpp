@@ -1,6 +1,6 @@
 #include "cli/console_commands.h"
 #include "closing/closing_statement.h"
-#include "production/normalise.h"
+#include "production/run/normalise.h"
 
 namespace quillmark::cli {
 

@@ -1,4 +1,4 @@
-#include "production/field_list.h"
+#include "production/run/field_list.h"
 #include "session/main_screen.h"
 
 namespace quillmark {

@@ -19,7 +19,7 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/machine.h"
-#include "production/create.h"
+#include "production/run/create.h"
 #include "selection/office.h"
 #include "selection/option_clicks.h"
 #include "selection/selection_state.h"
@@ -46,7 +46,8 @@ struct Machine {
     /// While another user holds the address books: shows the wait and gives way to Cancel. Null waits for
     /// ever.
     WaitForBooks waitForBooks = {};
-    /// Called at each step of CREATE, so that a window can show the state as it is then. Null where none shows.
+    /// Called at each step of CREATE, so that a window can show the state as it is then. Null where none
+    /// shows.
     std::function<void()> onProgress = {};
 };
 
@@ -88,7 +89,7 @@ class MainScreen {
     void EnterName();                      ///< the Enter key
 
     // The lists and the options.
-    void FocusList1();                                        ///< the keyboard or a click comes to List1
+    void FocusList1();  ///< the keyboard or a click comes to List1
     void FocusList2();
     void PickDocument(std::string_view line);                 ///< double click in List1
     void DropDocument(std::string_view line);                 ///< double click in List2, the first such line
@@ -120,8 +121,8 @@ class MainScreen {
     void SelectAll();
     void ViewPicture();
 
-    // The same as one step each, for a person who names rows instead of seeing them: fields by their number, a
-    // user-defined row by its marker. The editor is closed with Escape after it, wherever the commit led.
+    // The same as one step each, for a person who names rows instead of seeing them: fields by their number,
+    // a user-defined row by its marker. The editor is closed with Escape after it, wherever the commit led.
     std::string EnterField(int n, std::string_view text, EntryWay way);
     std::string EnterUserField(std::string_view marker, std::string_view text, EntryWay way);
     /// What the editor shows after the text was typed; closed with Escape.
@@ -159,11 +160,11 @@ class MainScreen {
     void CloseCalculator() { calculator_.reset(); }
 
     // Firm defaults, settings and clients.
-    void SelectSetting(std::size_t row);       ///< click in List3
-    void EditSetting(std::size_t row);         ///< double click in List3
+    void SelectSetting(std::size_t row);  ///< click in List3
+    void EditSetting(std::size_t row);    ///< double click in List3
     bool ChoosingClient() const { return choosingClient_; }
     const std::string& Client() const { return client_; }  ///< the law firm being served, in Para-Pro mode
-    void SelectClient(std::string_view name);  ///< the first line adds one
+    void SelectClient(std::string_view name);              ///< the first line adds one
     void DeleteClient(std::string_view name);
 
     /// Where the next CREATE puts its document (a .docx path or an existing folder) and its trace.

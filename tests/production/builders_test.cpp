@@ -1,4 +1,4 @@
-#include "production/builder_list.h"
+#include "production/builders/builder_list.h"
 
 #include <gtest/gtest.h>
 
@@ -7,12 +7,12 @@
 #include <regex>
 #include <set>
 
+#include "core/fields.h"
 #include "core/text_conversions.h"
-#include "production/fields.h"
-#include "production/job_values.h"
+#include "production/kit/job_values.h"
+#include "production/kit/typing.h"
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
-#include "production/typing.h"
 #include "support/scratch.h"
 #include "word/docx/engine.h"
 

@@ -3,9 +3,9 @@
 #include <functional>
 #include <random>
 
+#include "core/fields.h"
 #include "core/text_conversions.h"
-#include "production/builder_list.h"
-#include "production/fields.h"
+#include "production/builders/builder_list.h"
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
 #include "production/statement_page.h"

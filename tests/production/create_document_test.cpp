@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
+#include "core/fields.h"
 #include "platform/paths.h"
-#include "production/create.h"
-#include "production/fields.h"
+#include "production/run/create.h"
 #include "production/sample_deal.h"
 #include "support/scratch.h"
 #include "word/docx/package_check.h"

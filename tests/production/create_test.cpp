@@ -1,10 +1,10 @@
-#include "production/create.h"
+#include "production/run/create.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
 
-#include "production/fields.h"
+#include "core/fields.h"
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
 #include "word/start.h"

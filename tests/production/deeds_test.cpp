@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "core/fields.h"
 #include "core/text_conversions.h"
-#include "production/builder_list.h"
-#include "production/fields.h"
+#include "production/builders/builder_list.h"
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
 #include "support/scratch.h"

@@ -1,13 +1,13 @@
-#include "production/dispatch.h"
+#include "production/run/dispatch.h"
 
 #include <gtest/gtest.h>
 
 #include <set>
 
-#include "production/builder_list.h"
-#include "selection/document_catalogue.h"
+#include "production/builders/builder_list.h"
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
+#include "selection/document_catalogue.h"
 
 namespace quillmark::test {
 namespace {

@@ -1,8 +1,8 @@
-#include "production/field_list.h"
+#include "production/run/field_list.h"
 
 #include <gmock/gmock.h>
 
-#include "production/fields.h"
+#include "core/fields.h"
 #include "production/sample_deal.h"
 
 namespace quillmark::test {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "production/builder_list.h"
-#include "production/fields.h"
+#include "core/fields.h"
+#include "production/builders/builder_list.h"
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
 #include "support/scratch.h"

@@ -1,8 +1,8 @@
-#include "production/footers.h"
+#include "production/run/footers.h"
 
 #include <gmock/gmock.h>
 
-#include "production/fields.h"
+#include "core/fields.h"
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
 

@@ -1,9 +1,9 @@
-#include "production/normalise.h"
+#include "production/run/normalise.h"
 
 #include <gtest/gtest.h>
 
+#include "core/fields.h"
 #include "entry/smart_fields.h"
-#include "production/fields.h"
 
 namespace quillmark::test {
 namespace {

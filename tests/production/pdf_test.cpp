@@ -1,4 +1,4 @@
-#include "production/pdf.h"
+#include "production/pdf/pdf.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
 #include "production/sample_deal.h"
 
+#include "core/fields.h"
 #include "entry/smart_fields.h"
-#include "production/fields.h"
 
 namespace quillmark::test {
 

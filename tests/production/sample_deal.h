@@ -1,6 +1,6 @@
 #pragma once
 
-#include "production/production.h"
+#include "production/kit/production.h"
 
 /// Jobs to type documents of, told as a closing is: who sells what to whom.
 namespace quillmark::test {

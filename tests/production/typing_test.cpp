@@ -1,14 +1,14 @@
-#include "production/typing.h"
+#include "production/kit/typing.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <regex>
 
-#include "production/builder_list.h"
-#include "production/job_values.h"
-#include "production/passages.h"
-#include "production/phrases.h"
+#include "production/builders/builder_list.h"
+#include "production/kit/job_values.h"
+#include "production/kit/passages.h"
+#include "production/kit/phrases.h"
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
 #include "support/scratch.h"
@@ -206,7 +206,7 @@ TEST(Phrases, TenancyOfTwoBuyersOnly) {
 }
 
 TEST(Fields, BearTheNumbersOfTheirMarkers) {
-    const std::string header = ReadBytes(QUILLMARK_SOURCE_DIR "/src/production/fields.h");
+    const std::string header = ReadBytes(QUILLMARK_SOURCE_DIR "/src/core/fields.h");
     const std::regex row(R"(= (\d+), +// (\[.*\])\n)");
     int rows = 0;
     for (std::sregex_iterator match(header.begin(), header.end(), row), end; match != end; ++match, ++rows) {

@@ -6,10 +6,10 @@
 
 #include "core/text_conversions.h"
 #include "platform/code_page.h"
-#include "production/builder_list.h"
-#include "production/job_values.h"
-#include "production/statement_lines.h"
-#include "production/typing.h"
+#include "production/builders/builder_list.h"
+#include "production/builders/closing/statement_lines.h"
+#include "production/kit/job_values.h"
+#include "production/kit/typing.h"
 
 namespace quillmark {
 

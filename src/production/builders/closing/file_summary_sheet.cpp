@@ -2,9 +2,9 @@
 #include <vector>
 
 #include "core/text_conversions.h"
-#include "production/job_values.h"
-#include "production/statement_lines.h"
-#include "production/typing.h"
+#include "production/builders/closing/statement_lines.h"
+#include "production/kit/job_values.h"
+#include "production/kit/typing.h"
 
 namespace quillmark {
 

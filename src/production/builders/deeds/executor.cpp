@@ -1,6 +1,6 @@
-#include "production/passages.h"
-#include "production/passages_deed.h"
-#include "production/phrases.h"
+#include "production/builders/deeds/passages_deed.h"
+#include "production/kit/passages.h"
+#include "production/kit/phrases.h"
 
 namespace quillmark {
 

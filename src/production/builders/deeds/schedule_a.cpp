@@ -2,8 +2,8 @@
 #include <string_view>
 
 #include "core/text_conversions.h"
-#include "production/job_values.h"
-#include "production/typing.h"
+#include "production/kit/job_values.h"
+#include "production/kit/typing.h"
 
 namespace quillmark {
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "production/job_values.h"
-#include "production/typing.h"
+#include "production/kit/job_values.h"
+#include "production/kit/typing.h"
 
 /// What the statutory-form deeds share, in the order of the page.
 namespace quillmark {

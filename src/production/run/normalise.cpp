@@ -1,7 +1,7 @@
-#include "production/normalise.h"
+#include "production/run/normalise.h"
 
+#include "core/fields.h"
 #include "core/text_conversions.h"
-#include "production/fields.h"
 
 namespace quillmark {
 
@@ -17,8 +17,8 @@ constexpr field::Field kMayStayBlank[] = {
 constexpr std::uint16_t kBlankTime = 8;
 constexpr std::uint16_t kBlankDate = 16;
 
-/// A document that names the principal left the marker in the value, also where its field takes no row: with a
-/// single seller nobody is asked whose power it is.
+/// A document that names the principal left the marker in the value, also where its field takes no row: with
+/// a single seller nobody is asked whose power it is.
 bool NamesPrincipal(const Job& job) {
     return job.txtField(field::PrincipalOfPower).relevant ||
            job.D(field::PrincipalOfPower) == FieldMarker(field::PrincipalOfPower);
@@ -58,8 +58,7 @@ void NormalisedValues::DateDocuments(std::chrono::year_month_day today) {
 }
 
 void NormalisedValues::NamePrincipal() {
-    if (NamesPrincipal(job_) && !job_.IsFilled(field::PrincipalOfPower) &&
-        job_.IsFilled(field::Seller1Name))
+    if (NamesPrincipal(job_) && !job_.IsFilled(field::PrincipalOfPower) && job_.IsFilled(field::Seller1Name))
         Put(field::PrincipalOfPower, job_.D(field::Seller1Name));
 }
 

@@ -1,8 +1,8 @@
-#include "production/footers.h"
+#include "production/run/footers.h"
 
 #include <algorithm>
 
-#include "production/fields.h"
+#include "core/fields.h"
 
 namespace quillmark {
 

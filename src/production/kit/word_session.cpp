@@ -1,4 +1,4 @@
-#include "production/word_session.h"
+#include "production/kit/word_session.h"
 
 namespace quillmark {
 

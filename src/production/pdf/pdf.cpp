@@ -1,10 +1,10 @@
-#include "production/pdf.h"
+#include "production/pdf/pdf.h"
 
 #include <system_error>
 
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
-#include "production/pdf_program.h"
+#include "production/pdf/pdf_program.h"
 
 namespace quillmark {
 

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/fields.h"
 #include "core/job.h"
-#include "production/fields.h"
 
 namespace quillmark {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "production/word_session.h"
+#include "production/kit/word_session.h"
 
 namespace quillmark {
 

@@ -1,4 +1,4 @@
-#include "production/typing.h"
+#include "production/kit/typing.h"
 
 #include "core/text_conversions.h"
 

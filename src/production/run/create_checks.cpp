@@ -1,10 +1,10 @@
-#include "production/create_checks.h"
+#include "production/run/create_checks.h"
 
 #include <algorithm>
 
+#include "core/fields.h"
 #include "core/places.h"
 #include "core/text_conversions.h"
-#include "production/fields.h"
 
 namespace quillmark {
 

@@ -1,4 +1,4 @@
-#include "production/create_notices.h"
+#include "production/run/create_notices.h"
 
 #include <fmt/format.h>
 

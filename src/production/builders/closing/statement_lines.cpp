@@ -1,4 +1,4 @@
-#include "production/statement_lines.h"
+#include "production/builders/closing/statement_lines.h"
 
 #include <fmt/format.h>
 

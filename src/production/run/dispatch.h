@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "production/production.h"
-#include "production/word_session.h"
+#include "production/kit/production.h"
+#include "production/kit/word_session.h"
 
 namespace quillmark {
 

@@ -14,7 +14,7 @@
 #include <thread>
 
 #include "platform/paths.h"
-#include "production/pdf_program.h"
+#include "production/pdf/pdf_program.h"
 
 extern char** environ;
 

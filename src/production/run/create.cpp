@@ -1,12 +1,12 @@
-#include "production/create.h"
+#include "production/run/create.h"
 
 #include <new>
 
 #include "core/text_conversions.h"
 #include "platform/atomic_file.h"
-#include "production/dispatch.h"
-#include "production/footers.h"
-#include "production/normalise.h"
+#include "production/run/dispatch.h"
+#include "production/run/footers.h"
+#include "production/run/normalise.h"
 
 namespace quillmark {
 

@@ -1,8 +1,8 @@
-#include "production/passages_deed.h"
+#include "production/builders/deeds/passages_deed.h"
 
 #include "core/text_conversions.h"
-#include "production/passages.h"
-#include "production/phrases.h"
+#include "production/kit/passages.h"
+#include "production/kit/phrases.h"
 
 namespace quillmark {
 

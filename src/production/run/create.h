@@ -11,7 +11,7 @@
 #include "core/job.h"
 #include "core/settings.h"
 #include "platform/dialogs.h"
-#include "production/word_session.h"
+#include "production/kit/word_session.h"
 #include "word/start.h"
 
 namespace quillmark {

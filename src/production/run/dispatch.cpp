@@ -1,9 +1,9 @@
-#include "production/dispatch.h"
+#include "production/run/dispatch.h"
 
 #include <algorithm>
 #include <stdexcept>
 
-#include "production/builder_list.h"
+#include "production/builders/builder_list.h"
 #include "selection/document_catalogue.h"
 
 namespace quillmark {

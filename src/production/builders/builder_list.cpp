@@ -1,12 +1,12 @@
-#include "production/builder_list.h"
+#include "production/builders/builder_list.h"
 
 #include <algorithm>
 #include <array>
 
+#include "core/fields.h"
 #include "core/text_conversions.h"
-#include "production/fields.h"
-#include "production/job_values.h"
-#include "production/typing.h"
+#include "production/kit/job_values.h"
+#include "production/kit/typing.h"
 
 namespace quillmark {
 

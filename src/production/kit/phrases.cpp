@@ -1,4 +1,4 @@
-#include "production/phrases.h"
+#include "production/kit/phrases.h"
 
 #include "core/text_conversions.h"
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "production/production.h"
-#include "production/word_session.h"
+#include "production/kit/production.h"
+#include "production/kit/word_session.h"
 
 /// The built-in documents that have a builder, as builders/builders.inc lists them.
 namespace quillmark {

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "production/job_values.h"
-#include "production/typing.h"
+#include "production/kit/job_values.h"
+#include "production/kit/typing.h"
 
 /// The descriptions of the two sides that deeds, contracts and mortgages share.
 namespace quillmark {

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "production/job_values.h"
-#include "production/typing.h"
+#include "production/kit/job_values.h"
+#include "production/kit/typing.h"
 
 /// The passages that instruments of different families share: what stands above the title of a recorded
 /// document, and what stands below its text.

@@ -6,7 +6,7 @@
 
 #include "platform/paths.h"
 #include "platform/temporary_name.h"
-#include "production/pdf_program.h"
+#include "production/pdf/pdf_program.h"
 
 namespace quillmark {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "closing/closing_statement.h"
-#include "production/typing.h"
+#include "production/kit/typing.h"
 
 /// The figures of a statement that is typed as flowing text, without a table: labels in a proportional type,
 /// figures in a fixed one behind tab stops, so that they stand under one another.

@@ -1,4 +1,4 @@
-#include "production/passages.h"
+#include "production/kit/passages.h"
 
 #include "core/text_conversions.h"
 #include "platform/code_page.h"

@@ -6,7 +6,7 @@
 
 #include "core/job.h"
 #include "core/settings.h"
-#include "production/word_session.h"
+#include "production/kit/word_session.h"
 
 namespace quillmark {
 

@@ -1,4 +1,4 @@
-#include "production/job_values.h"
+#include "production/kit/job_values.h"
 
 namespace quillmark {
 
