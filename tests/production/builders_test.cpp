@@ -185,6 +185,15 @@ TEST(Builders, RunAgainForTheSecondSellerOrPayoff) {
     job.SetOption(TwoPayoffs, true);
     TypeDocument(letter, From(job), session);
     EXPECT_EQ(calls, "SMS1 SMS1 SMS2 ");
+    EXPECT_EQ(recorder.Text(), "\f\n") << "the second stands on a page of its own";
+}
+
+TEST(Builders, LeaveThePageBreakOfTheSecondCopyToTheList) {
+    Job job = FilledDeal();
+    for (const int option : {TwoSellers, TwoPayoffs}) job.SetOption(option, true);
+    for (const Builder& builder : Builders()) {
+        EXPECT_EQ(TextOf(builder, job).find("\f\f"), std::string::npos) << builder.document;
+    }
 }
 
 TEST(Builders, EveryFileIsOnTheList) {

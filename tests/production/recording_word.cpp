@@ -136,6 +136,8 @@ Value RecordingWord::Call(const std::string& path, const std::string& member, Ar
     Paragraph& paragraph = paragraphs_.back();
     if (full == "Selection.TypeText") {
         TypeText(std::get<std::string>(arguments.front().value));
+    } else if (full == "Selection.InsertBreak" && Number(arguments.front().value) == word::PageBreak) {
+        TypeText("\f");
     } else if (full == "Selection.Paste") {
         TypeText("{" + clipboard_->picture() + "}");
     } else if (full == "Selection.Paragraphs.TabStops.Add") {
@@ -214,6 +216,8 @@ std::string Visible(const std::string& text) {
             visible += "→";
         else if (c == '\v')
             visible += "↵";
+        else if (c == '\f')
+            visible += "‹page›";
         else
             visible += c;
     }

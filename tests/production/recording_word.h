@@ -51,9 +51,10 @@ class RecordingWord {
 
     /// The typed characters alone, paragraph ends as "\n".
     std::string Text() const;
-    /// The document as a lawyer reads it in a diff: *bold*, ~italic~, =underlined=, ==doubly==, tabs as →, line breaks as
-    /// ↵, the fonts as ‹Arial 10› where they change, list items with their numbers, and a line in brackets
-    /// above a paragraph whose alignment, indents or tab stops differ from those before it.
+    /// The document as a lawyer reads it in a diff: *bold*, ~italic~, =underlined=, ==doubly==, tabs as →,
+    /// line breaks as ↵, page breaks as ‹page›, the fonts as ‹Arial 10› where they change, list items with
+    /// their numbers, and a line in brackets above a paragraph whose alignment, indents or tab stops differ
+    /// from those before it.
     std::string Reading() const;
 
  private:

@@ -13,7 +13,8 @@ namespace quillmark {
 #define DOCUMENT(entry, builder, notices) void builder(const JobValues&, Typist&);
 #define VARIANT(entry, builder, tag, number, again, notices) \
     void builder(const JobValues&, Typist&, const Variant&);
-#define COMPUTED(entry, builder, tag, notices) void builder(const Production&, Typist&, const Variant&);
+#define COMPUTED(entry, builder, tag, again, notices) \
+    void builder(const Production&, Typist&, const Variant&);
 #include "production/builders/builders.inc"
 #undef DOCUMENT
 #undef VARIANT
@@ -32,8 +33,8 @@ namespace {
                 builder(JobValues(from.job), type, variant);                   \
             },                                                                 \
             Variant{tag, number}, RunsAgain::again, notices},
-#define COMPUTED(entry, builder, tag, notices) \
-    Builder{entry, builder, Variant{tag}, RunsAgain::Never, notices},
+#define COMPUTED(entry, builder, tag, again, notices) \
+    Builder{entry, builder, Variant{tag}, RunsAgain::again, notices},
 constexpr auto kBuilders = std::to_array<Builder>({
 #include "production/builders/builders.inc"
 });
@@ -74,7 +75,9 @@ std::string NoticesOf(const Builder& builder, const Job& job) {
 void TypeDocument(const Builder& builder, const Production& production, WordSession& session) {
     Typist typist(session);
     builder.type(production, typist, builder.variant);
-    if (RunsTwice(builder, production.job)) builder.type(production, typist, Variant{builder.variant.tag, 2});
+    if (!RunsTwice(builder, production.job)) return;
+    typist.PageBreak();
+    builder.type(production, typist, Variant{builder.variant.tag, 2});
 }
 
 }  // namespace quillmark

@@ -45,7 +45,7 @@ const Builder* FindBuilder(std::string_view document);
 /// another, C.G.S. Sec. 47-14a) only while the tenancy type is "joint tenants" in whatever case.
 std::string NoticesOf(const Builder& builder, const Job& job);
 
-/// Types the document, and once more as number 2 when the job's options ask for it.
+/// Types the document, and once more as number 2, on a page of its own, when the job's options ask for it.
 void TypeDocument(const Builder& builder, const Production& production, WordSession& session);
 
 }  // namespace quillmark

@@ -1,5 +1,10 @@
 #pragma once
 
+#include <algorithm>
+#include <span>
+#include <string>
+#include <string_view>
+
 #include "core/job.h"
 #include "core/settings.h"
 #include "platform/dialogs.h"
@@ -11,6 +16,12 @@ struct Production {
     const Job& job;
     const Settings& settings;
     Dialogs& dialogs;
+    std::span<const std::string> documents = {};  ///< the entries of the job list, in order
+
+    /// Whether the run makes this document too.
+    bool Makes(std::string_view document) const {
+        return std::ranges::find(documents, document) != documents.end();
+    }
 };
 
 }  // namespace quillmark

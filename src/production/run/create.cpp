@@ -137,7 +137,8 @@ void CreateRun::TypeDocumentAt(std::size_t entry) {
     Report(progress_.value + (entry == 0 ? 0.25 : 0.5), entry + 1);
     const word::Range beginning = session_->WordSel.Range();
     Dialogs& dialogs = order_.dialogs ? *order_.dialogs : defaultAnswers_;
-    notices_ += TypeEntry(order_.DocumentNames[entry], {job_, order_.settings, dialogs}, *session_);
+    notices_ += TypeEntry(order_.DocumentNames[entry], {job_, order_.settings, dialogs, order_.DocumentNames},
+                          *session_);
     // In front of the document, so that a builder's own paragraph format never reaches the break.
     if (entry > 0) beginning.InsertBreak(word::SectionBreakNextPage);
     Report(static_cast<double>(entry + 1), entry + 1);
