@@ -4,8 +4,8 @@
 #include <QPalette>
 #include <QStyleFactory>
 
-#include "desktop/companions/guard.h"
-#include "desktop/companions/guide_window.h"
+#include "desktop/guide/guide_window.h"
+#include "desktop/toolkit/guard.h"
 
 namespace quillmark::desktop {
 

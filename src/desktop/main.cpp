@@ -1,8 +1,8 @@
 #include <QCommandLineParser>
 
 #include "desktop/application.h"
-#include "desktop/companions/look.h"
 #include "desktop/program.h"
+#include "desktop/toolkit/text.h"
 #include "platform/paths.h"
 
 using namespace quillmark;

@@ -5,7 +5,7 @@
 #include <QScreen>
 #include <QShortcut>
 
-#include "desktop/companions/look.h"
+#include "desktop/toolkit/text.h"
 
 namespace quillmark::desktop {
 
@@ -43,8 +43,8 @@ void MainWindow::Connect() {
         flow_.Follow();
     });
     connect(&desk_, &Desk::Refused, guidance_, &GuidanceBar::ShowRefusal);
-    connect(&buttons_, &MainButtons::Pressed, &flow_, &CompanionFlow::Press);
-    connect(&flow_, &CompanionFlow::PathWanted, this, [this] { List3_->SelectRow(kPathRow); });
+    connect(&buttons_, &MainButtons::Pressed, &flow_, &SideWindowFlow::Press);
+    connect(&flow_, &SideWindowFlow::PathWanted, this, [this] { List3_->SelectRow(kPathRow); });
     connect(List3_, &SettingsView::RowSelected, this, [this](std::size_t row) {
         if (!showing_) desk_.DoQuietly([row](MainScreen& screen) { screen.SelectSetting(row); });
     });

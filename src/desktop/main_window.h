@@ -3,20 +3,20 @@
 #include <QStackedWidget>
 #include <QWidget>
 
-#include "desktop/appearance.h"
-#include "desktop/companion_flow.h"
-#include "desktop/companions/settings_view.h"
-#include "desktop/desk.h"
-#include "desktop/document_panel.h"
-#include "desktop/grid_editors.h"
-#include "desktop/grid_view.h"
-#include "desktop/guidance_bar.h"
-#include "desktop/jump_bar.h"
-#include "desktop/main_buttons.h"
-#include "desktop/name_panel.h"
-#include "desktop/option_panel.h"
-#include "desktop/progress_panel.h"
-#include "desktop/view_controls.h"
+#include "desktop/grid/grid_editors.h"
+#include "desktop/grid/grid_view.h"
+#include "desktop/panels/document_panel.h"
+#include "desktop/panels/guidance_bar.h"
+#include "desktop/panels/jump_bar.h"
+#include "desktop/panels/main_buttons.h"
+#include "desktop/panels/name_panel.h"
+#include "desktop/panels/option_panel.h"
+#include "desktop/panels/progress_panel.h"
+#include "desktop/panels/settings_view.h"
+#include "desktop/panels/view_controls.h"
+#include "desktop/side_window_flow.h"
+#include "desktop/toolkit/appearance.h"
+#include "desktop/toolkit/desk.h"
 #include "session/window_placement.h"
 
 namespace quillmark::desktop {
@@ -70,7 +70,7 @@ class MainWindow final : public QWidget {
     Appearance appearance_;
     Desk desk_;
     MainButtons buttons_;
-    CompanionFlow flow_;
+    SideWindowFlow flow_;
     NamePanel* name_;
     OptionPanel* options_;
     DocumentPanel* documents_;

@@ -3,9 +3,9 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "desktop/companions/guide_window.h"
-#include "desktop/companions/look.h"
+#include "desktop/guide/guide_window.h"
 #include "desktop/main_window.h"
+#include "desktop/toolkit/controls.h"
 
 /// Where everything stands on the main screen.
 namespace quillmark::desktop {
@@ -141,7 +141,7 @@ QWidget* MainWindow::MakeMore(QWidget* parent) {
     Describe(more, tr("Tools and help"), tr("calculator, address books, the user's guide"));
     auto* menu = new QMenu(more);
     menu->setAttribute(Qt::WA_WindowPropagation);
-    menu->addAction(tr("Proration &calculator"), Qt::Key_F9, &flow_, &CompanionFlow::OpenCalculator)
+    menu->addAction(tr("Proration &calculator"), Qt::Key_F9, &flow_, &SideWindowFlow::OpenCalculator)
         ->setShortcutContext(Qt::WidgetShortcut);
     menu->addAction(tr("Lawfirms / &Attorneys"), this,
                     [this] { flow_.OpenAddresses(AddressBook::Attorneys); });

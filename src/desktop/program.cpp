@@ -3,9 +3,10 @@
 #include <QCoreApplication>
 #include <QTimer>
 
-#include "desktop/companions/book_wait.h"
-#include "desktop/companions/first_run_window.h"
-#include "desktop/companions/guard.h"
+#include "desktop/guide/first_run_window.h"
+#include "desktop/side_windows/book_wait.h"
+#include "desktop/toolkit/guard.h"
+#include "desktop/toolkit/text.h"
 #include "platform/paths.h"
 #include "session/program_folder.h"
 #include "session/upkeep.h"

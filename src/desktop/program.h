@@ -4,12 +4,12 @@
 #include <memory>
 #include <string>
 
-#include "desktop/companions/dialogs.h"
-#include "desktop/document_opener.h"
-#include "desktop/http_client.h"
+#include "desktop/machine/document_opener.h"
+#include "desktop/machine/http_client.h"
+#include "desktop/machine/qt_printer.h"
+#include "desktop/machine/single_instance.h"
 #include "desktop/main_window.h"
-#include "desktop/qt_printer.h"
-#include "desktop/single_instance.h"
+#include "desktop/toolkit/dialogs.h"
 
 namespace quillmark::desktop {
 

@@ -12,10 +12,10 @@
 #include <QTextBlock>
 #include <set>
 
-#include "desktop/companions/first_run_window.h"
-#include "desktop/companions/guide_pages.h"
-#include "desktop/companions/guide_window.h"
-#include "desktop/companions/look.h"
+#include "desktop/guide/first_run_window.h"
+#include "desktop/guide/guide_pages.h"
+#include "desktop/guide/guide_window.h"
+#include "desktop/toolkit/text.h"
 #include "support/scratch.h"
 
 namespace quillmark::desktop {

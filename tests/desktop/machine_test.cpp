@@ -4,9 +4,9 @@
 #include <QRegularExpression>
 #include <QTest>
 
-#include "desktop/companions/look.h"
-#include "desktop/qt_printer.h"
-#include "desktop/single_instance.h"
+#include "desktop/machine/qt_printer.h"
+#include "desktop/machine/single_instance.h"
+#include "desktop/toolkit/text.h"
 #include "platform/paths.h"
 #include "support/scratch.h"
 

@@ -1,4 +1,5 @@
 #include "desktop/main_window.h"
+#include "desktop/toolkit/controls.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -6,7 +7,6 @@
 #include <QTimer>
 #include <map>
 
-#include "desktop/companions/look.h"
 #include "session/office_fixture.h"
 
 namespace quillmark::desktop {

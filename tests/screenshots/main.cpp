@@ -10,10 +10,10 @@
 #include <functional>
 #include <stdexcept>
 
-#include "desktop/companions/address_window.h"
-#include "desktop/companions/first_run_window.h"
-#include "desktop/companions/look.h"
+#include "desktop/guide/first_run_window.h"
 #include "desktop/main_window.h"
+#include "desktop/side_windows/address_window.h"
+#include "desktop/toolkit/text.h"
 #include "session/first_run.h"
 #include "support/scratch.h"
 #include "word/start.h"
@@ -229,7 +229,7 @@ void Settings(const QDir& out) {
     studio.Keep(studio.Window(), "settings", part);
 }
 
-void Companions(const QDir& out) {
+void SideWindows(const QDir& out) {
     Studio studio(out);
     const auto click = [&](const char* name) {
         return [&studio, name] { studio.Find<QPushButton>(name)->click(); };
@@ -254,7 +254,7 @@ void MakeAll(const QDir& out) {
     ListsAndGrid(out);
     Calculator(out);
     Settings(out);
-    Companions(out);
+    SideWindows(out);
 }
 
 /// The same looks on every machine.

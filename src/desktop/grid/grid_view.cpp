@@ -1,0 +1,229 @@
+#include "desktop/grid/grid_view.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include "desktop/grid/grid_delegate.h"
+#include "desktop/toolkit/controls.h"
+
+namespace quillmark::desktop {
+
+namespace {
+
+// Widths of the label and note columns for every 11625 of the grid's; the value takes the rest.
+constexpr int kWhole = 11625;
+constexpr int kLabelPart = 3105;
+constexpr int kNotePart = 1110;
+
+}  // namespace
+
+GridView::GridView(Desk& desk, const Appearance& appearance, QWidget* parent)
+    : QTableView(parent), desk_(desk), model_(desk, this) {
+    setObjectName(QStringLiteral("grdField"));
+    setModel(&model_);
+    setItemDelegate(new GridDelegate(model_, desk, appearance, this));
+    setSelectionMode(NoSelection);
+    setEditTriggers(NoEditTriggers);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setVerticalScrollMode(ScrollPerItem);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    horizontalHeader()->hide();
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(1);
+    Describe(
+        this, tr("Fields"),
+        tr("Enter opens the field, F2 unlocks it, F7 and F8 switch its notes, Control+Tab leaves the grid"));
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &GridView::ScrolledTo);
+    FitRows();
+}
+
+void GridView::Show() {
+    showing_ = true;
+    const int before = model_.rowCount();
+    bool reset = false;
+    const auto watch = connect(&model_, &QAbstractItemModel::modelReset, this, [&reset] { reset = true; });
+    model_.Show();
+    disconnect(watch);
+    if (reset) SpanHeadings();
+    if (reset || before != model_.rowCount()) FitColumns();
+    const GridEditorState& editor = desk_.Editor();
+    if (verticalScrollBar()->value() != editor.topRow) verticalScrollBar()->setValue(editor.topRow);
+    if (marked_ != editor.markedRow) {
+        marked_ = editor.markedRow;
+        viewport()->update();
+    }
+    showing_ = false;
+    Q_EMIT Moved();
+}
+
+void GridView::SpanHeadings() {
+    clearSpans();
+    for (int row = 0; row < model_.rowCount(); ++row)
+        if (model_.Row(row).kind == RowKind::Heading) setSpan(row, 0, 1, GridModel::kColumns);
+}
+
+QRect GridView::CellRect(int row, int first, int last) const {
+    if (row < 0 || row >= model_.rowCount()) return {};
+    const QRect cells = visualRect(model_.index(row, first)) | visualRect(model_.index(row, last));
+    const QRect place = cells.translated(viewport()->pos());
+    return place.top() < viewport()->geometry().top() || place.top() > viewport()->geometry().bottom()
+               ? QRect()
+               : place;
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+    const QModelIndex cell = indexAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || !cell.isValid()) return;
+    desk_.Do([&](MainScreen& screen) { screen.ClickGrid(cell.row(), cell.column()); });
+}
+
+void GridView::mouseMoveEvent(QMouseEvent*) {}
+void GridView::mouseReleaseEvent(QMouseEvent*) {}
+
+void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
+    const QModelIndex cell = indexAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || !cell.isValid()) return;
+    // Two clicks on a note cell are two clicks; only a locked row knows the double click.
+    if (model_.Row(cell.row()).locked)
+        desk_.Do([&](MainScreen& screen) { screen.DoubleClickGrid(cell.row(), cell.column()); });
+    else
+        mousePressEvent(event);
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+    const QModelIndex cell = indexAt(event->pos());
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        if (!cell.isValid()) return;
+        if (desk_.Editor().EditRow != cell.row() &&
+            !desk_.Do([&](MainScreen& screen) { screen.ClickGrid(cell.row(), GridModel::kValue); }))
+            return;
+    }
+    Q_EMIT MenuWanted(event->globalPos());
+}
+
+int GridView::RowToStartFrom() const {
+    const int row = desk_.State().currentRow;
+    return row >= 0 && row < model_.rowCount() ? row : -1;
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+    const int row = RowToStartFrom();
+    const auto page = [&](int direction) {
+        verticalScrollBar()->triggerAction(direction < 0 ? QAbstractSlider::SliderPageStepSub
+                                                         : QAbstractSlider::SliderPageStepAdd);
+    };
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+        case Qt::Key_Space:
+            desk_.Do([](MainScreen& screen) { screen.KeyInGrid(EditorKey::Enter); });
+            return;
+        case Qt::Key_Up:
+            desk_.Do([](MainScreen& screen) { screen.KeyInGrid(EditorKey::Up); });
+            return;
+        case Qt::Key_Down:
+            desk_.Do([](MainScreen& screen) { screen.KeyInGrid(EditorKey::Down); });
+            return;
+        case Qt::Key_PageUp:
+            return page(-1);
+        case Qt::Key_PageDown:
+            return page(1);
+        case Qt::Key_Home:
+            return verticalScrollBar()->setValue(0);
+        case Qt::Key_End:
+            return verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+        case Qt::Key_F2:
+            desk_.Do([row](MainScreen& screen) { screen.DoubleClickGrid(row, GridModel::kValue); });
+            return;
+        case Qt::Key_F7:
+            desk_.Do([row](MainScreen& screen) { screen.ClickGrid(row, GridModel::kFirstNote); });
+            return;
+        case Qt::Key_F8:
+            desk_.Do([row](MainScreen& screen) { screen.ClickGrid(row, GridModel::kSecondNote); });
+            return;
+        default:
+            event->ignore();
+    }
+}
+
+/// Tab goes down the rows, as in the editors; behind the last one, or with Control, it leaves the grid.
+bool GridView::TakeTab(const QKeyEvent& key) {
+    if (key.key() != Qt::Key_Tab || key.modifiers() != Qt::NoModifier) return false;
+    const int row = RowToStartFrom();
+    if (row < 0 || row + 1 >= model_.rowCount()) return false;
+    return desk_.DoQuietly([](MainScreen& screen) { screen.KeyInGrid(EditorKey::Tab); });
+}
+
+bool GridView::event(QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const auto& key = *static_cast<QKeyEvent*>(event);
+        if (TakeTab(key)) return true;
+        if ((key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) &&
+            (key.modifiers() & Qt::ControlModifier))
+            return focusNextPrevChild(key.key() == Qt::Key_Tab);
+    }
+    return QTableView::event(event);
+}
+
+void GridView::ScrolledTo(int topRow) {
+    if (showing_) return;
+    desk_.DoQuietly([topRow](MainScreen& screen) { screen.ScrollTo(topRow); });
+}
+
+void GridView::wheelEvent(QWheelEvent* event) {
+    QTableView::wheelEvent(event);
+    event->accept();
+}
+
+void GridView::FitRows() {
+    const int height = fontMetrics().height() + 10;
+    verticalHeader()->setDefaultSectionSize(height);
+    const int rows = std::max(1, viewport()->height() / height);
+    if (rows != desk_.Editor().rowsOnScreen)
+        desk_.DoQuietly([rows](MainScreen& screen) { screen.SetRowsOnScreen(rows); });
+}
+
+void GridView::FitColumns() {
+    const int whole = viewport()->width();
+    const int label = whole * kLabelPart / kWhole;
+    const int note = whole * kNotePart / kWhole;
+    setColumnWidth(GridModel::kLabel, label);
+    setColumnWidth(GridModel::kFirstNote, note);
+    setColumnWidth(GridModel::kSecondNote, note);
+    setColumnWidth(GridModel::kValue, whole - label - 2 * note);
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    FitColumns();
+    FitRows();
+    Q_EMIT Moved();
+}
+
+void GridView::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() != QEvent::FontChange) return;
+    FitRows();
+    Q_EMIT Moved();
+}
+
+void GridView::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (!hasFocus() || desk_.Editor().IsOpen()) return;
+    const int row = desk_.State().currentRow;
+    QPainter painter(viewport());
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    const QRect cells = row < 0 ? QRect() : CellRect(row, GridModel::kLabel, GridModel::kSecondNote);
+    painter.drawRect(cells.isNull() ? viewport()->rect().adjusted(1, 1, -1, -1)
+                                    : cells.translated(-viewport()->pos()).adjusted(1, 1, -1, -1));
+}
+
+}  // namespace quillmark::desktop

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QPushButton>
+#include <QWidget>
+#include <array>
+
+#include "desktop/toolkit/appearance.h"
+#include "desktop/toolkit/desk.h"
+
+namespace quillmark::desktop {
+
+/// The labels that lead to the groups of the grid; Alt and a digit do the same.
+class JumpBar final : public QWidget {
+    Q_OBJECT
+
+ public:
+    JumpBar(Desk& desk, const Appearance& appearance, QWidget* parent);
+
+    void Show();
+
+ private:
+    static constexpr int kLabels = 6;
+
+    Desk& desk_;
+    const Appearance& appearance_;
+    std::array<QPushButton*, kLabels + 1> lblJump_ = {};
+};
+
+}  // namespace quillmark::desktop

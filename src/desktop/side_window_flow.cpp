@@ -1,0 +1,61 @@
+#include "desktop/side_window_flow.h"
+
+#include "desktop/side_windows/address_window.h"
+#include "desktop/side_windows/browser_window.h"
+#include "desktop/side_windows/clients_window.h"
+#include "desktop/side_windows/packages_window.h"
+
+namespace quillmark::desktop {
+
+SideWindowFlow::SideWindowFlow(Desk& desk, DocumentOpener& opener, QWidget& window)
+    : QObject(&window), desk_(desk), opener_(opener), window_(window) {}
+
+void SideWindowFlow::Press(std::string_view name) {
+    if (name == "cmdPackages") return EditPackages();
+    if (!desk_.Do([name](MainScreen& screen) { screen.Click(name); })) return;
+    ShowBrowserIfOpen();
+    if (name == "cmdCreate") OpenDocument();
+}
+
+void SideWindowFlow::ShowBrowserIfOpen() {
+    if (!desk_.Screen().BrowserOpen()) return;
+    bool listed = true;
+    desk_.Do([&](MainScreen& screen) { listed = ShowBrowser(screen, &window_); });
+    if (!listed) Q_EMIT PathWanted();
+}
+
+void SideWindowFlow::EditPackages() {
+    bool toCustomDocuments = false;
+    desk_.Do([&](MainScreen& screen) { toCustomDocuments = ShowPackageEditor(screen, &window_); });
+    if (toCustomDocuments) Press("cmdCustom");
+}
+
+void SideWindowFlow::OpenAddresses(AddressBook book) {
+    desk_.Do([&](MainScreen& screen) { ShowAddressEditor(book, screen, &window_); });
+}
+
+void SideWindowFlow::OpenCalculator() {
+    if (calculator_) return calculator_->activateWindow();
+    desk_.Do([&](MainScreen& screen) { calculator_ = ShowCalculator(screen, &window_); });
+    if (!calculator_) return;
+    connect(calculator_, &CalculatorWindow::HandedOver, this, [this] {
+        Q_EMIT desk_.Changed();
+        window_.activateWindow();
+    });
+}
+
+void SideWindowFlow::Follow() {
+    if (calculator_) calculator_->Follow();
+    if (choosing_ || !desk_.Screen().ChoosingClient() || desk_.Screen().HasEnded()) return;
+    choosing_ = true;
+    bool chosen = false;
+    desk_.Do([&](MainScreen& screen) { chosen = ShowClients(screen, &window_); });
+    choosing_ = false;
+    if (!chosen && desk_.Screen().ChoosingClient()) window_.close();
+}
+
+void SideWindowFlow::OpenDocument() {
+    if (const auto document = desk_.Screen().LastDocument()) opener_.Open(*document, window_);
+}
+
+}  // namespace quillmark::desktop

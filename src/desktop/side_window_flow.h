@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <string_view>
+
+#include "desktop/machine/document_opener.h"
+#include "desktop/side_windows/calculator_window.h"
+#include "desktop/toolkit/desk.h"
+
+namespace quillmark::desktop {
+
+/// What follows when a button of the main screen leads to another window.
+class SideWindowFlow final : public QObject {
+    Q_OBJECT
+
+ public:
+    /// `opener` must outlive the object.
+    SideWindowFlow(Desk& desk, DocumentOpener& opener, QWidget& window);
+
+    /// A click on the main screen's button of that name, and the window it leads to.
+    void Press(std::string_view name);
+    void OpenAddresses(AddressBook book);
+    void OpenCalculator();
+    /// After a command: shows the choice of a law firm while the screen waits for it, and lets a calculator
+    /// that has done its work go.
+    void Follow();
+
+ Q_SIGNALS:
+    /// The row of the data path is the one to be looked at.
+    void PathWanted();
+
+ private:
+    void ShowBrowserIfOpen();
+    void EditPackages();
+    void OpenDocument();
+
+    Desk& desk_;
+    DocumentOpener& opener_;
+    QWidget& window_;
+    QPointer<CalculatorWindow> calculator_;
+    bool choosing_ = false;
+};
+
+}  // namespace quillmark::desktop
