@@ -1,14 +1,12 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "core/fields.h"
 #include "core/text_conversions.h"
 #include "production/builders/builder_list.h"
-#include "production/recording_word.h"
+#include "production/document_goldens.h"
 #include "production/sample_deal.h"
 #include "support/scratch.h"
 
@@ -17,84 +15,9 @@ namespace {
 
 using namespace field;
 
-std::string Reading(const std::string& document, const Job& job) {
-    RecordingWord recorder;
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
-    TypeDocument(*FindBuilder(document), From(job), session);
-    return recorder.Reading();
-}
-
-/// Words with the blanks behind them; each paragraph end is a word of its own.
-std::vector<std::string> Words(const std::string& text) {
-    std::vector<std::string> words(1);
-    for (const char c : text) {
-        std::string& last = words.back();
-        if (c == '\n' || last.ends_with('\n') || (last.ends_with(' ') && c != ' ')) words.emplace_back();
-        words.back() += c;
-    }
-    return words;
-}
-
-struct Edit {
-    char kind;  ///< '=' kept, '-' struck, '+' written in
-    std::string word;
-};
-
-std::vector<Edit> Compare(const std::vector<std::string>& a, const std::vector<std::string>& b) {
-    std::vector<std::vector<int>> common(a.size() + 1, std::vector<int>(b.size() + 1));
-    for (std::size_t i = a.size(); i-- > 0;) {
-        for (std::size_t j = b.size(); j-- > 0;) {
-            common[i][j] =
-                a[i] == b[j] ? common[i + 1][j + 1] + 1 : std::max(common[i + 1][j], common[i][j + 1]);
-        }
-    }
-    std::vector<Edit> edits;
-    for (std::size_t i = 0, j = 0; i < a.size() || j < b.size();) {
-        if (i < a.size() && j < b.size() && a[i] == b[j]) {
-            edits.push_back({'=', a[i++]});
-            ++j;
-        } else if (i < a.size() && (j == b.size() || common[i + 1][j] >= common[i][j + 1])) {
-            edits.push_back({'-', a[i++]});
-        } else {
-            edits.push_back({'+', b[j++]});
-        }
-    }
-    return edits;
-}
-
-/// The changes from one reading to another as a lawyer redlines them, one place to a line, with some words
-/// around it: [-struck-] and [+written in+], paragraph ends as ¶.
-std::string Redline(const std::string& before, const std::string& after) {
-    constexpr std::size_t kAround = 5;
-    const std::vector<Edit> edits = Compare(Words(before), Words(after));
-    const auto isNearChange = [&](std::size_t i) {
-        const std::size_t end = std::min(edits.size(), i + kAround + 1);
-        for (std::size_t k = i < kAround ? 0 : i - kAround; k < end; ++k) {
-            if (edits[k].kind != '=') return true;
-        }
-        return false;
-    };
-    std::string redline;
-    char kind = '=';
-    for (std::size_t i = 0; i < edits.size(); ++i) {
-        if (!isNearChange(i)) {
-            if (!redline.empty() && !redline.ends_with('\n')) redline += "...\n";
-            continue;
-        }
-        if (edits[i].kind != kind && kind != '=') redline += std::string(1, kind) + "]";
-        if (edits[i].kind != kind && edits[i].kind != '=') redline += "[" + std::string(1, edits[i].kind);
-        if (redline.empty() || redline.ends_with('\n')) redline += "... ";
-        kind = edits[i].kind;
-        redline += edits[i].word == "\n" ? "¶" : edits[i].word;
-    }
-    if (kind != '=') redline += std::string(1, kind) + "]";
-    return redline.ends_with('\n') ? redline : redline + "\n";
-}
-
 void ExpectReading(const std::string& golden, const std::string& document, const std::string& facts,
                    const Job& job) {
-    ExpectGolden("deeds/" + golden + ".txt", document + "\n" + facts + "\n\n" + Reading(document, job));
+    ExpectWhole("deeds/" + golden, document, facts, job);
 }
 
 /// The deed of a changed deal as a redline against the warranty deed of the sample deal.

@@ -156,53 +156,55 @@ TEST(Passages, JuratIsSwornBeforeTheSellersAttorney) {
                   "\n\tRuth Ann Penfield\n\tNotary Public/Commissioner of the Superior Court\n\n");
 }
 
-std::string Grantors(const Job& job, std::string_view style) {
+std::string Grantors(const Job& job, Names names) {
     Desk desk;
-    TypeGrantorPhrase(JobValues(job), desk.type, style);
+    TypeGrantorPhrase(JobValues(job), desk.type, names);
     return desk.recorder.Reading();
 }
 
-std::string Grantees(const Job& job, std::string_view style) {
+std::string Grantees(const Job& job, Tenancy tenancy) {
     Desk desk;
-    TypeGranteePhrase(JobValues(job), desk.type, style);
+    TypeGranteePhrase(JobValues(job), desk.type, Names::Plain, tenancy);
     return desk.recorder.Text();
 }
 
 TEST(Phrases, NamesAreBoldOnRequest) {
     Job job = SampleDeal();
     SellersAtOneAddress(job);
-    EXPECT_NE(
-        Grantors(job, "Bold").find("*Walter B. Hollis and June Hollis* both of 14 Chestnut Lane, Branford"),
-        std::string::npos);
-    EXPECT_EQ(Grantors(job, "").find('*'), std::string::npos);
+    EXPECT_NE(Grantors(job, Names::Bold)
+                  .find("*Walter B. Hollis and June Hollis* both of 14 Chestnut Lane, Branford"),
+              std::string::npos);
+    EXPECT_EQ(Grantors(job, Names::Plain).find('*'), std::string::npos);
 }
 
 TEST(Phrases, CapacityOfOneFiduciarySeller) {
     Job job = SampleDeal();
     SellerIsFiduciary(job, "Testamentary Trustee");
-    EXPECT_NE(Grantors(job, "").find(
-                  "06405, duly qualified and authorized Trustee of the Hollis Family 2005 Trust\n"),
+    EXPECT_NE(Grantors(job, Names::Plain)
+                  .find("06405, duly qualified and authorized Trustee of the Hollis Family 2005 Trust\n"),
               std::string::npos);
     job.SetField(FiduciaryType, "Conservator");
-    EXPECT_NE(Grantors(job, "").find("Conservator of the Estate of Lionel Hollis, an incapable person\n"),
-              std::string::npos);
+    EXPECT_NE(
+        Grantors(job, Names::Plain).find("Conservator of the Estate of Lionel Hollis, an incapable person\n"),
+        std::string::npos);
     SellersAtOneAddress(job);
-    EXPECT_EQ(Grantors(job, "").find("qualified"), std::string::npos) << "two sellers act for themselves";
+    EXPECT_EQ(Grantors(job, Names::Plain).find("qualified"), std::string::npos)
+        << "two sellers act for themselves";
 }
 
 TEST(Phrases, TenancyOfTwoBuyersOnly) {
     Job job = SampleDeal();
-    EXPECT_EQ(Grantees(job, "Bold-T").find(" AS "), std::string::npos);
+    EXPECT_EQ(Grantees(job, Tenancy::Said).find(" AS "), std::string::npos);
     BuyersApart(job);
-    EXPECT_EQ(Grantees(job, "Bold").find(" AS "), std::string::npos);
+    EXPECT_EQ(Grantees(job, Tenancy::Unsaid).find(" AS "), std::string::npos);
     EXPECT_EQ(
-        Grantees(job, "T"),
+        Grantees(job, Tenancy::Said),
         "Priya Castellan of 8 Harbor View, Unit 3, Clinton, CT 06413 and Omar Castellan of 8 Harborview, Unit "
         "3, Clinton, CT 06413 AS JOINT TENANTS WITH RIGHTS OF SURVIVORSHIP\n");
     job.SetField(TenancyType, "JOINT TENANTS");
-    EXPECT_TRUE(Grantees(job, "T").ends_with(" AS JOINT TENANTS\n"));
+    EXPECT_TRUE(Grantees(job, Tenancy::Said).ends_with(" AS JOINT TENANTS\n"));
     job.SetField(TenancyType, "as partners");
-    EXPECT_TRUE(Grantees(job, "T").ends_with(" AS [tenancy type]\n"));
+    EXPECT_TRUE(Grantees(job, Tenancy::Said).ends_with(" AS [tenancy type]\n"));
 }
 
 TEST(Fields, BearTheNumbersOfTheirMarkers) {

@@ -5,6 +5,7 @@
 
 #include "core/fields.h"
 #include "core/text_conversions.h"
+#include "production/builders/text_bodies.h"
 #include "production/kit/job_values.h"
 #include "production/kit/typing.h"
 
@@ -15,10 +16,13 @@ namespace quillmark {
     void builder(const JobValues&, Typist&, const Variant&);
 #define COMPUTED(entry, builder, tag, again, notices) \
     void builder(const Production&, Typist&, const Variant&);
+#define TEXT(entry, file, passages, notices)
+#define BODY(file, passages)
 #include "production/builders/builders.inc"
 #undef DOCUMENT
 #undef VARIANT
 #undef COMPUTED
+#undef TEXT
 
 namespace {
 
@@ -35,12 +39,20 @@ namespace {
             Variant{tag, number}, RunsAgain::again, notices},
 #define COMPUTED(entry, builder, tag, again, notices) \
     Builder{entry, builder, Variant{tag}, RunsAgain::again, notices},
+#define TEXT(entry, file, passages, notices)                           \
+    Builder{entry,                                                     \
+            [](const Production& from, Typist& type, const Variant&) { \
+                TypeBody(file, JobValues(from.job), type);             \
+            },                                                         \
+            Variant{}, RunsAgain::Never, notices},
 constexpr auto kBuilders = std::to_array<Builder>({
 #include "production/builders/builders.inc"
 });
 #undef DOCUMENT
 #undef VARIANT
 #undef COMPUTED
+#undef TEXT
+#undef BODY
 
 bool RunsTwice(const Builder& builder, const Job& job) {
     switch (builder.again) {

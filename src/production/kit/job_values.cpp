@@ -1,5 +1,8 @@
 #include "production/kit/job_values.h"
 
+#include <algorithm>
+#include <array>
+
 namespace quillmark {
 
 namespace {
@@ -9,6 +12,14 @@ Field LineTwo(Field addr1) {
 }
 
 }  // namespace
+
+const Party* FindParty(Field name) {
+    static constexpr std::array kParties = {kSeller1,  kSeller2,   kBuyer1,     kBuyer2,
+                                            kDecedent, kPrincipal, kAttyInFact, kAttyInFact2};
+    const auto found = std::find_if(kParties.begin(), kParties.end(),
+                                    [&](const Party& party) { return party.name == name; });
+    return found == kParties.end() ? nullptr : &*found;
+}
 
 std::string JobValues::TwoLines(Field addr1) const {
     const Field addr2 = LineTwo(addr1);

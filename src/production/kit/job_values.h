@@ -21,6 +21,15 @@ inline constexpr Party kSeller2 = {field::Seller2Name, field::Seller2Addr1, fiel
 inline constexpr Party kBuyer1 = {field::Buyer1Name, field::Buyer1Addr1, field::Buyer1CityStateZip};
 inline constexpr Party kBuyer2 = {field::Buyer2Name, field::Buyer2Addr1, field::Buyer2CityStateZip};
 inline constexpr Party kDecedent = {field::Decedent, field::DecedentAddr1, field::DecedentCityStateZip};
+inline constexpr Party kPrincipal = {field::PrincipalOfPower, field::PrincipalAddr1,
+                                     field::PrincipalCityStateZip};
+inline constexpr Party kAttyInFact = {field::AttyInFact, field::AttyInFactAddr1,
+                                      field::AttyInFactCityStateZip};
+inline constexpr Party kAttyInFact2 = {field::AttyInFact2, field::AttyInFact2Addr1,
+                                       field::AttyInFact2CityStateZip};
+
+/// The party of this name field; null for other fields.
+const Party* FindParty(Field name);
 
 /// The job as a builder reads it: plain values and the forms derived from them. Whatever is unfilled reads as
 /// its bracketed marker, so that the finished document shows the hole.
@@ -29,6 +38,8 @@ class JobValues {
     explicit JobValues(const Job& job) : job_(job) {}
 
     const std::string& operator[](Field n) const { return job_.D(n); }
+    /// A field's value, or a derived one by its number k*1000+n.
+    const std::string& Numbered(int number) const { return job_.D(number); }
     bool Has(Option option) const { return job_.optConf(option); }
     bool IsFilled(Field n) const { return job_.IsFilled(n); }
     /// The picture that the field holds in place of a text, as the bytes of a Windows bitmap; empty for none.

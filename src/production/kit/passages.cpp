@@ -29,12 +29,22 @@ void TypeTitle(Typist& type, std::string_view title) {
     type.FontSize(10);
 }
 
-void TypeGenderParagraph(Typist& type) {
+void TypeGenderParagraph(Typist& type, std::string_view added) {
     type.Text(
         "In all references herein to any parties, persons, entities or corporations, the use of any "
         "particular gender or the plural or singular number is intended to include the appropriate gender "
         "or number as the text of the within instrument may require.",
-        RepeatReturn(2));
+        added, RepeatReturn(2));
+}
+
+void TypeExecutionDate(const JobValues& job, Typist& type, std::string_view whoHave, int returns) {
+    type.TypeBold("IN WITNESS WHEREOF");
+    type.Text(", the ", whoHave, " caused these presents to be executed on this ",
+              job.DayMonthYear(DocumentDate), ".", RepeatReturn(static_cast<std::uint16_t>(returns)));
+}
+
+int WitnessReturns(const JobValues& job) {
+    return job.Has(TwoSellers) || job.Has(TwoBuyers) || job.Has(Entity) ? 2 : 3;
 }
 
 void TypeWitnesses(const JobValues& job, Typist& type, int returns) {

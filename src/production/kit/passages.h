@@ -27,9 +27,17 @@ void TypeReturnTo(const JobValues& job, Typist& type, const Attorney& attorney);
 /// The title in bold over the page, in Arial 11. What follows is Arial 10 at the left.
 void TypeTitle(Typist& type, std::string_view title);
 
-/// The paragraph by which one wording fits any number and gender of parties, and its paragraph ends.
-void TypeGenderParagraph(Typist& type);
+/// The paragraph by which one wording fits any number and gender of parties, with what is `added` to it and
+/// its paragraph ends.
+void TypeGenderParagraph(Typist& type, std::string_view added = {});
 
+/// "IN WITNESS WHEREOF, the Grantor has caused ..." on the document date, with so many returns behind it;
+/// `whoHave` is "Grantor has", for instance.
+void TypeExecutionDate(const JobValues& job, Typist& type, std::string_view whoHave, int returns);
+
+/// How many returns stand over a witness's line: fewer where more parties sign, so that the signatures of a
+/// long instrument stay on one page.
+int WitnessReturns(const JobValues& job);
 /// "Signed, sealed and delivered" and the lines of both witnesses, each after so many returns.
 void TypeWitnesses(const JobValues& job, Typist& type, int returns);
 

@@ -8,28 +8,28 @@ using namespace field;
 
 namespace {
 
-void TypeName(Typist& type, std::string_view name, bool bold) {
-    if (bold) {
+void TypeName(Typist& type, std::string_view name, Names names) {
+    if (names == Names::Bold) {
         type.TypeBold(name);
     } else {
         type.Text(name);
     }
 }
 
-void TypeParty(const JobValues& job, Typist& type, const Party& party, bool bold) {
-    TypeName(type, job[party.name], bold);
+void TypeParty(const JobValues& job, Typist& type, const Party& party, Names names) {
+    TypeName(type, job[party.name], names);
     type.Text(" of ", job.Address(party));
 }
 
 void TypeTwoParties(const JobValues& job, Typist& type, const Party& first, const Party& second,
-                    std::string_view joinedNames, bool bold) {
+                    std::string_view joinedNames, Names names) {
     if (job.OneLine(first.addr1) == job.OneLine(second.addr1)) {
-        TypeName(type, joinedNames, bold);
+        TypeName(type, joinedNames, names);
         type.Text(" both of ", job.Address(first));
     } else {
-        TypeParty(job, type, first, bold);
+        TypeParty(job, type, first, names);
         type.Text(" and ");
-        TypeParty(job, type, second, bold);
+        TypeParty(job, type, second, names);
     }
 }
 
@@ -61,24 +61,22 @@ void TypeTenancy(const JobValues& job, Typist& type) {
 
 }  // namespace
 
-void TypeGrantorPhrase(const JobValues& job, Typist& type, std::string_view style) {
-    const bool bold = style == "Bold";
+void TypeGrantorPhrase(const JobValues& job, Typist& type, Names names) {
     if (job.Has(TwoSellers)) {
-        TypeTwoParties(job, type, kSeller1, kSeller2, job.SellerNames(), bold);
+        TypeTwoParties(job, type, kSeller1, kSeller2, job.SellerNames(), names);
         return;
     }
-    TypeParty(job, type, kSeller1, bold);
+    TypeParty(job, type, kSeller1, names);
     if (job.Has(EstateTrust)) TypeFiduciaryCapacity(job, type);
 }
 
-void TypeGranteePhrase(const JobValues& job, Typist& type, std::string_view style) {
-    const bool bold = style.starts_with("Bold");
+void TypeGranteePhrase(const JobValues& job, Typist& type, Names names, Tenancy tenancy) {
     if (!job.Has(TwoBuyers)) {
-        TypeParty(job, type, kBuyer1, bold);
+        TypeParty(job, type, kBuyer1, names);
         return;
     }
-    TypeTwoParties(job, type, kBuyer1, kBuyer2, job.BuyerNames(), bold);
-    if (style.ends_with('T')) TypeTenancy(job, type);
+    TypeTwoParties(job, type, kBuyer1, kBuyer2, job.BuyerNames(), names);
+    if (tenancy == Tenancy::Said) TypeTenancy(job, type);
 }
 
 }  // namespace quillmark

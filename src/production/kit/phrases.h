@@ -1,19 +1,20 @@
 #pragma once
 
-#include <string_view>
-
 #include "production/kit/job_values.h"
 #include "production/kit/typing.h"
 
 /// The descriptions of the two sides that deeds, contracts and mortgages share.
 namespace quillmark {
 
-/// The sellers with their addresses, in one clause when both live at one address as it is spelled; with
-/// Estate / Trust a single seller's capacity too. The style "Bold" sets the names in bold.
-void TypeGrantorPhrase(const JobValues& job, Typist& type, std::string_view style);
+enum class Names { Plain, Bold };
+enum class Tenancy { Unsaid, Said };
 
-/// The buyers with their addresses. A style that begins with "Bold" sets the names in bold; one that ends in
-/// "T" adds the tenancy of two buyers.
-void TypeGranteePhrase(const JobValues& job, Typist& type, std::string_view style);
+/// The sellers with their addresses, in one clause when both live at one address as it is spelled; with
+/// Estate / Trust a single seller's capacity too.
+void TypeGrantorPhrase(const JobValues& job, Typist& type, Names names);
+
+/// The buyers with their addresses; with `Tenancy::Said` how two of them take title (C.G.S. Sec. 47-14a,
+/// 47-36a).
+void TypeGranteePhrase(const JobValues& job, Typist& type, Names names, Tenancy tenancy = Tenancy::Unsaid);
 
 }  // namespace quillmark

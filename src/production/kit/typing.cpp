@@ -57,6 +57,23 @@ void Typist::NumberedList(std::initializer_list<std::string_view> items) {
     EndList();
 }
 
+void Typist::BulletedList(std::initializer_list<std::string_view> items) {
+    WordSel.ListFormat().ApplyBulletDefault();
+    for (const std::string_view item : items) Text(item, "\v\r");
+    EndList();
+}
+
+void Typist::BeginColumns(int count, double spacingInches) {
+    WordSel.InsertBreak(word::SectionBreakContinuous);
+    WordSel.PageSetup.TextColumns.SetCount(count);
+    WordSel.PageSetup.TextColumns.Spacing = InchesToPoints(spacingInches);
+}
+
+void Typist::EndColumns() {
+    WordSel.InsertBreak(word::SectionBreakContinuous);
+    WordSel.PageSetup.TextColumns.SetCount(1);
+}
+
 void Typist::CheckBox(bool ticked) {
     session_.WordDoc.FormFields.Add(WordSel.Range(), word::FieldFormCheckBox).CheckBox.Value = ticked;
 }

@@ -50,6 +50,14 @@ class Typist {
         Underline(word::UnderlineNone);
     }
 
+    /// As TypeBold, raised.
+    template <class... Parts>
+    void TypeSuperscript(const Parts&... parts) {
+        Superscript(true);
+        Text(parts...);
+        Superscript(false);
+    }
+
     // Characters, from here on.
     void Font(std::string_view name, double points);
     void FontName(std::string_view name) { WordSel.Font.Name = name; }
@@ -57,6 +65,7 @@ class Typist {
     void Bold(bool on) { WordSel.Font.Bold = on; }
     void Italic(bool on) { WordSel.Font.Italic = on; }
     void Underline(word::Underline kind) { WordSel.Font.Underline = kind; }
+    void Superscript(bool on) { WordSel.Font.Superscript = on; }
 
     // The paragraph in hand and those that follow it.
     void Align(word::Alignment alignment) { WordSel.ParagraphFormat.Alignment = alignment; }
@@ -64,9 +73,24 @@ class Typist {
     void LineSpacing(double points) { WordSel.Paragraphs.LineSpacing = points; }
     /// Left and right alike.
     void Indents(double inches);
-    /// A tab stop; whoever adds it clears it.
-    void AddTab(double inches) { WordSel.Paragraphs.TabStops.Add(word::InchesToPoints(inches)); }
-    void ClearTab(double inches) { WordSel.Paragraphs.TabStops.Clear(word::InchesToPoints(inches)); }
+    /// Types against tab stops that are there for this passage alone.
+    template <class Passage>
+    void AtTabs(std::initializer_list<double> inches, Passage passage) {
+        for (const double stop : inches) AddTab(stop);
+        passage();
+        for (const double stop : inches) ClearTab(stop);
+    }
+    template <class Passage>
+    void AtTab(double inches, Passage passage) {
+        AtTabs({inches}, passage);
+    }
+    /// Types with so many points after each paragraph.
+    template <class Passage>
+    void Spaced(double points, Passage passage) {
+        SpaceAfter(points);
+        passage();
+        SpaceAfter(0);
+    }
 
     // Lists: 1. 2. 3., or 1. a. i. with the outline, where ListIn and ListOut change the level.
     void BeginList() { WordSel.ListFormat().ApplyListTemplate(session_.ListTemplateSimple); }
@@ -79,6 +103,17 @@ class Typist {
     void EndList();
     /// A whole list of plain items.
     void NumberedList(std::initializer_list<std::string_view> items);
+    /// The same with a dot before each.
+    void BulletedList(std::initializer_list<std::string_view> items);
+
+    /// A section of its own in newspaper columns, begun and ended by a continuous section break: the text of
+    /// the passage runs down one column and on in the next.
+    template <class Passage>
+    void Columns(int count, double spacingInches, Passage passage) {
+        BeginColumns(count, spacingInches);
+        passage();
+        EndColumns();
+    }
 
     // Things that are not text.
     void PageBreak() { WordSel.InsertBreak(word::PageBreak); }
@@ -88,6 +123,10 @@ class Typist {
     void TextField(std::string_view result);
     /// A picture given as the bytes of its file, by way of the clipboard, which is empty afterwards.
     void Picture(std::string_view bytes);
+    /// A table at the insertion point, which stays before it: `Leave` it by typing behind it.
+    word::Table Table(int rows, int columns) {
+        return session_.WordDoc.Tables.Add(WordSel.Range(), rows, columns);
+    }
 
     /// The word processor's major version, such as 16.
     double WordVersion() const { return session_.WordApp.Version(); }
@@ -97,6 +136,10 @@ class Typist {
 
  private:
     void TypeText(std::initializer_list<std::string_view> parts);
+    void AddTab(double inches) { WordSel.Paragraphs.TabStops.Add(word::InchesToPoints(inches)); }
+    void ClearTab(double inches) { WordSel.Paragraphs.TabStops.Clear(word::InchesToPoints(inches)); }
+    void BeginColumns(int count, double spacingInches);
+    void EndColumns();
 
     WordSession& session_;
     double indent_ = 0;  ///< as Indents set it last

@@ -98,10 +98,6 @@ void StatementPage::Head() {
               "PROPERTY:", RepeatTab(2), property, "\r",       //
               "CLOSING DATE:\t", closing, note, "\r",          //
               RepeatUnderscore(93), RepeatReturn(2));
-
-    type.AddTab(kFigureTab);
-    type.AddTab(kTotalTab);
-    type.LineSpacing(type.WordVersion() >= 12 ? kLines : kLinesOfOldWord);
 }
 
 // ---- What the lines are called ----
@@ -289,10 +285,6 @@ void StatementPage::Commissions(char mark) {
 void StatementPage::Net() {
     const bool isDeficit = statement.NetResult < 0;
     lines.Result((isDeficit ? "DUE FROM " : "NET TO ") + seller, std::abs(statement.NetResult));
-    type.ClearTab(kFigureTab);
-    type.ClearTab(kTotalTab);
-    type.Indents(0);
-    type.LineSpacing(12);
 }
 
 }  // namespace
@@ -302,12 +294,17 @@ void TypeClosingStatement(const Production& production, Typist& type, const Vari
         ComputeClosingStatement(production.job, production.settings, variant.tag, production.dialogs);
     StatementPage page(production, type, statement);
     page.Head();
-    page.CreditsToSeller();
-    page.CreditsToBuyer();
-    page.CashToClose();
-    page.AvailableFunds();
-    page.Disbursements();
-    page.Net();
+    type.AtTabs({kFigureTab, kTotalTab}, [&] {
+        type.LineSpacing(type.WordVersion() >= 12 ? kLines : kLinesOfOldWord);
+        page.CreditsToSeller();
+        page.CreditsToBuyer();
+        page.CashToClose();
+        page.AvailableFunds();
+        page.Disbursements();
+        page.Net();
+    });
+    type.Indents(0);
+    type.LineSpacing(12);
 }
 
 }  // namespace quillmark

@@ -85,14 +85,10 @@ void TypeRealtors(const JobValues& job, Typist& type) {
     type.Text(fiveBlanks, job[Realtor1Name], "\t");
     type.TypeBold("Realtor 2");
     type.Text(fiveBlanks, ValueOrBlank(job, Realtor2Name), RepeatReturn(2));
-    type.AddTab(kLeftBlank);
-    type.AddTab(kRightBlank);
     Lines rows;
     for (const char* label : {"Agent:", "Addr1:", "Addr2:", "City:", "Phone:", "Fax:", "Email:"})
         rows.push_back(label + ("\t" + Blank()));
-    TypeColumns(type, rows, rows);
-    type.ClearTab(kLeftBlank);
-    type.ClearTab(kRightBlank);
+    type.AtTabs({kLeftBlank, kRightBlank}, [&] { TypeColumns(type, rows, rows); });
 }
 
 Lines BuyersAttorney(const JobValues& job) {
@@ -144,6 +140,25 @@ void TypeRule(Typist& type) {
     type.Text(RepeatUnderscore(86), RepeatReturn(2));
 }
 
+void TypeParties(const JobValues& job, Typist& type) {
+    type.Text(job.TwoLines(PropertyAddress1), ", ", job.Town(PropertyCityStateZip), RepeatReturn(2));
+    TypeHeadings(type, "Seller 1 Information", "Seller 2 Information");
+    TypeColumns(type, Seller1(job), Seller2(job));
+    TypeHeadings(type, "Buyer 1 Information", "Buyer 2 Information");
+    TypeColumns(type, Buyer1(job), Buyer2(job));
+    TypeRule(type);
+}
+
+void TypeAttorneys(const JobValues& job, Typist& type) {
+    TypeHeadings(type, "Buyer's Attorney", "NOTES");
+    const Lines attorney = BuyersAttorney(job);
+    TypeColumns(type, attorney, Notes(job, attorney.size()));
+    TypeRule(type);
+
+    TypeHeadings(type, "Seller's Attorney", "Figures");
+    type.AtTab(kFigure, [&] { TypeColumns(type, SellersAttorney(job), Figures(job)); });
+}
+
 }  // namespace
 
 void TypeFileSummarySheet(const JobValues& job, Typist& type) {
@@ -152,26 +167,11 @@ void TypeFileSummarySheet(const JobValues& job, Typist& type) {
     type.Font("Arial", 10);
     type.Bold(false);
     type.Italic(false);
-    type.AddTab(kRightColumn);
-
-    type.Text(job.TwoLines(PropertyAddress1), ", ", job.Town(PropertyCityStateZip), RepeatReturn(2));
-    TypeHeadings(type, "Seller 1 Information", "Seller 2 Information");
-    TypeColumns(type, Seller1(job), Seller2(job));
-    TypeHeadings(type, "Buyer 1 Information", "Buyer 2 Information");
-    TypeColumns(type, Buyer1(job), Buyer2(job));
-    TypeRule(type);
-
-    TypeRealtors(job, type);
-    TypeHeadings(type, "Buyer's Attorney", "NOTES");
-    const Lines attorney = BuyersAttorney(job);
-    TypeColumns(type, attorney, Notes(job, attorney.size()));
-    TypeRule(type);
-
-    TypeHeadings(type, "Seller's Attorney", "Figures");
-    type.AddTab(kFigure);
-    TypeColumns(type, SellersAttorney(job), Figures(job));
-    type.ClearTab(kRightColumn);
-    type.ClearTab(kFigure);
+    type.AtTab(kRightColumn, [&] {
+        TypeParties(job, type);
+        TypeRealtors(job, type);
+        TypeAttorneys(job, type);
+    });
 }
 
 }  // namespace quillmark

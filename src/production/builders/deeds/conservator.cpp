@@ -1,4 +1,5 @@
 #include "production/builders/deeds/passages_deed.h"
+#include "production/kit/instruments.h"
 #include "production/kit/passages.h"
 #include "production/kit/phrases.h"
 
@@ -10,11 +11,11 @@ void TypeConservatorsDeed(const JobValues& job, Typist& type) {
     TypeReturnTo(job, type, kBuyerAtty);
     TypeTitle(type, "CONSERVATOR’S DEED - STATUTORY FORM");
 
-    TypeDeedOpening(type);
+    TypeInstrumentOpening(type);
     TypeFiduciary(job, type);
     type.Text(", Conservator of the estate of ", job[ConservedParty], ", an incapable person");
     TypeConsideration(job, type, "grants");
-    TypeGranteePhrase(job, type, "Bold-T");
+    TypeGranteePhrase(job, type, Names::Bold, Tenancy::Said);
     TypePremises(job, type, "CONSERVATOR’S COVENANTS");
     TypeUsualEncumbrances(type);
     TypeGenderParagraph(type);

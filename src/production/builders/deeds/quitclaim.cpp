@@ -1,4 +1,5 @@
 #include "production/builders/deeds/passages_deed.h"
+#include "production/kit/instruments.h"
 #include "production/kit/passages.h"
 #include "production/kit/phrases.h"
 
@@ -12,10 +13,10 @@ void TypeQuitclaimDeed(const JobValues& job, Typist& type) {
     TypeReturnTo(job, type, kBuyerAtty);
     TypeTitle(type, "QUITCLAIM DEED - STATUTORY FORM");
 
-    TypeDeedOpening(type);
+    TypeInstrumentOpening(type);
     TypeGrantors(job, type, power);
     TypeConsideration(job, type, job.Has(TwoSellers) ? "grant" : "grants");
-    TypeGranteePhrase(job, type, "Bold-T");
+    TypeGranteePhrase(job, type, Names::Bold, Tenancy::Said);
     TypePremises(job, type, "QUITCLAIM COVENANTS");
     TypeGenderParagraph(type);
 

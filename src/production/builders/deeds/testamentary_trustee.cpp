@@ -1,4 +1,5 @@
 #include "production/builders/deeds/passages_deed.h"
+#include "production/kit/instruments.h"
 #include "production/kit/passages.h"
 #include "production/kit/phrases.h"
 
@@ -10,12 +11,12 @@ void TypeTestamentaryTrusteesDeed(const JobValues& job, Typist& type) {
     TypeReturnTo(job, type, kBuyerAtty);
     TypeTitle(type, "TESTAMENTARY TRUSTEE’S DEED - STATUTORY FORM");
 
-    TypeDeedOpening(type);
+    TypeInstrumentOpening(type);
     TypeFiduciary(job, type);
     type.Text(", Trustee under Article ", job[FiduciaryArticleNumber], " of the last will and testament of ",
               job[Decedent], " late of ", job.Address(kDecedent), ", duly qualified as trustee");
     TypeConsideration(job, type, "grants");
-    TypeGranteePhrase(job, type, "Bold-T");
+    TypeGranteePhrase(job, type, Names::Bold, Tenancy::Said);
     TypePremises(job, type, "TESTAMENTARY TRUSTEE’S COVENANTS");
     TypeUsualEncumbrances(type);
     TypeGenderParagraph(type);

@@ -1,4 +1,5 @@
 #include "production/builders/deeds/passages_deed.h"
+#include "production/kit/instruments.h"
 #include "production/kit/passages.h"
 #include "production/kit/phrases.h"
 
@@ -10,13 +11,13 @@ void TypeTrusteesDeed(const JobValues& job, Typist& type) {
     TypeReturnTo(job, type, kBuyerAtty);
     TypeTitle(type, "TRUSTEE’S DEED - STATUTORY FORM");
 
-    TypeDeedOpening(type);
+    TypeInstrumentOpening(type);
     TypeFiduciary(job, type);
     type.Text(", Trustee under Article ", job[FiduciaryArticleNumber], " of the ");
     type.TypeItalic(job[TrustInstrument]);
     type.Text(", duly qualified as trustee");
     TypeConsideration(job, type, "grants");
-    TypeGranteePhrase(job, type, "Bold-T");
+    TypeGranteePhrase(job, type, Names::Bold, Tenancy::Said);
     TypePremises(job, type, "TRUSTEE’S COVENANTS");
     TypeUsualEncumbrances(type);
     TypeGenderParagraph(type);

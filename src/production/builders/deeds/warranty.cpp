@@ -1,4 +1,5 @@
 #include "production/builders/deeds/passages_deed.h"
+#include "production/kit/instruments.h"
 #include "production/kit/passages.h"
 #include "production/kit/phrases.h"
 
@@ -11,10 +12,10 @@ void TypeWarrantyDeed(const JobValues& job, Typist& type) {
     TypeReturnTo(job, type, kBuyerAtty);
     TypeTitle(type, "WARRANTY DEED - STATUTORY FORM");
 
-    TypeDeedOpening(type);
+    TypeInstrumentOpening(type);
     TypeGrantors(job, type, power);
     TypeConsideration(job, type, job.Has(TwoSellers) ? "grant" : "grants");
-    TypeGranteePhrase(job, type, "Bold-T");
+    TypeGranteePhrase(job, type, Names::Bold, Tenancy::Said);
     TypePremises(job, type, "WARRANTY COVENANTS");
     TypeUsualEncumbrances(type);
     TypeGenderParagraph(type);
