@@ -4,6 +4,7 @@
 
 #include "word/automation.h"
 #include "word/docx/picture_size.h"
+#include "word/docx/pictures.h"
 #include "word/writer_samples.h"
 
 namespace quillmark::word::docx {
@@ -72,6 +73,21 @@ TEST(PictureSize, ReadsPixelsAndResolutionOfEachKind) {
         EXPECT_NEAR(static_cast<double>(size.WidthEmu()), static_cast<double>(row.widthEmu), 40.0);
         EXPECT_NEAR(static_cast<double>(size.HeightEmu()), static_cast<double>(row.heightEmu), 40.0);
     }
+}
+
+TEST(PictureSize, DescriptionOfAPngReachesTheDocument) {
+    std::string png = test::PngBytes(96, 48);
+    const std::string text = "Description\0A caf\xE9 & its door"s;
+    png.insert(png.find("IDAT") - 4,
+               Big(static_cast<std::uint32_t>(text.size()), 4) + "tEXt" + text + "sum!");
+    EXPECT_EQ(ReadPictureSize(png).description, "A café & its door");
+
+    const auto document = test::EmptyDocument();
+    test::Insert(*document, test::AddParagraph(*document, document->body), MakePicture(png));
+    const std::string xml = test::PartOf(*document, "word/document.xml");
+    EXPECT_NE(xml.find(R"(<wp:docPr id="1" name="Picture 1" descr="A café &amp; its door"/>)"),
+              std::string::npos)
+        << xml;
 }
 
 TEST(PictureSize, EveryTornPictureIsRefused) {

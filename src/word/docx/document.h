@@ -97,6 +97,7 @@ struct Picture {
     std::string extension;  ///< "png", "jpeg" or "bmp"; others as an opened file had them
     std::int64_t widthEmu = 0;
     std::int64_t heightEmu = 0;
+    std::string description = {};  ///< for those who cannot see it; empty for none
 };
 
 /// A complex field's marks. The instruction and the result are ordinary text between them, in the same

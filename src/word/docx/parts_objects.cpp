@@ -24,10 +24,11 @@ void WriteSizePair(XmlWriter& xml, std::string_view tag, std::string_view x, std
     xml.Close();
 }
 
-void WriteNonVisual(XmlWriter& xml, std::string_view tag, int id) {
+void WriteNonVisual(XmlWriter& xml, std::string_view tag, int id, const std::string& description) {
     xml.Open(tag);
     xml.Attribute("id", id);
     xml.Attribute("name", fmt::format("Picture {}", id));
+    if (!description.empty()) xml.Attribute("descr", description);
     xml.Close();
 }
 
@@ -61,7 +62,7 @@ void WriteGraphic(XmlWriter& xml, const Picture& picture, int id, const std::str
     xml.Attribute("uri", kPictureSpace);
     xml.Open("pic:pic");
     xml.Open("pic:nvPicPr");
-    WriteNonVisual(xml, "pic:cNvPr", id);
+    WriteNonVisual(xml, "pic:cNvPr", id, picture.description);
     xml.Empty("pic:cNvPicPr");
     xml.Close();
     WriteFill(xml, relation);
@@ -95,7 +96,7 @@ void StoryWriter::WriteObject(const Picture& picture, FormatId format) {
     xml_.Open("wp:inline");
     for (const char* side : {"distT", "distB", "distL", "distR"}) xml_.Attribute(side, 0);
     WriteSizePair(xml_, "wp:extent", "cx", "cy", picture.widthEmu, picture.heightEmu);
-    WriteNonVisual(xml_, "wp:docPr", id);
+    WriteNonVisual(xml_, "wp:docPr", id, picture.description);
     WriteGraphic(xml_, picture, id, relations_.Add(relationship::kImage, part));
     xml_.Close();
     xml_.Close();

@@ -70,12 +70,28 @@ void SetResolution(PictureSize& size, double x, double y) {
     size.dotsPerInchY = y;
 }
 
+std::string Utf8OfLatin1(std::string_view latin1) {
+    std::string utf8;
+    for (const char c : latin1) {
+        const auto code = static_cast<unsigned char>(c);
+        if (code < 0x20) continue;
+        if (code < 0x80) {
+            utf8 += c;
+        } else {
+            utf8 += static_cast<char>(0xC0 | code >> 6);
+            utf8 += static_cast<char>(0x80 | (code & 0x3F));
+        }
+    }
+    return utf8;
+}
+
 constexpr std::string_view kPngSignature = "\x89PNG\r\n\x1a\n";
 
 PictureSize ReadPng(std::string_view bytes) {
     const Reader png(bytes, "PNG");
     PictureSize size = {.extension = "png"};
     constexpr std::size_t kChunkFrame = 12;  // length, name and check sum
+    constexpr std::string_view kDescription("Description\0", 12);
     bool hasImage = false;
     for (std::size_t at = kPngSignature.size();;) {
         const std::uint32_t length = png.Big(at, 4);
@@ -86,6 +102,8 @@ PictureSize ReadPng(std::string_view bytes) {
         if (name == "pHYs" && length >= 9 && png.Byte(data + 8) == 1) {
             SetResolution(size, png.Big(data, 4) * kMetresPerInch, png.Big(data + 4, 4) * kMetresPerInch);
         }
+        const std::string_view text = name == "tEXt" ? png.Slice(data, length) : std::string_view();
+        if (text.starts_with(kDescription)) size.description = Utf8OfLatin1(text.substr(kDescription.size()));
         hasImage = hasImage || name == "IDAT";
         if (name == "IEND") break;
         at += kChunkFrame + length;

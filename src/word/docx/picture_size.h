@@ -13,6 +13,7 @@ struct PictureSize {
     int height = 0;
     double dotsPerInchX = 96.0;  ///< 96 where the file does not say
     double dotsPerInchY = 96.0;
+    std::string description = {};  ///< for those who cannot see it, UTF-8; a PNG's text "Description"
 
     /// The natural size in EMU (914,400 to the inch), at least 1.
     std::int64_t WidthEmu() const;

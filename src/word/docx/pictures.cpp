@@ -32,7 +32,7 @@ Room RoomAt(OpenDocument& document, const Place& place) {
 
 Picture MakePicture(std::string bytes) {
     const PictureSize size = ReadPictureSize(bytes);
-    return {std::move(bytes), size.extension, size.WidthEmu(), size.HeightEmu()};
+    return {std::move(bytes), size.extension, size.WidthEmu(), size.HeightEmu(), size.description};
 }
 
 Picture LoadPicture(const std::filesystem::path& file) {
