@@ -35,7 +35,7 @@ Json DeleteEntry(ConsoleSession& session, const Request& request);
 Json SavePackageAs(ConsoleSession& session, const Request& request);
 Json DeletePackageOf(ConsoleSession& session, const Request& request);
 
-// The commands of the address editor and of the proration calculator (console_companions.cpp).
+// The commands of the address editor and of the proration calculator (console_side_windows.cpp).
 Json AddAddress(ConsoleSession& session, const Request& request);
 Json RemoveAddress(ConsoleSession& session, const Request& request);
 Json UseCalculator(ConsoleSession& session, const Request& request);

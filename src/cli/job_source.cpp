@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/fields.h"
 #include "core/job_file.h"
 #include "core/text_conversions.h"
 #include "entry/smart_fields.h"
@@ -17,8 +18,6 @@ namespace {
 
 /// The seller's attorney's fields, which the firm's defaults fill. The last one, the e-mail address, belongs
 /// to the attorney chosen, so of several none is taken.
-constexpr int kFirstFirmField = 2;
-constexpr int kLastFirmField = 9;
 
 bool IsDataFile(const fs::path& path) {
     return Lowered(TextOf(path.extension())) == ".dat";
@@ -40,11 +39,11 @@ JobSource SourceOf(const fs::path& file, const Folders& folders) {
 }
 
 void FillFirmFields(const FirmDefaults& defaults, Job& job) {
-    for (int n = kFirstFirmField; n <= kLastFirmField; ++n) {
+    for (int n = field::SellerLawfirm; n <= field::SellerAttyEmail; ++n) {
         if (job.IsFilled(n)) continue;
         const std::string value = defaults.ValueOf(FieldMarker(n));
         const auto choice = value.find(';');
-        if (choice != value.npos && n == kLastFirmField) continue;
+        if (choice != value.npos && n == field::SellerAttyEmail) continue;
         job.SetField(n, Trimmed(std::string_view(value).substr(0, choice)));
         // A single default is not the job's own value, so it is not kept with the job.
         if (choice == value.npos && job.IsFilled(n)) job.txtField(n).top = 0;

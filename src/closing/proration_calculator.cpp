@@ -7,6 +7,7 @@
 
 #include <fmt/format.h>
 
+#include "core/fields.h"
 #include "entry/tagged_values.h"
 
 namespace quillmark {
@@ -18,7 +19,6 @@ using std::chrono::month;
 using std::chrono::sys_days;
 using std::chrono::year_month_day;
 
-constexpr int kProrationDate = 81;
 constexpr month kFiscalYearStart = std::chrono::July;
 
 int DaysBetween(year_month_day first, year_month_day last) {
@@ -64,7 +64,7 @@ void ProrationCalculator::Reset() {
     state_ = {};
     state_.DTPicker1 = (year - std::chrono::years(1)) / kFiscalYearStart / day(1);
     state_.DTPicker2 = year / std::chrono::June / day(30);
-    const auto date = ReadDate(job_.txtField(kProrationDate).text);
+    const auto date = ReadDate(job_.txtField(field::ProrationDate).text);
     const bool within = date && *date >= state_.DTPicker1 && *date <= state_.DTPicker2;
     state_.DTPicker3 = within ? *date : today;
     DatesChanged();

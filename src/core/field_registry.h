@@ -37,12 +37,6 @@ std::span<const DerivedField> DerivedFields();
 /// The marker of derived value k*1000+n, empty for one that custom documents cannot name.
 std::string_view DerivedMarker(int number);
 
-/// The sort key of user-defined rows.
-inline constexpr float kUserFieldSortKey = 9999;
-
-/// The label of the group that a sort key falls into, with its leading blank; empty for the first field.
-std::string_view FieldGroup(float sortKey);
-
 /// The first lines of the 19 addresses. The second line of address n is field n+1, and both feed the derived
 /// values of n.
 std::span<const int> AddressFields();

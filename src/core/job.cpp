@@ -1,5 +1,7 @@
 #include "core/job.h"
 
+#include "core/fields.h"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -59,7 +61,8 @@ void Job::StartDerivedValues() {
         SetDerived(2, n, label + " - addr 2]");
     }
     // Names joined from two fields: sellers, buyers, realtors.
-    for (const int n : {21, 59, 85}) SetDerived(1, n, FieldMarker(n));
+    for (const int n : {field::Seller1Name, field::Buyer1Name, field::Realtor1Name})
+        SetDerived(1, n, FieldMarker(n));
 }
 
 const std::string& Job::D(int n) const {

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <map>
 
+#include "core/fields.h"
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
 #include "platform/paths.h"
@@ -17,7 +18,6 @@ namespace {
 
 constexpr std::string_view kDocumentKey = "000";
 constexpr int kFirstSavedField = 2;  // a reopened job takes the date of the day
-constexpr int kRetiredField = 172;
 constexpr std::size_t kPictureLimit = 256 * 1024 * 1024;
 
 constexpr std::array<std::array<int, 3>, 7> kOptionGroups = {{
@@ -56,7 +56,7 @@ void ReadField(const RecordReader& reader, const std::string& key, JobFileConten
     const int n = key.size() <= 3 ? WholeNumber(key) : -1;
     const std::string& value = reader.Text(1);
     if (n < 1 || n > kFields) reader.Fail(fmt::format("\"{}\" is no field, they run from 002 to 240", key));
-    if (n == kRetiredField) return;
+    if (n == field::Retired) return;
     if (!HasMarker(n)) reader.Fail(fmt::format("field {} (\"{}\") is not known to this version", n, value));
     contents.fields.emplace_back(n, value);
 }

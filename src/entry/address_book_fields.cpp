@@ -7,13 +7,11 @@
 #include <stdexcept>
 
 #include "core/field_registry.h"
+#include "core/fields.h"
 
 namespace quillmark {
 
 namespace {
-
-constexpr int kLawFirm = 11;
-constexpr int kAttorney = 12;
 
 /// A run of fields that take the items of a record in order.
 struct Block {
@@ -22,13 +20,13 @@ struct Block {
 };
 
 constexpr std::array kBlocks = {
-    Block{AddressBook::Attorneys, kLawFirm},
-    Block{AddressBook::Servicers, 95},
-    Block{AddressBook::Servicers, 113},
+    Block{AddressBook::Attorneys, field::BuyerLawfirm},
+    Block{AddressBook::Servicers, field::Payoff1Servicer},
+    Block{AddressBook::Servicers, field::Payoff2Servicer},
 };
 
 const Block* BlockPickedFrom(int field) {
-    const int first = field == kAttorney ? kLawFirm : field;
+    const int first = field == field::BuyerAtty ? field::BuyerLawfirm : field;
     const auto block =
         std::find_if(kBlocks.begin(), kBlocks.end(), [&](const Block& b) { return b.first == first; });
     return block == kBlocks.end() ? nullptr : &*block;
@@ -62,7 +60,7 @@ std::vector<std::string> ItemsOfJob(const Job& job, const Block& block) {
 
 std::optional<AddressBook> BookOfField(int n, bool lawFirmHasRow) {
     const Block* block = BlockPickedFrom(n);
-    if (!block || (n == kAttorney && lawFirmHasRow)) return std::nullopt;
+    if (!block || (n == field::BuyerAtty && lawFirmHasRow)) return std::nullopt;
     return block->book;
 }
 
@@ -84,8 +82,8 @@ std::vector<FieldText> FieldsOfRecord(int field, std::string_view record, bool a
         const int n = block.first + static_cast<int>(fields.size());
         fields.push_back({n, item.empty() ? std::string(FieldMarker(n)) : item});
     }
-    const bool loneAttorney = block.first == kLawFirm && fields[0].text == fields[1].text;
-    if (loneAttorney && attorneyHasRow) fields[0].text = FieldMarker(kLawFirm);
+    const bool loneAttorney = block.first == field::BuyerLawfirm && fields[0].text == fields[1].text;
+    if (loneAttorney && attorneyHasRow) fields[0].text = FieldMarker(field::BuyerLawfirm);
     return fields;
 }
 

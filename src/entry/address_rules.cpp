@@ -1,5 +1,6 @@
 #include "entry/address_rules.h"
 
+#include "core/fields.h"
 #include "core/places.h"
 #include "core/text_conversions.h"
 #include "entry/rule_helpers.h"
@@ -7,8 +8,6 @@
 namespace quillmark::rules {
 
 namespace {
-
-constexpr int kPropertyCity = 72;
 
 /// What stands before the first comma: only the comma tells a place from the rest of the line.
 std::string PlaceOf(std::string_view line) {
@@ -18,7 +17,8 @@ std::string PlaceOf(std::string_view line) {
 }
 
 std::string TownOf(const Job& job, const std::string& place) {
-    return place.empty() ? std::string{} : std::string(TownOfPlace(place, job.D(kPropertyCity)));
+    return place.empty() ? std::string{}
+                         : std::string(TownOfPlace(place, job.D(field::PropertyCityStateZip)));
 }
 
 std::string ReplaceAll(std::string_view text, std::string_view what, std::string_view with) {
@@ -49,7 +49,8 @@ void AddressPair(Job& job, int first) {
 }
 
 void AttorneyCity(Job& job, int n) {
-    SetPart(job, 1, n, TownOf(job, PlaceOf(job.D(n))), n == 6 ? "[seller atty city]" : "[buyer atty city]");
+    SetPart(job, 1, n, TownOf(job, PlaceOf(job.D(n))),
+            n == field::SellerAttyCityStateZip ? "[seller atty city]" : "[buyer atty city]");
 }
 
 void PropertyCity(Job& job, int n) {
@@ -62,8 +63,8 @@ void PropertyCity(Job& job, int n) {
     SetPart(job, 3, n, place, "[property village]");
     SetPart(job, 4, n, municipal, "[prop municipal csz]");
     // The property's ZIP code settles ambiguous names of the attorneys' places too.
-    AttorneyCity(job, 6);
-    AttorneyCity(job, 15);
+    AttorneyCity(job, field::SellerAttyCityStateZip);
+    AttorneyCity(job, field::BuyerAttyCityStateZip);
 }
 
 void TownOfExecution(Job& job, int n) {

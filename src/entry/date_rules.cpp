@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/fields.h"
 #include "core/text_conversions.h"
 #include "entry/rule_helpers.h"
 #include "entry/smart_fields.h"
@@ -11,7 +12,7 @@ namespace quillmark::rules {
 namespace {
 
 PartialDate Markers(int n) {
-    const std::string prefix = n == 1 ? "[curr " : "[closing ";
+    const std::string prefix = n == field::DocumentDate ? "[curr " : "[closing ";
     return {prefix + "month]", prefix + "day]", prefix + "year]"};
 }
 

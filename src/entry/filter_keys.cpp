@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 #include "core/field_registry.h"
+#include "core/fields.h"
 
 namespace quillmark {
 
@@ -17,13 +18,19 @@ struct RuleRow {
     std::initializer_list<int> fields;
 };
 
+using namespace field;
+
 // clang-format off
 const RuleRow kRules[] = {
-    {KeyRule::Amount,          {10, 76, 77, 78, 100, 118, 170, 175, 177, 178, 179, 180, 181}},
-    {KeyRule::AmountOrPoc,     {171, 173, 174, 176}},
-    {KeyRule::Commission,      {86, 88}},
-    {KeyRule::DescribedAmount, {182, 183, 184, 185, 193, 194, 195, 196, 212, 213}},
-    {KeyRule::FixedList,       {191, 209}},
+    {KeyRule::Amount,          {SellerAttysFee, SalePriceNumeric, BinderDeposit, ContractDeposit,
+                                Payoff1Amount, Payoff2Amount, AnnualPropertyTax, MonthlyCommonChg,
+                                MonthlyRent, ClosingCostCredit, RepairCredit, RecordingFees, CourierFee}},
+    {KeyRule::AmountOrPoc,     {SewerAdjustment, WaterAdjustment, OilAdjustment, SecurityDeposit}},
+    {KeyRule::Commission,      {Realtor1Commission, Realtor2Commission}},
+    {KeyRule::DescribedAmount, {OtherDisbursement1, OtherDisbursement2, OtherDisbursement3,
+                                OtherDisbursement4, OtherAdjustment1, OtherAdjustment2, OtherAdjustment3,
+                                OtherAdjustment4, OtherDisbursement5, OtherDisbursement6}},
+    {KeyRule::FixedList,       {BuyerTitleInsurCo, FiduciaryType}},
 };
 // clang-format on
 
@@ -69,9 +76,9 @@ EditorText Showing(std::string text) {
 }
 
 FilteredKey CommissionFromPercent(const EditorText& editor, const Job& job) {
-    if (!job.IsFilled(kSalePriceField)) return {editor, {}, KeyEffect::MoveToSalePrice};
+    if (!job.IsFilled(field::SalePriceNumeric)) return {editor, {}, KeyEffect::MoveToSalePrice};
     const double percent = LeadingNumber(editor.text);
-    return {Showing(DecimalText(AmountOf(job.D(kSalePriceField)) * percent / 100, 2)), {}};
+    return {Showing(DecimalText(AmountOf(job.D(field::SalePriceNumeric)) * percent / 100, 2)), {}};
 }
 
 FilteredKey ByRule(const EditorText& editor, std::string_view character, const KeyPlace& place) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/fields.h"
 #include "core/job.h"
 #include "core/text_conversions.h"
 
@@ -14,7 +15,6 @@ inline constexpr std::string_view kBackspace = "\b";
 inline constexpr std::string_view kPickFromList = "please select from list ...";
 /// The box that `KeyEffect::MoveToSalePrice` comes with.
 inline constexpr std::string_view kNoSalePrice = "No sale price given";
-inline constexpr int kSalePriceField = 76;
 
 /// What else a key brings about.
 enum class KeyEffect {

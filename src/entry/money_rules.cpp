@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "core/fields.h"
 #include "core/text_conversions.h"
 #include "entry/rule_helpers.h"
 
@@ -48,7 +49,8 @@ bool IsPoc(std::string_view value) {
 }  // namespace
 
 void AmountInWords(Job& job, int n) {
-    SetPart(job, 1, n, AmountToWords(job.D(n)), n == 76 ? "[sale price words]" : "[mtg amount words]");
+    SetPart(job, 1, n, AmountToWords(job.D(n)),
+            n == field::SalePriceNumeric ? "[sale price words]" : "[mtg amount words]");
     if (job.IsFilled(n)) Reshape(job, n, ShownAmount(job.D(n)));
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/fields.h"
 #include "core/text_conversions.h"
 #include "entry/rule_helpers.h"
 
@@ -50,21 +51,22 @@ void SellerOne(Job& job, int n) {
     } else {
         SetName(job, n, EntityName(job.D(n)));
     }
-    JoinNames(job, 21, 28, job.optConf(TwoSellers));
+    JoinNames(job, field::Seller1Name, field::Seller2Name, job.optConf(TwoSellers));
 }
 
 void SellerTwo(Job& job, int n) {
     SetPersonName(job, n);
-    if (job.optConf(TwoSellers)) JoinNames(job, 21, 28, true);
+    if (job.optConf(TwoSellers)) JoinNames(job, field::Seller1Name, field::Seller2Name, true);
 }
 
 void Buyer(Job& job, int n) {
     SetPersonName(job, n);
-    if (n == 59 || job.optConf(TwoBuyers)) JoinNames(job, 59, 64, job.optConf(TwoBuyers));
+    if (n == field::Buyer1Name || job.optConf(TwoBuyers))
+        JoinNames(job, field::Buyer1Name, field::Buyer2Name, job.optConf(TwoBuyers));
 }
 
 void Realtors(Job& job, int) {
-    JoinNames(job, 85, 87, job.IsFilled(87));
+    JoinNames(job, field::Realtor1Name, field::Realtor2Name, job.IsFilled(field::Realtor2Name));
 }
 
 void OriginalTrustee(Job& job, int n) {
@@ -75,20 +77,18 @@ void OriginalTrustee(Job& job, int n) {
 void SellerAttorney(Job& job, std::string_view choices) {
     // The second derived value holds the name that the juris number belongs to, so that a second run keeps
     // the number.
-    constexpr int kAttorney = 3;
-    constexpr int kNameOfNumber = 2003;
-    const std::string value = job.D(kAttorney);
+    const std::string value = job.D(field::SellerAtty);
     if (const auto slash = value.find('/'); slash != value.npos) {
         const std::string name(RightTrimmed(std::string_view(value).substr(0, slash)));
-        job.SetField(kAttorney, name);
+        job.SetField(field::SellerAtty, name);
         const std::string_view number = LeftTrimmed(std::string_view(value).substr(slash + 1));
-        job.SetDerived(1, kAttorney, number);
-        job.SetDerived(2, kAttorney, number.empty() ? std::string() : name);
-    } else if (job.D(kNameOfNumber) != value) {
-        job.SetDerived(1, kAttorney, "");
-        job.SetDerived(2, kAttorney, "");
+        job.SetDerived(1, field::SellerAtty, number);
+        job.SetDerived(2, field::SellerAtty, number.empty() ? std::string() : name);
+    } else if (job.D(field::Part(2, field::SellerAtty)) != value) {
+        job.SetDerived(1, field::SellerAtty, "");
+        job.SetDerived(2, field::SellerAtty, "");
     }
-    job.txtField(kAttorney).tag = std::to_string(PlaceInChoices(choices, job.D(kAttorney)));
+    job.txtField(field::SellerAtty).tag = std::to_string(PlaceInChoices(choices, job.D(field::SellerAtty)));
 }
 
 int PlaceInChoices(std::string_view choices, std::string_view value) {

@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "core/field_registry.h"
+#include "core/fields.h"
 #include "core/text_conversions.h"
 #include "entry/address_book_fields.h"
 #include "selection/field_defaults.h"
@@ -12,15 +13,7 @@ namespace quillmark {
 
 namespace {
 
-constexpr int kSellerAttorney = 3;
-constexpr int kSellerAttorneyEmail = 9;
-constexpr int kBuyerLawFirm = 11;
-constexpr int kSellerOne = 21;
-constexpr int kSellerTwo = 28;
-constexpr int kSellerAttorneyCity = 1006;
-constexpr int kNamesToChoose[] = {153, 156};
-constexpr int kPrincipal = 156;
-constexpr int kAttorneyInFact = 161;
+constexpr int kNamesToChoose[] = {field::SellerCurrentName, field::PrincipalOfPower};
 
 /// Where a proposal comes from beside a plain field.
 enum class Source { Field, Persons, EitherSeller, OtherSeller, PrincipalsHome, AgentsHome, AttorneysTown };
@@ -31,28 +24,50 @@ struct Row {
     int from = 0;
 };
 
+using namespace field;
+
 // clang-format off
 constexpr Row kProposals[] = {
     // second seller
-    {29,  Source::Field, 23}, {30, Source::Field, 24}, {31, Source::Field, 25}, {33, Source::Field, 27},
-    {53,  Source::Field, 21},
+    {Seller2Addr1,            Source::Field, Seller1Addr1},
+    {Seller2Addr2,            Source::Field, Seller1Addr2},
+    {Seller2CityStateZip,     Source::Field, Seller1CityStateZip},
+    {Seller2Phone,            Source::Field, Seller1Phone},
+    {ConservedParty,          Source::Field, Seller1Name},
     // second buyer
-    {65,  Source::Field, 60}, {66, Source::Field, 61}, {67, Source::Field, 62},
+    {Buyer2Addr1,             Source::Field, Buyer1Addr1},
+    {Buyer2Addr2,             Source::Field, Buyer1Addr2},
+    {Buyer2CityStateZip,      Source::Field, Buyer1CityStateZip},
     // property
-    {70,  Source::Persons, 23}, {71, Source::Persons, 24}, {72, Source::Persons, 25},
-    {81,  Source::Field, 79},
+    {PropertyAddress1,        Source::Persons, Seller1Addr1},
+    {PropertyAddress2,        Source::Persons, Seller1Addr2},
+    {PropertyCityStateZip,    Source::Persons, Seller1CityStateZip},
+    {ProrationDate,           Source::Field, ClosingDate},
     // mortgagors, mortgagees
-    {103, Source::Field, 21}, {121, Source::Field, 21}, {131, Source::Field, 21},
-    {104, Source::Field, 95}, {122, Source::Field, 113},
+    {Payoff1Mortgagor,        Source::Field, Seller1Name},
+    {Payoff2Mortgagor,        Source::Field, Seller1Name},
+    {IndemMortgagor,          Source::Field, Seller1Name},
+    {Payoff1Mortgagee,        Source::Field, Payoff1Servicer},
+    {Payoff2Mortgagee,        Source::Field, Payoff2Servicer},
     // escrow attorney, witness
-    {140, Source::Field, 3}, {141, Source::Field, 4}, {142, Source::Field, 5}, {143, Source::Field, 6},
-    {144, Source::Field, 7}, {188, Source::Field, 3},
+    {EscrowAtty,              Source::Field, SellerAtty},
+    {EscrowAttyAddr1,         Source::Field, SellerAttyAddr1},
+    {EscrowAttyAddr2,         Source::Field, SellerAttyAddr2},
+    {EscrowAttyCityStateZip,  Source::Field, SellerAttyCityStateZip},
+    {EscrowAttyPhone,         Source::Field, SellerAttyPhone},
+    {Witness1,                Source::Field, SellerAtty},
     // change of name, power of attorney
-    {153, Source::EitherSeller}, {156, Source::EitherSeller},
-    {157, Source::PrincipalsHome, 0}, {158, Source::PrincipalsHome, 1}, {159, Source::PrincipalsHome, 2},
-    {160, Source::Field, 1}, {161, Source::OtherSeller},
-    {162, Source::AgentsHome, 0}, {163, Source::AgentsHome, 1}, {164, Source::AgentsHome, 2},
-    {187, Source::AttorneysTown},
+    {SellerCurrentName,       Source::EitherSeller},
+    {PrincipalOfPower,        Source::EitherSeller},
+    {PrincipalAddr1,          Source::PrincipalsHome, 0},
+    {PrincipalAddr2,          Source::PrincipalsHome, 1},
+    {PrincipalCityStateZip,   Source::PrincipalsHome, 2},
+    {DateOfPower,             Source::Field, DocumentDate},
+    {AttyInFact,              Source::OtherSeller},
+    {AttyInFactAddr1,         Source::AgentsHome, 0},
+    {AttyInFactAddr2,         Source::AgentsHome, 1},
+    {AttyInFactCityStateZip,  Source::AgentsHome, 2},
+    {TownOfExecution,         Source::AttorneysTown},
 };
 // clang-format on
 
@@ -60,10 +75,10 @@ std::string ValueOf(int n, const Job& job) {
     return job.IsFilled(n) ? job.D(n) : std::string();
 }
 
-/// The seller whose name field n holds: 21, 28, or 0.
+/// The seller (the field of the name) whom field n names; 0 for neither.
 int SellerNamedIn(int n, const Job& job) {
     if (!job.IsFilled(n)) return 0;
-    for (const int seller : {kSellerOne, kSellerTwo})
+    for (const int seller : {field::Seller1Name, field::Seller2Name})
         if (job.IsFilled(seller) && Trimmed(job.D(n)) == Trimmed(job.D(seller))) return seller;
     return 0;
 }
@@ -72,21 +87,21 @@ int SellerNamedIn(int n, const Job& job) {
 std::string HomeOf(int seller, int line, const Job& job) {
     constexpr int kBehindName = 2;
     constexpr int kSecondBehindName = 1;
-    if (seller == kSellerOne) return ValueOf(seller + kBehindName + line, job);
-    if (seller == kSellerTwo) return ValueOf(seller + kSecondBehindName + line, job);
+    if (seller == field::Seller1Name) return ValueOf(seller + kBehindName + line, job);
+    if (seller == field::Seller2Name) return ValueOf(seller + kSecondBehindName + line, job);
     return {};
 }
 
 std::string EitherSeller(const Job& job) {
-    std::string sellers = ValueOf(kSellerOne, job);
-    if (!sellers.empty() && job.IsFilled(kSellerTwo)) sellers += "; " + job.D(kSellerTwo);
+    std::string sellers = ValueOf(field::Seller1Name, job);
+    if (!sellers.empty() && job.IsFilled(field::Seller2Name)) sellers += "; " + job.D(field::Seller2Name);
     return sellers;
 }
 
 std::string OtherSeller(const Job& job) {
-    const int principal = SellerNamedIn(kPrincipal, job);
+    const int principal = SellerNamedIn(field::PrincipalOfPower, job);
     if (principal == 0) return {};
-    return ValueOf(principal == kSellerOne ? kSellerTwo : kSellerOne, job);
+    return ValueOf(principal == field::Seller1Name ? field::Seller2Name : field::Seller1Name, job);
 }
 
 /// Sellers who are persons; a firm's address says nothing of the property's.
@@ -105,13 +120,14 @@ std::string Proposed(const Row& row, const Job& job) {
         case Source::OtherSeller:
             return OtherSeller(job);
         case Source::PrincipalsHome:
-            return HomeOf(SellerNamedIn(kPrincipal, job), row.from, job);
+            return HomeOf(SellerNamedIn(field::PrincipalOfPower, job), row.from, job);
         case Source::AgentsHome: {
-            const int agent = SellerNamedIn(kAttorneyInFact, job);
-            return HomeOf(agent != 0 ? agent : SellerNamedIn(kPrincipal, job), row.from, job);
+            const int agent = SellerNamedIn(field::AttyInFact, job);
+            return HomeOf(agent != 0 ? agent : SellerNamedIn(field::PrincipalOfPower, job), row.from, job);
         }
         case Source::AttorneysTown:
-            return job.IsFilled(kSellerAttorneyCity % 1000) ? job.D(kSellerAttorneyCity) : std::string();
+            return job.IsFilled(SellerAttyCityStateZip) ? job.D(Part(1, SellerAttyCityStateZip))
+                                                        : std::string();
     }
     return {};
 }
@@ -126,14 +142,14 @@ bool IsListed(int n, const SelectionState& screen) {
 }
 
 std::size_t PlaceOfAttorney(const Job& job) {
-    const std::string& tag = job.txtField(kSellerAttorney).tag;
+    const std::string& tag = job.txtField(field::SellerAtty).tag;
     std::size_t place = 0;
     std::from_chars(tag.data(), tag.data() + tag.size(), place);
     return place;
 }
 
 std::size_t CurrentChoice(const OpenedEditor& editor, int n, const Job& job) {
-    if (n == kSellerAttorneyEmail) return std::min(PlaceOfAttorney(job), editor.choices.size() - 1);
+    if (n == field::SellerAttyEmail) return std::min(PlaceOfAttorney(job), editor.choices.size() - 1);
     const auto at = std::find(editor.choices.begin(), editor.choices.end(), editor.text);
     return at == editor.choices.end() ? 0 : static_cast<std::size_t>(at - editor.choices.begin());
 }
@@ -178,7 +194,7 @@ OpenedEditor OpenEditor(const GridRow& row, const SelectionState& screen, const 
     editor.text = row.value;
     const bool isField = row.kind == RowKind::Field;
     const std::string marker(isField ? FieldMarker(row.n) : std::string_view(row.label));
-    if (isField) editor.book = BookOfField(row.n, IsListed(kBuyerLawFirm, screen));
+    if (isField) editor.book = BookOfField(row.n, IsListed(field::BuyerLawfirm, screen));
     if (editor.book) {
         if (editor.text.empty() && screen.ScreenMode == screen_mode::kJob) editor.text = marker;
     } else if (isField) {

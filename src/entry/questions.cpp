@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/field_registry.h"
+#include "core/fields.h"
 #include "core/text_conversions.h"
 #include "entry/note_cells.h"
 #include "selection/field_rows.h"
@@ -13,7 +14,7 @@ namespace quillmark {
 
 namespace {
 
-constexpr int kLastHyphenTaggedAdjustment = 177;  ///< above it a hyphen begins a description
+constexpr field::Field kLastHyphenTagged = field::MonthlyRent;  ///< above it a hyphen begins a description
 
 std::string TitleOf(int n) {
     const std::string_view marker = FieldMarker(n);
@@ -30,7 +31,7 @@ bool IsAmount(std::string_view value) {
 /// A commission with "=" is asked about; what keeps its question away is the other commission's binder.
 bool HoldsTagMark(int n, std::string_view value) {
     if (TagFamilyOf(n) != TagFamily::Commission && value.find('=') != value.npos) return true;
-    return n <= kLastHyphenTaggedAdjustment && value.find('-') != value.npos;
+    return n <= kLastHyphenTagged && value.find('-') != value.npos;
 }
 
 class Questions {

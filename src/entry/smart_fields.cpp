@@ -4,6 +4,7 @@
 #include <array>
 #include <initializer_list>
 
+#include "core/fields.h"
 #include "core/job.h"
 #include "entry/address_rules.h"
 #include "entry/date_rules.h"
@@ -21,42 +22,44 @@ struct RuleRow {
     std::initializer_list<int> fields;
 };
 
+using namespace field;
+
 // clang-format off
 /// The rule of each smart field.
 const RuleRow kRules[] = {
-    {rules::Date,            {1, 79}},
-    {rules::BuyerAttorney,   {12}},
-    {rules::SellerOne,       {21}},
-    {rules::SellerTwo,       {28}},
-    {rules::Buyer,           {59, 64}},
-    {rules::Realtors,        {85, 87}},
-    {rules::OriginalTrustee, {204}},
-    {rules::AttorneyCity,    {6, 15}},
-    {rules::PropertyCity,    {72}},
-    {rules::TownOfExecution, {187}},
-    {rules::Telephone,       {7, 8, 16, 17, 27, 33, 144}},
-    {rules::AmountInWords,   {76, 89}},
-    {rules::SellerTaxId,     {26, 32}},
-    {rules::BuyerTaxId,      {63, 68}},
-    {rules::Money,           {10, 77, 78, 86, 88, 100, 105, 118, 123, 133, 139, 146, 170, 175, 177, 178, 179, 180,
-                              181, 203}},
-    {rules::MoneyOrPoc,      {171, 173, 174, 176}},
-    {rules::Disbursement,    {182, 183, 184, 185, 212, 213}},
-    {rules::OtherAdjustment, {193, 194, 195, 196}},
+    {rules::Date,            {DocumentDate, ClosingDate}},
+    {rules::BuyerAttorney,   {BuyerAtty}},
+    {rules::SellerOne,       {Seller1Name}},
+    {rules::SellerTwo,       {Seller2Name}},
+    {rules::Buyer,           {Buyer1Name, Buyer2Name}},
+    {rules::Realtors,        {Realtor1Name, Realtor2Name}},
+    {rules::OriginalTrustee, {OriginalTrustee}},
+    {rules::AttorneyCity,    {SellerAttyCityStateZip, BuyerAttyCityStateZip}},
+    {rules::PropertyCity,    {PropertyCityStateZip}},
+    {rules::TownOfExecution, {TownOfExecution}},
+    {rules::Telephone,       {SellerAttyPhone, SellerAttyFax, BuyerAttyPhone, BuyerAttyFax, Seller1Phone,
+                              Seller2Phone, EscrowAttyPhone}},
+    {rules::AmountInWords,   {SalePriceNumeric, BuyersMtgAmount}},
+    {rules::SellerTaxId,     {Seller1TaxId, Seller2TaxId}},
+    {rules::BuyerTaxId,      {Buyer1TaxId, Buyer2TaxId}},
+    {rules::Money,           {SellerAttysFee, BinderDeposit, ContractDeposit, Realtor1Commission,
+                              Realtor2Commission, Payoff1Amount, Mortgage1Amount, Payoff2Amount,
+                              Mortgage2Amount, IndemMtgAmount, EscrowAmountHeld, NoteMonthlyPymt,
+                              AnnualPropertyTax, MonthlyCommonChg, MonthlyRent, ClosingCostCredit,
+                              RepairCredit, RecordingFees, CourierFee, SmokeDetectorCredit}},
+    {rules::MoneyOrPoc,      {SewerAdjustment, WaterAdjustment, OilAdjustment, SecurityDeposit}},
+    {rules::Disbursement,    {OtherDisbursement1, OtherDisbursement2, OtherDisbursement3,
+                              OtherDisbursement4, OtherDisbursement5, OtherDisbursement6}},
+    {rules::OtherAdjustment, {OtherAdjustment1, OtherAdjustment2, OtherAdjustment3, OtherAdjustment4}},
 };
 
-/// The first lines of the address pairs; the second line is the next field.
-constexpr int kAddressPairs[] = {4,  13, 23, 29, 34, 38,  42,  46,  50, 55,
-                                 60, 65, 70, 96, 114, 141, 157, 162, 166};
 // clang-format on
 
 constexpr Rule kAmountRules[] = {rules::AmountInWords, rules::Money, rules::MoneyOrPoc, rules::Disbursement,
                                  rules::OtherAdjustment};
 
-constexpr int kSellerAttorney = 3;
-
 void RunRule(Job& job, int n, const ChoiceLists& choices) {
-    if (n == kSellerAttorney && choices) return rules::SellerAttorney(job, choices(n));
+    if (n == field::SellerAtty && choices) return rules::SellerAttorney(job, choices(n));
     OnFieldChanged(job, n);
 }
 
@@ -69,11 +72,11 @@ std::array<FieldRule, kFields + 1> CollectRules() {
     std::array<FieldRule, kFields + 1> table;
     for (const RuleRow& row : kRules)
         for (int n : row.fields) table[static_cast<std::size_t>(n)] = {row.rule, n};
-    for (int first : kAddressPairs) {
+    for (int first : AddressFields()) {
         table[static_cast<std::size_t>(first)] = {rules::AddressPair, first};
         table[static_cast<std::size_t>(first) + 1] = {rules::AddressPair, first};
     }
-    table[kSellerAttorney] = {[](Job& job, int) { rules::SellerAttorney(job, {}); }, kSellerAttorney};
+    table[field::SellerAtty] = {[](Job& job, int) { rules::SellerAttorney(job, {}); }, field::SellerAtty};
     return table;
 }
 
@@ -96,10 +99,6 @@ bool TakesAmount(int n) {
                    std::end(kAmountRules) &&
                std::find(row.fields.begin(), row.fields.end(), n) != row.fields.end();
     });
-}
-
-void OnPartyOptionChanged(Job& job) {
-    for (int n : {21, 28, 59, 64}) OnFieldChanged(job, n);
 }
 
 std::vector<int> AttachSmartFields(Job& job, RuleSurroundings around) {

@@ -47,8 +47,4 @@ void OnFieldChanged(Job& job, int n);
 /// Whether the value of field n is an amount.
 bool TakesAmount(int n);
 
-/// Rebuilds last, given and joined names: the options 1 to 6 (number of sellers and buyers, person or entity)
-/// decide their form.
-void OnPartyOptionChanged(Job& job);
-
 }  // namespace quillmark

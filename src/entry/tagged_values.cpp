@@ -1,5 +1,7 @@
 #include "entry/tagged_values.h"
 
+#include "core/fields.h"
+
 namespace quillmark {
 
 namespace {
@@ -58,7 +60,10 @@ std::string WithTag(std::string_view text, LitCells lit, TagFamily family) {
 }
 
 int PairedField(int n) {
-    constexpr std::array<std::array<int, 2>, 3> kPairs = {{{86, 88}, {99, 117}, {100, 118}}};
+    constexpr std::array<std::array<int, 2>, 3> kPairs = {
+        {{field::Realtor1Commission, field::Realtor2Commission},
+         {field::Payoff1LoanNumber, field::Payoff2LoanNumber},
+         {field::Payoff1Amount, field::Payoff2Amount}}};
     for (const auto& [first, second] : kPairs) {
         if (n == first) return second;
         if (n == second) return first;

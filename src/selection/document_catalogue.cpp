@@ -74,7 +74,7 @@ constexpr Row kCatalogue[] = {
     {"Closing Statement / Tax Exempt"},
     {"Fax Cover Sheet / Buyer Atty"},
     {"Smoke Detector Affidavit",               NotCommercial},
-    {kTrusteesAffidavit,                       DeedCompanion},
+    {kTrusteesAffidavit,                       DeedAffidavit},
     {kCfpbAddendum},
     {kChroNotice},
     {"FILE SUMMARY SHEET"},

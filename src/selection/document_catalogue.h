@@ -16,7 +16,7 @@ enum class DocumentTrait : unsigned {
     PlainDeed = 1u << 0,      ///< of an owner in their own right: warranty, quitclaim
     FiduciaryDeed = 1u << 1,  ///< of an administrator, conservator, executor or trustee
     TrusteeDeed = 1u << 2,    ///< comes with the trustee's affidavit
-    DeedCompanion = 1u << 3,  ///< goes with the deed that it came with
+    DeedAffidavit = 1u << 3,  ///< goes with the deed that it came with
     Payoff = 1u << 4,         ///< makes sense only where a mortgage is paid off
     Letter = 1u << 5,         ///< can be printed on letterhead, which has no legal size
     SmsPayoff = 1u << 6,      ///< a payoff by way of the secondary market service

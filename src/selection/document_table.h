@@ -18,13 +18,13 @@ enum class When {
 struct Addition {
     When when;
     int option;
-    std::string_view fields;  ///< numbers, blank between them
+    std::vector<int> fields;
 };
 
 struct DocumentFields {
     std::string_view document;
-    std::string_view fields;   ///< numbers, blank between them
-    std::string_view options;  ///< option buttons that it enables
+    std::vector<int> fields;
+    std::vector<int> options;  ///< option buttons that it enables
     std::vector<Addition> additions;
     std::string_view capacity = {};  ///< of the fiduciary that the deed itself implies
     bool mailingAddress = false;     ///< asks for the seller's address after closing

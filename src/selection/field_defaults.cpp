@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/fields.h"
 #include "core/text_conversions.h"
 
 namespace quillmark {
@@ -39,7 +40,7 @@ constexpr FixedDefault kFixedDefaults[] = {
 std::string FieldDefault(std::string_view marker, const SelectionState& screen, const Office& office) {
     if (marker == "[document date]" || marker == "[contract date]") return LongDate(office.clock.Today());
     if (marker == "[closing date]") {
-        const bool takesToday = !screen.job.IsFilled(1) && !screen.List2.empty();
+        const bool takesToday = !screen.job.IsFilled(field::DocumentDate) && !screen.List2.empty();
         return takesToday ? LongDate(office.clock.Today()) : std::string(marker);
     }
     const auto fixed = std::find_if(std::begin(kFixedDefaults), std::end(kFixedDefaults),

@@ -1,15 +1,13 @@
 #include "selection/field_listing.h"
 
 #include "core/field_registry.h"
+#include "core/fields.h"
 #include "selection/field_rows.h"
 #include "selection/relevant_fields.h"
 
 namespace quillmark {
 
 namespace {
-
-constexpr int kPropertyCityLine = 72;
-constexpr int kTownOfExecution = 187;
 
 void UpdateUserRow(int at, std::string_view value, SelectionState& screen) {
     if (at < 0 || at >= static_cast<int>(screen.grid.size())) return;
@@ -29,11 +27,12 @@ void WarnOfTown(int n, const std::string& text, const Office& office) {
 /// Warns of a place that is no town; whether the field holds none such.
 bool CheckTown(int n, const SelectionState& screen, const Office& office) {
     const Job& job = screen.job;
-    if ((n != kPropertyCityLine && n != kTownOfExecution) || !job.IsFilled(n) || !job.D(1000 + n).empty())
+    if ((n != field::PropertyCityStateZip && n != field::TownOfExecution) || !job.IsFilled(n) ||
+        !job.D(field::Part(1, static_cast<field::Field>(n))).empty())
         return true;
     WarnOfTown(
         n,
-        n == kPropertyCityLine
+        n == field::PropertyCityStateZip
             ? "City/Town/District not recognized ...\n\nPlease check spelling or use parent municipality, "
               "\nand be sure to follow name with a Comma  "
             : "City/Town not recognized ...\n\nPlease use parent municipality and check spelling  ",

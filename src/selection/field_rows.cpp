@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include "core/field_registry.h"
+#include "core/fields.h"
 #include "selection/option_tags.h"
 #include "selection/relevant_fields.h"
 
@@ -14,7 +15,7 @@ namespace {
 
 constexpr std::size_t kMarkerWidth = 24;  ///< the asterisks of required fields line up behind it
 constexpr std::size_t kHeadingWidth = 25;
-constexpr int kFirstTemplateField = 10;
+constexpr field::Field kFirstTemplateField = field::SellerAttysFee;
 
 struct Group {
     std::string_view above;  ///< a key greater than this text belongs to it
@@ -51,7 +52,8 @@ bool HasRow(int n, const SelectionState& screen) {
     const std::string_view marker = FieldMarker(n);
     if (marker.empty() || marker == "[]") return false;
     if (screen.ScreenMode == screen_mode::kEdit && screen.job.IsFilled(n)) return true;
-    if (screen.ScreenMode == screen_mode::kPresets && n > 1 && n < kFields) return true;
+    if (screen.ScreenMode == screen_mode::kPresets && n > field::DocumentDate && n < field::Placeholder)
+        return true;
     return screen.job.txtField(n).relevant;
 }
 
@@ -66,9 +68,9 @@ void InsertByKey(GridRow row, float sortKey, std::vector<float>& keys, std::vect
 void PrepareHolder(int n, SelectionState& screen) {
     FieldHolder& holder = screen.job.txtField(n);
     holder.relevant = true;
-    if (n > 9) return;
+    if (n > field::SellerAttyEmail) return;
     holder.locked = true;
-    if (n == 9 && holder.text.empty()) screen.job.ClearField(n);
+    if (n == field::SellerAttyEmail && holder.text.empty()) screen.job.ClearField(n);
 }
 
 GridRow HeadingRow(const Group& group) {

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <optional>
 
-#include "selection/job_list_companions.h"
+#include "core/fields.h"
+#include "selection/accompanying_documents.h"
 #include "selection/option_buttons.h"
 #include "selection/packages.h"
 #include "selection/relevant_fields.h"
@@ -12,7 +13,6 @@ namespace quillmark {
 
 namespace {
 
-constexpr int kFiduciaryType = 209;
 constexpr std::string_view kSellersPackage = "STANDARD SELLER'S PACKAGE";
 
 void MarkNoSave(SelectionState& screen) {
@@ -33,7 +33,7 @@ void AddDocument(std::string_view picked, std::size_t position, SelectionState& 
     const auto at =
         position == 0 ? screen.List2.end() : screen.List2.begin() + static_cast<std::ptrdiff_t>(position);
     screen.List2.insert(at, {std::string(picked), false});
-    AddCompanions(picked, screen, office);
+    AddAccompanying(picked, screen, office);
     screen.List2.back().selected = false;
 }
 
@@ -44,8 +44,8 @@ void PutFiduciaryDeed(SelectionState& screen) {
     });
     if (deed == screen.List2.end()) return;
     const auto place = screen.List2.erase(deed);
-    if (!screen.job.IsFilled(kFiduciaryType)) return;
-    const std::string name = std::string(kDeedPrefix) + screen.job.D(kFiduciaryType);
+    if (!screen.job.IsFilled(field::FiduciaryType)) return;
+    const std::string name = std::string(kDeedPrefix) + screen.job.D(field::FiduciaryType);
     const auto inserted = screen.List2.insert(place, {name, false});
     if (HasTrait(name, DocumentTrait::TrusteeDeed))
         screen.List2.insert(inserted + 1, {std::string(kTrusteesAffidavit), false});

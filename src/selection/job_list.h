@@ -24,10 +24,10 @@ enum class ListAction {
 /// What the name box shows for a job that is worked on without a name.
 inline constexpr std::string_view kNoSaveText = "<< NO SAVE >>";
 
-/// Double-click on a line of `List1`: a document goes on the job list with its companions, or a package takes
-/// the list's place; the fields and option buttons follow. Throws FileError and PackageError for a package
-/// that cannot be read, with nothing changed, and FileError and RecordError for a custom document whose list
-/// of markers cannot be read, with the document on the list.
+/// Double-click on a line of `List1`: a document goes on the job list with what must accompany it, or a
+/// package takes the list's place; the fields and option buttons follow. Throws FileError and PackageError
+/// for a package that cannot be read, with nothing changed, and FileError and RecordError for a custom
+/// document whose list of markers cannot be read, with the document on the list.
 ListAction PickLine(std::string_view line, SelectionState& screen, const Office& office);
 
 /// Double-click on a line of `List2`: this line alone goes, documents that came with it stay.

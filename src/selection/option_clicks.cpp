@@ -4,8 +4,9 @@
 #include <cctype>
 #include <optional>
 
+#include "core/fields.h"
+#include "selection/accompanying_documents.h"
 #include "selection/document_catalogue.h"
-#include "selection/job_list_companions.h"
 #include "selection/job_list_lines.h"
 #include "selection/relevant_fields.h"
 
@@ -15,11 +16,6 @@ namespace {
 
 using enum DocumentTrait;
 
-constexpr int kSeller1Name = 21;
-constexpr int kSeller1TaxId = 26;
-constexpr int kSeller2TaxId = 32;
-constexpr int kBuyer1Name = 59;
-constexpr int kPropertyAddress = 70;
 constexpr std::string_view kMultiFamilyTag = "M";
 
 /// What a click does to the job list, in this order.
@@ -40,7 +36,7 @@ constexpr Effect kEffects[] = {
     {Condo,           ParkingList::A},
     {LandMultiFamily, ParkingList::A},
     {Commercial,      std::nullopt,   NotCommercial},
-    {PowerOfAttorney, std::nullopt,   None,            FiduciaryDeed | DeedCompanion},
+    {PowerOfAttorney, std::nullopt,   None,            FiduciaryDeed | DeedAffidavit},
     {EstateTrust,     std::nullopt,   None,            PlainDeed},
 };
 // clang-format on
@@ -88,9 +84,9 @@ void ReformTaxId(int n, int clicked, Job& job) {
 }
 
 void RebuildValues(int clicked, Job& job) {
-    if (clicked >= OneSeller && clicked <= Entity) RebuildName(kSeller1Name, job);
-    if (clicked == Person || clicked == Entity) ReformTaxId(kSeller1TaxId, clicked, job);
-    if (clicked == OneBuyer || clicked == TwoBuyers) RebuildName(kBuyer1Name, job);
+    if (clicked >= OneSeller && clicked <= Entity) RebuildName(field::Seller1Name, job);
+    if (clicked == Person || clicked == Entity) ReformTaxId(field::Seller1TaxId, clicked, job);
+    if (clicked == OneBuyer || clicked == TwoBuyers) RebuildName(field::Buyer1Name, job);
 }
 
 /// Public Act 16-16: the sale of rental property comes with a notice of fair housing.
@@ -102,7 +98,7 @@ void AskForFairHousing(SelectionState& screen, const Office& office) {
                                 "Is this sale for a Multi-Family Rental property ?", DialogButton::No))
         return;
     AppendLine(kChroNotice, screen);
-    screen.job.txtField(kPropertyAddress).tag = std::string(kMultiFamilyTag);
+    screen.job.txtField(field::PropertyAddress1).tag = std::string(kMultiFamilyTag);
     AlertAdded("A CHRO Fair Housing Notice must accompany the contract", office);
 }
 
@@ -122,7 +118,7 @@ void RequireRoomFor(int clicked, const SelectionState& screen) {
 }
 
 void ClearCapacity(int n, SelectionState& screen) {
-    if (n == EstateTrust) TakeOff(FiduciaryDeed | DeedCompanion, screen);
+    if (n == EstateTrust) TakeOff(FiduciaryDeed | DeedAffidavit, screen);
     TurnGroupOff(n, screen.job);
     if (!screen.job.optConf(Entity)) BringBack(TwoSellers, screen);
     if (!screen.job.optConf(TwoSellers)) BringBack(Entity, screen);
@@ -132,7 +128,7 @@ void ClearPropertyType(int n, SelectionState& screen) {
     if (n == Commercial) RestoreParked(ParkingList::A, screen);
     if (n == LandMultiFamily) {
         TakeOff([](std::string_view name) { return name == kChroNotice; }, screen);
-        screen.job.txtField(kPropertyAddress).tag.clear();
+        screen.job.txtField(field::PropertyAddress1).tag.clear();
     }
     TurnGroupOff(n, screen.job);
 }
@@ -162,7 +158,8 @@ OptionAction ClickOption(int n, SelectionState& screen, const Office& office) {
     if (ChangesAnOpenedJob(screen)) {
         EnableSave(screen);
         if (n == Person || n == Entity)
-            for (const int taxId : {kSeller1TaxId, kSeller2TaxId}) ReformTaxId(taxId, n, screen.job);
+            for (const int taxId : {field::Seller1TaxId, field::Seller2TaxId})
+                ReformTaxId(taxId, n, screen.job);
         ApplyInterlocks(screen);
     }
     if (!screen.List2.empty()) {

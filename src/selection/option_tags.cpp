@@ -1,5 +1,7 @@
 #include "selection/option_tags.h"
 
+#include "core/fields.h"
+
 #include <algorithm>
 
 namespace quillmark {
@@ -60,25 +62,25 @@ const Tag* FindTag(std::string_view value, TagFamily family) {
 
 TagFamily TagFamilyOf(int n) {
     switch (n) {
-        case 86:
-        case 88:
+        case field::Realtor1Commission:
+        case field::Realtor2Commission:
             return TagFamily::Commission;
-        case 99:
-        case 117:
+        case field::Payoff1LoanNumber:
+        case field::Payoff2LoanNumber:
             return TagFamily::LoanNumber;
-        case 100:
-        case 118:
+        case field::Payoff1Amount:
+        case field::Payoff2Amount:
             return TagFamily::Payoff;
-        case 170:
-        case 175:
-        case 177:
+        case field::AnnualPropertyTax:
+        case field::MonthlyCommonChg:
+        case field::MonthlyRent:
             return TagFamily::Paid;
-        case 171:
+        case field::SewerAdjustment:
             return TagFamily::Sewer;
-        case 193:
-        case 194:
-        case 195:
-        case 196:
+        case field::OtherAdjustment1:
+        case field::OtherAdjustment2:
+        case field::OtherAdjustment3:
+        case field::OtherAdjustment4:
             return TagFamily::Credit;
         default:
             return TagFamily::None;

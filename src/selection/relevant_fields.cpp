@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 #include "core/field_registry.h"
+#include "core/fields.h"
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
 #include "platform/paths.h"
@@ -17,13 +17,9 @@ namespace quillmark {
 
 namespace {
 
-constexpr int kCondominiumCharges = 175;
-constexpr int kFiduciaryType = 209;
-constexpr int kSeller1Name = 21;
-constexpr int kSeller2Name = 28;
-constexpr int kPropertyAddress = 70;
-constexpr int kPrincipal = 156;
-constexpr int kForwardingAddress = 34;
+constexpr int kForwardingAddress[] = {field::SellerFwdAddr1, field::SellerFwdAddr2,
+                                      field::SellerFwdCityStateZip};
+constexpr int kSeller1Address[] = {field::Seller1Addr1, field::Seller1Addr2, field::Seller1CityStateZip};
 constexpr std::size_t kFormListLimit = 1024 * 1024;  ///< bytes of the largest list of markers
 constexpr std::string_view kNewDocument = "[ NEW DOCUMENT ]";
 
@@ -36,25 +32,7 @@ constexpr int kOptionalFields[] = {
 // clang-format on
 
 bool IsAttorneyField(int n) {
-    return n >= 2 && n <= 9;
-}
-
-/// "D(1)_D(23)" for "1 23".
-std::string FieldString(std::string_view numbers) {
-    std::string fields;
-    while (!numbers.empty()) {
-        const std::string_view number = numbers.substr(0, numbers.find(' '));
-        numbers.remove_prefix(std::min(numbers.size(), number.size() + 1));
-        if (!fields.empty()) fields += '_';
-        fields.append("D(").append(number).append(")");
-    }
-    return fields;
-}
-
-int NumberAt(std::string_view text) {
-    int number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
+    return n >= field::SellerLawfirm && n <= field::SellerAttyEmail;
 }
 
 /// One default or none: the field is filled silently, locked, and never seen.
@@ -88,7 +66,7 @@ void StartAnew(SelectionState& screen) {
         if (!holder.locked) screen.job.SetField(n, "");
         holder.relevant = false;
         // The property's own mark, a multi-family rental, is not of the documents' making.
-        if (n != kPropertyAddress) holder.tag.clear();
+        if (n != field::PropertyAddress1) holder.tag.clear();
     }
     for (OptionButton& button : screen.options) button.enabled = false;
     screen.lblJump.fill({});
@@ -98,31 +76,26 @@ void StartAnew(SelectionState& screen) {
 }
 
 void EnableOptions(const DocumentFields& row, SelectionState& screen) {
-    std::string_view numbers = row.options;
-    while (!numbers.empty()) {
-        const std::string_view number = numbers.substr(0, numbers.find(' '));
-        numbers.remove_prefix(std::min(numbers.size(), number.size() + 1));
-        screen.options[static_cast<std::size_t>(NumberAt(number))].enabled = true;
-    }
+    for (const int option : row.options) screen.options[static_cast<std::size_t>(option)].enabled = true;
     const bool isClosingStatement = row.document.starts_with("Closing Statement");
     if (isClosingStatement && !screen.job.optConf(Condo)) screen.options[LandMultiFamily].enabled = true;
 }
 
 void ApplyAddition(const Addition& addition, SelectionState& screen, const Office& office) {
     if (screen.job.optConf(addition.option) == (addition.when == When::NotOption)) return;
-    AddFields(FieldString(addition.fields), screen, office);
+    AddFields(addition.fields, screen, office);
     if (addition.when != When::Principal) return;
-    if (screen.job.IsFilled(kSeller2Name))
-        AddField(kPrincipal, screen, office);
+    if (screen.job.IsFilled(field::Seller2Name))
+        AddField(field::PrincipalOfPower, screen, office);
     else
-        screen.job.ClearField(kPrincipal);
+        screen.job.ClearField(field::PrincipalOfPower);
 }
 
 void ApplyDocument(const DocumentFields& row, SelectionState& screen, const Office& office) {
-    AddFields(FieldString(row.fields), screen, office);
+    AddFields(row.fields, screen, office);
     EnableOptions(row, screen);
     for (const Addition& addition : row.additions) ApplyAddition(addition, screen, office);
-    if (!row.capacity.empty()) screen.job.txtField(kSeller1Name).tag = row.capacity;
+    if (!row.capacity.empty()) screen.job.txtField(field::Seller1Name).tag = row.capacity;
 }
 
 void AddUserMarker(std::string marker, SelectionState& screen) {
@@ -136,14 +109,14 @@ void ApplyCustomDocument(std::string_view name, SelectionState& screen, const Of
     const auto file = FindExisting(office.folders.CustomFormsFolder / PathOf(std::string(name) + ".inf"));
     const std::string bytes = ReadFile(file, kFormListLimit);
     RecordReader records(TextOf(file), bytes);
-    std::string fields = "D(1)";
+    std::vector<int> fields = {field::DocumentDate};
     while (records.Next()) {
         const int n = static_cast<int>(records.Number(1));
         if (n < 0 || n > kFields) records.Fail("there is no field " + std::to_string(n));
         if (n == 0)
             AddUserMarker(records.Text(0), screen);
         else
-            fields += "_D(" + std::to_string(n) + ")";
+            fields.push_back(n);
     }
     AddFields(fields, screen, office);
 }
@@ -163,19 +136,19 @@ void ApplyJobList(SelectionState& screen, const Office& office) {
     for (std::size_t i = 0; i < screen.List2.size(); ++i)
         mailingAddress |= ApplyEntry(screen.List2[i].name, screen, office);
     if (mailingAddress) {
-        const bool forwards = screen.job.IsFilled(kForwardingAddress);
-        AddFields(forwards ? "D(34)_D(35)_D(36)" : "D(23)_D(24)_D(25)", screen, office);
+        const bool forwards = screen.job.IsFilled(field::SellerFwdAddr1);
+        AddFields(forwards ? kForwardingAddress : kSeller1Address, screen, office);
     }
-    const std::string capacity = screen.job.txtField(kSeller1Name).tag;
+    const std::string capacity = screen.job.txtField(field::Seller1Name).tag;
     if (!capacity.empty())
-        screen.job.SetField(kFiduciaryType, capacity);
+        screen.job.SetField(field::FiduciaryType, capacity);
     else if (screen.job.optConf(EstateTrust) && !screen.List2.empty())
-        AddField(kFiduciaryType, screen, office);
+        AddField(field::FiduciaryType, screen, office);
 }
 
 /// The first of several choices is what an attorney's field starts with.
 void StartWithFirstChoices(SelectionState& screen, const Office& office) {
-    for (int n = 2; n <= 8; ++n) {
+    for (int n = field::SellerLawfirm; n <= field::SellerAttyFax; ++n) {
         if (screen.job.IsFilled(n)) continue;
         screen.job.SetField(n, FirstChoice(FieldDefault(FieldMarker(n), screen, office)));
     }
@@ -235,7 +208,7 @@ void ShowGuidance(SelectionState& screen) {
 }  // namespace
 
 bool IsOptionalField(int n, const Job& job) {
-    if (n == kCondominiumCharges) return !job.optConf(Condo);
+    if (n == field::MonthlyCommonChg) return !job.optConf(Condo);
     return std::binary_search(std::begin(kOptionalFields), std::end(kOptionalFields), n);
 }
 
@@ -245,13 +218,8 @@ std::string_view CustomDocumentName(std::string_view entry) {
     return entry.substr(2, entry.size() - 4);
 }
 
-void AddFields(std::string_view fieldString, SelectionState& screen, const Office& office) {
-    constexpr std::size_t kMostDigits = 3;
-    for (std::size_t at = fieldString.find('('); at != std::string_view::npos;
-         at = fieldString.find('(', at + 1)) {
-        const int n = NumberAt(fieldString.substr(at + 1, kMostDigits));
-        if (n >= 1 && n <= kFields) AddField(n, screen, office);
-    }
+void AddFields(std::span<const int> fields, SelectionState& screen, const Office& office) {
+    for (const int n : fields) AddField(n, screen, office);
 }
 
 void CountFields(SelectionState& screen) {

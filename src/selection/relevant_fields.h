@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string_view>
 
 #include "selection/office.h"
@@ -12,9 +13,9 @@ namespace quillmark {
 /// condominium.
 bool IsOptionalField(int n, const Job& job);
 
-/// Marks the fields of a string such as "D(1)_D(3)_D(21)" relevant. An attorney's field (2 to 9) with one
-/// firm default or none is filled silently instead, and takes no row.
-void AddFields(std::string_view fieldString, SelectionState& screen, const Office& office);
+/// Marks the fields relevant. An attorney's field (2 to 9) with one firm default or none is filled silently
+/// instead, and takes no row.
+void AddFields(std::span<const int> fields, SelectionState& screen, const Office& office);
 
 /// Rebuilds the relevant fields, the option buttons that make sense, the grid and the counts. With
 /// `headingsOnly` only the headings are placed anew. Throws FileError and RecordError for a custom document

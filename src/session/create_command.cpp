@@ -1,3 +1,4 @@
+#include "core/fields.h"
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
 #include "production/run/create_checks.h"
@@ -14,12 +15,11 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kReMake = "Re-Make";
-constexpr int kDocumentDate = 1;
 
 /// The document's date does not count: no job file holds it, and an undated job is dated on the day it is
 /// made.
 bool RequiredFieldsAreDone(const SelectionState& screen) {
-    for (int n = kDocumentDate + 1; n <= kFields; ++n) {
+    for (int n = field::DocumentDate + 1; n <= kFields; ++n) {
         const FieldHolder& holder = screen.job.txtField(n);
         if (holder.relevant && holder.text == FieldMarker(n) && !IsOptionalField(n, screen.job)) return false;
     }

@@ -1,14 +1,11 @@
 #include <utility>
 
+#include "core/fields.h"
 #include "session/main_screen.h"
 
 namespace quillmark {
 
-namespace {
-
-constexpr int kDocumentDate = 1;
-
-}  // namespace
+namespace {}  // namespace
 
 GridSurroundings MainScreen::AroundGrid() {
     return {.focusName = [this] { FocusName(); },
@@ -20,7 +17,7 @@ GridSurroundings MainScreen::AroundGrid() {
 
 void MainScreen::FieldChanged(int n) {
     ShowExit();
-    if (n == kDocumentDate || !screen_.txtJobName.IsSaveable()) return;
+    if (n == field::DocumentDate || !screen_.txtJobName.IsSaveable()) return;
     if (screen_.cmdCreate.caption != "Re-Make") screen_.cmdCreate.caption = "CREATE\n+save";
     const bool edits = screen_.ScreenMode == screen_mode::kEdit;
     screen_.cmdOpen = {"SAVE", edits ? " save changes " : " save data only (no docs) ", true, true};

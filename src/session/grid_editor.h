@@ -168,7 +168,7 @@ class GridEditor {
     void CommitAndMove(int direction);
 
     // Lists (grid_editor_lists.cpp).
-    bool AskForCompanionOf(std::string_view choice);
+    bool AskForDetailOf(std::string_view choice);
     void CommitChoice(std::string_view text);
 
     // The block editor and the edit menu (grid_editor_block.cpp).

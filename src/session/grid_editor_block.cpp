@@ -1,4 +1,5 @@
 #include "core/field_registry.h"
+#include "core/fields.h"
 #include "selection/field_listing.h"
 #include "session/field_editor.h"
 #include "session/grid_editor.h"
@@ -7,7 +8,6 @@ namespace quillmark {
 
 namespace {
 
-constexpr int kScheduleADescription = 201;  ///< the one field that takes pictures
 constexpr std::size_t kLargePaste = 10'000;
 
 }  // namespace
@@ -65,7 +65,7 @@ bool GridEditor::CommitBlock() {
 
 void GridEditor::Paste(const Clipboard& clipboard) {
     Require(state_.IsOpen() && state_.EditRow >= 0, "no editor is open");
-    const bool takesPicture = state_.EditField == kScheduleADescription;
+    const bool takesPicture = state_.EditField == field::SchedADescription;
     if (!clipboard.picture.empty() && !takesPicture)
         return Tell(" TEXT ONLY", "This field does not accept images.", DialogIcon::Warning);
     if (clipboard.text.empty()) {

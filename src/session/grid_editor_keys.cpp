@@ -1,4 +1,5 @@
 #include "core/field_registry.h"
+#include "core/fields.h"
 #include "entry/questions.h"
 #include "platform/code_page.h"
 #include "selection/field_listing.h"
@@ -120,7 +121,7 @@ void GridEditor::MoveToSalePrice() {
     Tell("", std::string(kNoSalePrice), DialogIcon::Warning);
     Commit();
     Leave();
-    if (const GridRow* price = FindRow(kSalePriceField, screen_))
+    if (const GridRow* price = FindRow(field::SalePriceNumeric, screen_))
         OpenRow(static_cast<int>(price - screen_.grid.data()), 1);
 }
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 
-#include "entry/companions.h"
+#include "core/fields.h"
+#include "entry/capacity_detail.h"
 #include "entry/questions.h"
 #include "selection/field_listing.h"
 #include "selection/field_rows.h"
@@ -8,12 +9,7 @@
 
 namespace quillmark {
 
-namespace {
-
-constexpr int kBuyerAttorney = 12;
-constexpr int kFiduciaryType = 209;
-
-}  // namespace
+namespace {}  // namespace
 
 void GridEditor::ClickDay(std::chrono::year_month_day day, bool twice) {
     RequireEditor(EditorKind::Line);
@@ -52,28 +48,28 @@ void GridEditor::KeyInChoices(EditorKey key, std::string_view text) {
 }
 
 void GridEditor::CommitChoice(std::string_view text) {
-    if (state_.EditField == kFiduciaryType && !AskForCompanionOf(text)) return Leave();
+    if (state_.EditField == field::FiduciaryType && !AskForDetailOf(text)) return Leave();
     state_.txtEdit = {std::string(text), text.size(), 0};
     CommitAndAdvance();
 }
 
-bool GridEditor::AskForCompanionOf(std::string_view choice) {
-    const auto companion = CompanionOf(choice, screen_.job);
-    if (!companion) return true;
-    const std::string before = screen_.job.D(companion->n);
+bool GridEditor::AskForDetailOf(std::string_view choice) {
+    const auto detail = CapacityDetailOf(choice, screen_.job);
+    if (!detail) return true;
+    const std::string before = screen_.job.D(detail->n);
     bool answered = false;
     {
         const StandingQuestion guard(&state_.EditRow);
-        answered = AskForCompanion(choice, screen_, office_);
+        answered = AskForCapacityDetail(choice, screen_, office_);
     }
-    if (screen_.job.D(companion->n) != before) around_.fieldChanged(companion->n);
+    if (screen_.job.D(detail->n) != before) around_.fieldChanged(detail->n);
     return answered;
 }
 
 void GridEditor::PickRecord(std::size_t line) {
     Require(state_.Combo2 && line < state_.Combo2->lines.size(), "the address book has no such line");
     if (line == 0) return;
-    const bool attorneyHasRow = FindRow(kBuyerAttorney, screen_) != nullptr;
+    const bool attorneyHasRow = FindRow(field::BuyerAtty, screen_) != nullptr;
     const std::vector<FieldText> block = FieldsOfPick(*state_.Combo2, line, attorneyHasRow);
     Leave();
     state_.markedRow = -1;

@@ -5,6 +5,7 @@
 #include <thread>
 #include <utility>
 
+#include "core/fields.h"
 #include "core/text_conversions.h"
 #include "entry/address_book_fields.h"
 #include "platform/atomic_file.h"
@@ -20,9 +21,6 @@ namespace quillmark {
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr int kSellerAtty = 3;
-constexpr int kJurisNumber = 1003;
 
 /// Another computer holds a file for a moment only.
 template <class Step>
@@ -118,10 +116,10 @@ void MainScreen::SaveJob() {
 
 void MainScreen::WriteJob() {
     Job& job = screen_.job;
-    const std::string& attorney = job.D(kSellerAtty);
-    const std::string& juris = job.D(kJurisNumber);
+    const std::string& attorney = job.D(field::SellerAtty);
+    const std::string& juris = job.D(field::Part(1, field::SellerAtty));
     if (attorney.find('/') == std::string::npos && !juris.empty())
-        job.SetValue(kSellerAtty, attorney + "/" + juris);
+        job.SetValue(field::SellerAtty, attorney + "/" + juris);
     RetriedWhileInUse([&] { SaveJobFiles(folders_, job); });
     knownFile_ = JobFileRecords(job);
 }

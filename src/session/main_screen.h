@@ -144,7 +144,7 @@ class MainScreen {
     void LoadJob(std::string_view name, bool asTemplate);
     void Spawn(std::string_view entry);
 
-    // Companion windows (companions.cpp).
+    // Windows beside the main one (side_windows.cpp).
     /// The screen of an address book: by the browser's `cmdAttorneys` and `cmdServicers`, or from the main
     /// screen. It keeps the main screen waiting until `CloseAddresses`. Throws FileError, and there is no
     /// such screen then.

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "core/field_registry.h"
+#include "core/fields.h"
 #include "core/text_conversions.h"
 #include "platform/code_page.h"
 #include "platform/paths.h"
@@ -10,6 +11,11 @@ namespace quillmark {
 
 namespace {
 
+/// The firm's own details.
+constexpr field::Field kFirmFields[] = {
+    field::SellerLawfirm,          field::SellerAtty,      field::SellerAttyAddr1, field::SellerAttyAddr2,
+    field::SellerAttyCityStateZip, field::SellerAttyPhone, field::SellerAttyFax,   field::SellerAttyEmail,
+    field::SellerAttysFee,         field::Witness2};
 constexpr std::size_t kOpenMark = 26;  ///< character 27 of a row, "*" while the firm has not set the field
 
 std::string YesNo(bool on) {
@@ -69,11 +75,9 @@ const AnswerRow* FindAnswer(std::string_view row) {
     return found == kAnswers.end() ? nullptr : &*found;
 }
 
-constexpr int kSellerAtty = 3;
-
 /// The value in the form in which the field shows it. The attorney keeps the number behind the slash here.
 std::string ShownForm(int n, const std::string& value, Job& job) {
-    if (n == kSellerAtty || value.empty()) return value;
+    if (n == field::SellerAtty || value.empty()) return value;
     job.SetField(n, value);
     return job.D(n);
 }
@@ -89,7 +93,7 @@ SettingsRow DefaultRow(int n, std::string_view value) {
 
 void MainScreen::ShowSettings() {
     List3_.clear();
-    for (const int n : {2, 3, 4, 5, 6, 7, 8, 9, 10, 189}) {
+    for (const int n : kFirmFields) {
         screen_.job.txtField(n).relevant = true;
         const std::string value = firmDefaults_.ValueOf(FieldMarker(n));
         List3_.push_back(DefaultRow(n, value == FieldMarker(n) ? "" : value));
@@ -128,8 +132,7 @@ void MainScreen::EditSetting(std::size_t row) {
 }
 
 void MainScreen::EditDefault(SettingsRow& row) {
-    constexpr int kLawFirm = 2;
-    if (row.field == kLawFirm && settings_.paraPro && !client_.empty()) return;
+    if (row.field == field::SellerLawfirm && settings_.paraPro && !client_.empty()) return;
     const std::string marker(FieldMarker(row.field));
     auto answer = machine_.dialogs.Ask({" EDIT FIELD VALUE", "Enter new value for  " + marker, row.value});
     if (!answer) return;

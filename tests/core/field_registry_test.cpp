@@ -53,18 +53,6 @@ TEST(FieldRegistry, SortKeysPutLaterFieldsBesideTheirRelatives) {
     EXPECT_LT(FieldSortKey(209), FieldSortKey(21));
 }
 
-TEST(FieldRegistry, GroupsFollowFromTheSortKey) {
-    EXPECT_EQ(FieldGroup(FieldSortKey(1)), "");
-    EXPECT_EQ(FieldGroup(FieldSortKey(240)), "");
-    EXPECT_EQ(FieldGroup(FieldSortKey(9)), " ATTORNEY");
-    EXPECT_EQ(FieldGroup(FieldSortKey(10)), " PROPERTY/TRANSACTION");
-    EXPECT_EQ(FieldGroup(FieldSortKey(19)), " SELLER/FIDUCIARY");
-    EXPECT_EQ(FieldGroup(FieldSortKey(59)), " BUYER");
-    EXPECT_EQ(FieldGroup(FieldSortKey(199)), " PAYOFF/ESCROW");
-    EXPECT_EQ(FieldGroup(FieldSortKey(193)), " ADJUSTMENTS");
-    EXPECT_EQ(FieldGroup(kUserFieldSortKey), " USER-DEFINED");
-}
-
 TEST(FieldRegistry, EveryDescriptionBeginsWithOneBlank) {
     const Job job;
     const auto wellFormed = [&](int n) {

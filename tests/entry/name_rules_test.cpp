@@ -13,7 +13,7 @@ class NameRules : public ::testing::Test {
 
     void Choose(int option, bool on) {
         job.SetOption(option, on);
-        OnPartyOptionChanged(job);
+        for (const int n : {21, 28, 59, 64}) job.RunChangeRule(n);
     }
 
     Job job;

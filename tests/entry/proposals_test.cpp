@@ -4,7 +4,7 @@
 
 #include "core/field_registry.h"
 #include "desk.h"
-#include "entry/companions.h"
+#include "entry/capacity_detail.h"
 
 namespace quillmark {
 namespace {
@@ -112,11 +112,11 @@ TEST_F(Proposals, ATaggedValueOpensWithoutItsTag) {
     EXPECT_EQ(Open(170).text, "$1,000.00");
 }
 
-TEST_F(Proposals, AFiduciaryNeedsItsCompanion) {
-    EXPECT_TRUE(AskForCompanion("Executor", screen, office)) << "not needed by this job";
+TEST_F(Proposals, AFiduciaryNeedsTheDetailOfTheCapacity) {
+    EXPECT_TRUE(AskForCapacityDetail("Executor", screen, office)) << "not needed by this job";
     List({45, 53, 206});
     Answer({"John Doe"});
-    EXPECT_TRUE(AskForCompanion("Executor", screen, office));
+    EXPECT_TRUE(AskForCapacityDetail("Executor", screen, office));
     EXPECT_EQ(screen.job.D(45), "John Doe");
     const auto box = dialogs.TakeShown().at(0);
     EXPECT_EQ(box.title, " ADDITIONAL INFORMATION REQUIRED");
@@ -124,18 +124,18 @@ TEST_F(Proposals, AFiduciaryNeedsItsCompanion) {
     EXPECT_EQ(box.defaultAnswer, "");
 
     Answer({std::nullopt});
-    EXPECT_FALSE(AskForCompanion("Administrator", screen, office));
+    EXPECT_FALSE(AskForCapacityDetail("Administrator", screen, office));
     EXPECT_EQ(screen.job.D(45), "John Doe");
     EXPECT_EQ(dialogs.TakeShown().at(0).defaultAnswer, "John Doe");
     Answer({""});
-    EXPECT_FALSE(AskForCompanion("Administrator", screen, office));
+    EXPECT_FALSE(AskForCapacityDetail("Administrator", screen, office));
     EXPECT_FALSE(screen.job.IsFilled(45));
     Answer({"Zażółć", "OK"});
-    EXPECT_FALSE(AskForCompanion("Conservator", screen, office)) << "a character that no file can hold";
+    EXPECT_FALSE(AskForCapacityDetail("Conservator", screen, office)) << "a character that no file can hold";
     Answer({"Doe Trust"});
-    EXPECT_TRUE(AskForCompanion("Testamentary Trustee", screen, office));
+    EXPECT_TRUE(AskForCapacityDetail("Testamentary Trustee", screen, office));
     EXPECT_EQ(screen.job.D(206), "Doe Trust");
-    EXPECT_TRUE(AskForCompanion("Trust Officer", screen, office)) << "no such capacity";
+    EXPECT_TRUE(AskForCapacityDetail("Trust Officer", screen, office)) << "no such capacity";
 }
 
 }  // namespace

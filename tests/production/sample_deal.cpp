@@ -16,7 +16,7 @@ void Fill(Job& job, std::initializer_list<std::pair<int, const char*>> values) {
 void Choose(Job& job, Option on, Option off) {
     job.SetOption(off, false);
     job.SetOption(on, true);
-    OnPartyOptionChanged(job);
+    for (const int n : {Seller1Name, Seller2Name, Buyer1Name, Buyer2Name}) job.RunChangeRule(n);
 }
 
 }  // namespace

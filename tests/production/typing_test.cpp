@@ -3,15 +3,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <regex>
-
 #include "production/builders/builder_list.h"
 #include "production/kit/job_values.h"
 #include "production/kit/passages.h"
 #include "production/kit/phrases.h"
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
-#include "support/scratch.h"
 
 namespace quillmark::test {
 namespace {
@@ -205,16 +202,6 @@ TEST(Phrases, TenancyOfTwoBuyersOnly) {
     EXPECT_TRUE(Grantees(job, Tenancy::Said).ends_with(" AS JOINT TENANTS\n"));
     job.SetField(TenancyType, "as partners");
     EXPECT_TRUE(Grantees(job, Tenancy::Said).ends_with(" AS [tenancy type]\n"));
-}
-
-TEST(Fields, BearTheNumbersOfTheirMarkers) {
-    const std::string header = ReadBytes(QUILLMARK_SOURCE_DIR "/src/core/fields.h");
-    const std::regex row(R"(= (\d+), +// (\[.*\])\n)");
-    int rows = 0;
-    for (std::sregex_iterator match(header.begin(), header.end(), row), end; match != end; ++match, ++rows) {
-        EXPECT_EQ(FieldMarker(std::stoi((*match)[1])), (*match)[2].str());
-    }
-    EXPECT_EQ(rows, 212) << "every field but the retired one";
 }
 
 }  // namespace

@@ -49,13 +49,13 @@ TEST(JobList, AnSmsDocumentTakesThePlaceOfWhatItDrivesOutUnlessThatWasFirst) {
                 ElementsAre("Privacy Policy", "Mortgage Payoff Transmittal / SMS", "SMS Cover Letter"));
 }
 
-TEST(JobList, ContractsBringTheirCompanionsInOrder) {
+TEST(JobList, ContractsBringWhatAccompaniesThemInOrder) {
     Desk desk;
     desk.Pick("Contract / Bridgeport Bar");
     EXPECT_THAT(desk.List(),
                 ElementsAre("Contract / Bridgeport Bar", "CFPB Addendum", "Closing Letter / Bridgeport Bar"));
     desk.PickAll({"Contract / Bridgeport Bar", "Contract Transmittal / Draft"});
-    EXPECT_EQ(desk.List().size(), 5u) << "documents can be listed twice, companions are not";
+    EXPECT_EQ(desk.List().size(), 5u) << "documents can be listed twice, what accompanies them is not";
 
     Desk before;
     before.clock = FixedClock(std::chrono::year(2015) / 10 / 2);
@@ -83,7 +83,7 @@ TEST(JobList, WhatTheUserTookOffASavedJobDoesNotComeBackButForTheAffidavit) {
     EXPECT_FALSE(HoldsLine("CFPB Addendum", desk.screen));
 }
 
-TEST(JobList, AlertsTellOfCompanionsOnlyWhereTheyAreWanted) {
+TEST(JobList, AlertsTellOfAddedDocumentsOnlyWhereTheyAreWanted) {
     Desk desk;
     desk.settings.documentAlerts = true;
     desk.PickAll({"Seller's Engagement Letter", "Contract / Bridgeport Bar", "Deed / Trustee"});
@@ -177,7 +177,7 @@ TEST(JobList, WhatTheScreenDoesNotAllowChangesNothing) {
     EXPECT_THAT(desk.List(), IsEmpty());
 }
 
-TEST(JobList, APackageReplacesTheListAndBringsNoCompanions) {
+TEST(JobList, APackageReplacesTheListAndBringsNothingElse) {
     Desk desk;
     SavePackage(desk.scratch.path(), {"CONTRACT", {"Contract / Bridgeport Bar", "Notice Of Lease"}}, {});
     desk.Fill();

@@ -10,8 +10,8 @@ namespace quillmark::test {
 namespace {
 
 /// Documents that rules add. The walk never picks one that is there, so no rule may double it.
-constexpr std::string_view kCompanions[] = {kPrivacyPolicy, kCfpbAddendum, kBridgeportClosingLetter,
-                                            kTrusteesAffidavit, kChroNotice};
+constexpr std::string_view kAccompanying[] = {kPrivacyPolicy, kCfpbAddendum, kBridgeportClosingLetter,
+                                              kTrusteesAffidavit, kChroNotice};
 
 /// A user without a plan: picks, drops, option clicks and double-clicks, sometimes in an opened job.
 class Walk {
@@ -72,7 +72,7 @@ class Walk {
     void Pick() {
         const auto& offered = desk_.screen.List1;
         const std::string line = offered[Below(offered.size())];
-        const bool doubled = std::count(std::begin(kCompanions), std::end(kCompanions), line) > 0;
+        const bool doubled = std::count(std::begin(kAccompanying), std::end(kAccompanying), line) > 0;
         if (doubled && HoldsLine(line, desk_.screen)) return;
         action_ = "pick " + line;
         const bool open = desk_.screen.List1Enabled;
@@ -139,7 +139,8 @@ class Walk {
         ExpectDocumentsAgree();
     }
 
-    /// One deed at most, direct payoffs never beside the secondary market service's, no companion twice.
+    /// One deed at most, direct payoffs never beside the secondary market service's, none that accompanies
+    /// another twice.
     void ExpectDocumentsAgree() {
         using enum DocumentTrait;
         const Names list = desk_.List();
@@ -149,7 +150,7 @@ class Walk {
         };
         EXPECT_LE(count(PlainDeed | FiduciaryDeed), 1) << Where();
         EXPECT_TRUE(count(SmsPayoff) == 0 || count(DirectPayoff) == 0) << Where();
-        for (const std::string_view name : kCompanions)
+        for (const std::string_view name : kAccompanying)
             EXPECT_LE(std::count(list.begin(), list.end(), name), 1) << Where() << ": " << name;
     }
 

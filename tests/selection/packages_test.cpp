@@ -101,7 +101,8 @@ TEST(PackageEditor, SavesPicksRenamesAndDeletes) {
     editor.TypeName("<Cash> sale");
     EXPECT_FALSE(editor.State().cmdSave.enabled) << "nothing has changed yet";
     EXPECT_TRUE(editor.AddDocument("Deed / Trustee"));
-    EXPECT_THAT(editor.State().List2, ElementsAre("Deed / Trustee")) << "companions come when it is picked";
+    EXPECT_THAT(editor.State().List2, ElementsAre("Deed / Trustee"))
+        << "the affidavit comes when it is picked";
     EXPECT_TRUE(editor.Save());
     EXPECT_THAT(editor.State().Combo1, ElementsAre("NEW PACKAGE", "CASH SALE"));
     EXPECT_EQ(editor.State().Combo1Line, 1u);

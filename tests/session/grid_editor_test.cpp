@@ -199,7 +199,7 @@ TEST_F(GridEditing, AnAddressBookFillsItsBlock) {
     EXPECT_EQ("EMAIL", State().cmdExit.caption);
 }
 
-TEST_F(GridEditing, AFiduciaryIsPickedAndBringsItsCompanion) {
+TEST_F(GridEditing, AFiduciaryIsPickedAndBringsItsDetail) {
     StartWith({"Owner's Affidavit", "Trustee's Affidavit"});
     screen->ClickOption(EstateTrust);
     Click(209);

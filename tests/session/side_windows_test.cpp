@@ -6,7 +6,7 @@
 namespace quillmark::test {
 namespace {
 
-class Companions : public OfficeTest {
+class SideWindows : public OfficeTest {
  protected:
     /// A job whose grid has the field, named and on the screen.
     void MakeJobWith(std::string_view document, const std::vector<std::pair<int, const char*>>& values) {
@@ -31,7 +31,7 @@ class Companions : public OfficeTest {
     static constexpr const char* kElm = "Elm Savings _ 1 Elm St _  _ Avon, CT 06001";
 };
 
-TEST_F(Companions, ASaveFeedsTheAddressBooksOnce) {
+TEST_F(SideWindows, ASaveFeedsTheAddressBooksOnce) {
     Start();
     MakeJobWithServicer();
     screen->Click("cmdOpen");
@@ -43,7 +43,7 @@ TEST_F(Companions, ASaveFeedsTheAddressBooksOnce) {
     EXPECT_EQ(Servicers(), std::string(kElm) + "\r\nElm Savings _ 2 Elm St _  _ Avon, CT 06001\r\n");
 }
 
-TEST_F(Companions, WhatKeepsAddressesOutOfTheBooksDoesNotKeepTheJobFromBeingSaved) {
+TEST_F(SideWindows, WhatKeepsAddressesOutOfTheBooksDoesNotKeepTheJobFromBeingSaved) {
     std::vector<std::string> told;
     waitForBooks = [&](const BooksInUse& use) {
         told.push_back(DescriptionOf(use.holder));
@@ -71,7 +71,7 @@ TEST_F(Companions, WhatKeepsAddressesOutOfTheBooksDoesNotKeepTheJobFromBeingSave
     EXPECT_NE(ReadBytes(JobFile("Abbott - 14 Orchard Lane")).find("Elm _ Oak"), std::string::npos);
 }
 
-TEST_F(Companions, TheAddressEditorOpensFromMainScreenAndJobBrowserOnly) {
+TEST_F(SideWindows, TheAddressEditorOpensFromMainScreenAndJobBrowserOnly) {
     Start();
     screen->OpenBrowser(false);
     AddressEditor& editor = screen->OpenAddresses(AddressBook::Servicers);
@@ -90,7 +90,7 @@ TEST_F(Companions, TheAddressEditorOpensFromMainScreenAndJobBrowserOnly) {
     EXPECT_THROW(screen->OpenCalculator(), NotAllowed);
 }
 
-TEST_F(Companions, AnAmountHandedOverIsACreditInTheCurrentRow) {
+TEST_F(SideWindows, AnAmountHandedOverIsACreditInTheCurrentRow) {
     Start();
     MakeJobWith("Closing Statement", {});
     screen->ClickGrid(RowOf(193), 1);
@@ -119,7 +119,7 @@ TEST_F(Companions, AnAmountHandedOverIsACreditInTheCurrentRow) {
     EXPECT_EQ(screen->Calculator(), nullptr);
 }
 
-TEST_F(Companions, AnAmountIsHandedOverToNoRowThatTakesNoEntry) {
+TEST_F(SideWindows, AnAmountIsHandedOverToNoRowThatTakesNoEntry) {
     Start();
     screen->OpenCalculator().SetGross({"3650", 4, 0});
     EXPECT_THROW(screen->HandOver(CreditTo::Buyer), NotAllowed);

@@ -9,17 +9,17 @@
 /// A capacity picked for the fiduciary that says too little by itself: an executor needs a decedent.
 namespace quillmark {
 
-struct Companion {
+struct CapacityDetail {
     int n;
     std::string_view name;  ///< as the question has it, such as "DECEDENT"
 };
 
 /// The field that goes with a pick of [fiduciary type], if the job needs that field.
-std::optional<Companion> CompanionOf(std::string_view fiduciaryType, const Job& job);
+std::optional<CapacityDetail> CapacityDetailOf(std::string_view fiduciaryType, const Job& job);
 
-/// Asks for the companion of the pick and stores it. False if the pick may not be completed: there was no
-/// answer. The empty answer also makes the companion unfilled; a cancelled box leaves it as it was, and so
+/// Asks for the detail of the pick and stores it. False if the pick may not be completed: there was no
+/// answer. The empty answer also makes the detail unfilled; a cancelled box leaves it as it was, and so
 /// does one with a character that data files cannot hold, which a box tells.
-bool AskForCompanion(std::string_view fiduciaryType, SelectionState& screen, const Office& office);
+bool AskForCapacityDetail(std::string_view fiduciaryType, SelectionState& screen, const Office& office);
 
 }  // namespace quillmark

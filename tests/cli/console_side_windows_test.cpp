@@ -6,7 +6,7 @@ namespace {
 using ::testing::Each;
 using ::testing::SizeIs;
 
-class ConsoleCompanions : public ConsoleTest {
+class ConsoleSideWindows : public ConsoleTest {
  protected:
     static std::vector<std::string> WithStatement(const std::vector<std::string>& more) {
         std::vector<std::string> lines = {
@@ -26,7 +26,7 @@ class ConsoleCompanions : public ConsoleTest {
     }
 };
 
-TEST_F(ConsoleCompanions, AddressesAreAddedOnceAndRemoved) {
+TEST_F(ConsoleSideWindows, AddressesAreAddedOnceAndRemoved) {
     const std::string elm = "Elm Savings _ 1 Elm St _  _ Avon, CT 06001";
     const std::string lee =
         "Ann Lee _ Ann Lee _ 1 Elm St _  _ Avon, CT 06001 _ (860) 555-0102 _ (860) 555-0103 _ ";
@@ -63,7 +63,7 @@ TEST_F(ConsoleCompanions, AddressesAreAddedOnceAndRemoved) {
     EXPECT_EQ(Book("Attorneys"), lee + "\r\n");
 }
 
-TEST_F(ConsoleCompanions, TheCalculatorGivesDaysAndAmounts) {
+TEST_F(ConsoleSideWindows, TheCalculatorGivesDaysAndAmounts) {
     const auto replies = Session({
         Calculator({{"gross", "4812.50"}}),
         Calculator(
@@ -97,7 +97,7 @@ TEST_F(ConsoleCompanions, TheCalculatorGivesDaysAndAmounts) {
     EXPECT_THAT(replies[9], Refuses("no field is current"));
 }
 
-TEST_F(ConsoleCompanions, TheCalculatorHandsItsAmountToTheCurrentRow) {
+TEST_F(ConsoleSideWindows, TheCalculatorHandsItsAmountToTheCurrentRow) {
     const auto replies = Session(WithStatement({
         Do("key", {{"n", 194}, {"text", "1"}}),
         Calculator({{"gross", "3650"}, {"hand", "seller"}}),
@@ -112,7 +112,7 @@ TEST_F(ConsoleCompanions, TheCalculatorHandsItsAmountToTheCurrentRow) {
     EXPECT_THAT(replies[7], Gives("$1,140.00 = P"));
 }
 
-TEST_F(ConsoleCompanions, TheStatementGivesEveryFigureAndLeavesTheJobAsItWas) {
+TEST_F(ConsoleSideWindows, TheStatementGivesEveryFigureAndLeavesTheJobAsItWas) {
     const auto replies = Session(WithStatement({
         Do("pick", {{"text", "SMS Cover Letter"}}),
         Field(72, "Avon, CT 06001"),
