@@ -2,6 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <array>
+
 namespace quillmark::test {
 
 using word::Argument;
@@ -118,6 +121,7 @@ void RecordingWord::Put(const std::string& path, const Value& value) {
     if (path == "Selection.Paragraphs.SpaceAfter") paragraph.spaceAfter = Number(value);
     if (path == "Selection.Paragraphs.LineSpacing") paragraph.lineSpacing = Number(value);
     if (path.ends_with(".Result")) TypeText("{" + std::get<std::string>(value) + "}");
+    if (path.ends_with(".CheckBox.Value")) TypeText(std::get<bool>(value) ? "{x}" : "{ }");
     if (path == "Selection.Paragraphs.LeftIndent") paragraph.left = Number(value);
     if (path == "Selection.Paragraphs.RightIndent") paragraph.right = Number(value);
 }
@@ -233,18 +237,39 @@ std::string Marked(const RecordingWord::Characters& look, const std::string& tex
     return marked;
 }
 
+/// The numbers of list items as the outline counts them: 1., a., i.
+class ListNumbers {
+ public:
+    std::string Next(const RecordingWord::Paragraph& paragraph) {
+        if (paragraph.list.empty()) {
+            counts_ = {};
+            return {};
+        }
+        const auto level = static_cast<std::size_t>(paragraph.level - 1);
+        const int count = ++counts_.at(level);
+        std::fill(counts_.begin() + paragraph.level, counts_.end(), 0);
+        static const char* const kRoman[] = {"i", "ii", "iii", "iv", "v", "vi", "vii", "viii", "ix", "x"};
+        const std::string number = level == 0   ? fmt::format("{}", count)
+                                   : level == 1 ? std::string(1, static_cast<char>('a' + count - 1))
+                                                : std::string(kRoman[(count - 1) % 10]);
+        return std::string(3 * level, ' ') + number + ". ";
+    }
+
+ private:
+    std::array<int, 3> counts_ = {};
+};
+
 }  // namespace
 
 std::string RecordingWord::Reading() const {
     std::string reading;
     const Paragraph* before = nullptr;
     std::string font;
-    int number = 0;
+    ListNumbers numbers;
     for (const Paragraph& paragraph : paragraphs_) {
         if (!before || !paragraph.HasFormatOf(*before)) reading += FormatLine(paragraph);
         before = &paragraph;
-        number = paragraph.list.empty() ? 0 : number + 1;
-        if (number > 0) reading += fmt::format("{}.{}", number, paragraph.level > 1 ? "in " : " ");
+        reading += numbers.Next(paragraph);
         for (const auto& [look, text] : paragraph.runs) {
             const std::string runFont = fmt::format("‹{} {:g}›", look.font, look.size);
             if (runFont != font) reading += runFont;

@@ -49,7 +49,7 @@ class RecordingWord {
     const Characters& characters() const { return characters_; }
     const Paragraph& paragraph() const { return paragraphs_.back(); }
 
-    /// The typed characters alone, paragraph ends as "\n".
+    /// The typed characters alone, paragraph ends as "\n", text fields in braces, check boxes as {x} and { }.
     std::string Text() const;
     /// The document as a lawyer reads it in a diff: *bold*, ~italic~, =underlined=, ==doubly==, tabs as →,
     /// line breaks as ↵, page breaks as ‹page›, the fonts as ‹Arial 10› where they change, list items with
