@@ -123,6 +123,11 @@ TEST(TextDocument, LeavesTheParagraphAsItFoundIt) {
     EXPECT_EQ(last.spaceAfter, 0);
     EXPECT_TRUE(last.tabs.empty());
     EXPECT_TRUE(last.list.empty());
+
+    type.Indents(0.25);
+    TextDocument({"a/b.txt", "# Item of a body\n\n@indents 0.5\nMore"}, {})
+        .Type(JobValues(SampleDeal()), type);
+    EXPECT_EQ(recorder.paragraph().left, 18) << "a body ends with the indents of its document";
 }
 
 TEST(TextDocument, NamesEveryFaultWithItsLine) {

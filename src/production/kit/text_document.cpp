@@ -47,7 +47,7 @@ std::string ValueOf(const JobValues& job, const Value& value) {
 /// operation.
 class Typing {
  public:
-    Typing(const JobValues& job, Typist& type) : job_(job), type_(type) {}
+    Typing(const JobValues& job, Typist& type) : job_(job), type_(type), before_(type.indents()) {}
 
     void Run(const std::vector<Step>& steps) {
         for (const Step& step : steps) {
@@ -210,7 +210,7 @@ class Typing {
         Do(Tabs{});
         if (isSpaced_) Do(Spaced{});
         type_.Align(word::AlignLeft);
-        type_.Indents(0);
+        type_.Indents(before_);
     }
 
     struct Characters {
@@ -223,6 +223,7 @@ class Typing {
 
     const JobValues& job_;
     Typist& type_;
+    const double before_;  ///< the indents of the document that this text is the body of
     std::vector<bool> branches_;
     BeginBlock block_;
     bool hasBegun_ = false;

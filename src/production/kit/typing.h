@@ -73,6 +73,7 @@ class Typist {
     void LineSpacing(double points) { WordSel.Paragraphs.LineSpacing = points; }
     /// Left and right alike.
     void Indents(double inches);
+    double indents() const { return indent_; }
     /// Types against tab stops that are there for this passage alone.
     template <class Passage>
     void AtTabs(std::initializer_list<double> inches, Passage passage) {
