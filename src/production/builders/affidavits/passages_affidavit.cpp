@@ -1,0 +1,21 @@
+#include "production/builders/affidavits/passages_affidavit.h"
+
+#include "production/kit/passages.h"
+
+namespace quillmark {
+
+std::string AffiantRole(const JobValues& job, std::string_view role) {
+    return job.Has(EstateTrust) ? job[field::FiduciaryType] : std::string(role);
+}
+
+void TypeSworn(const JobValues& job, Typist& type, const Signers& signers) {
+    type.AtTab(kSignatureTab, [&] {
+        TypeSignatures(type, signers);
+        TypeVenue(job, type);
+        TypeJurat(job, type);
+        TypeNotary(job, type);
+    });
+    type.Indents(0);
+}
+
+}  // namespace quillmark
