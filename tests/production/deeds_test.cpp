@@ -81,13 +81,15 @@ TEST(Deeds, PrincipalWhoIsNoSellerLeavesThePlainDeed) {
 }
 
 TEST(Deeds, TheOtherKinds) {
-    const auto unchanged = [](Job&) {};
-    ExpectRedline("quitclaim", "Deed / Quitclaim", "one person sells to one buyer", unchanged);
-    ExpectRedline("administrator", "Deed / Administrator", "to one buyer", unchanged);
-    ExpectRedline("conservator", "Deed / Conservator", "to one buyer", unchanged);
-    ExpectRedline("executor", "Deed / Executor", "to a couple", BuyersAtOneAddress);
-    ExpectRedline("testamentary_trustee", "Deed / Testamentary Trustee", "to one buyer", unchanged);
-    ExpectRedline("trustee", "Deed / Trustee", "to one buyer", unchanged);
+    const Job job = SampleDeal();
+    Job toCouple = SampleDeal();
+    BuyersAtOneAddress(toCouple);
+    ExpectReading("quitclaim", "Deed / Quitclaim", "one person sells to one buyer", job);
+    ExpectReading("administrator", "Deed / Administrator", "to one buyer", job);
+    ExpectReading("conservator", "Deed / Conservator", "to one buyer", job);
+    ExpectReading("executor", "Deed / Executor", "to a couple", toCouple);
+    ExpectReading("testamentary_trustee", "Deed / Testamentary Trustee", "to one buyer", job);
+    ExpectReading("trustee", "Deed / Trustee", "to one buyer", job);
 }
 
 // A fiduciary gives the deed alone and in person, whatever the options say of sellers.
