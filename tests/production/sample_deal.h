@@ -7,6 +7,9 @@ namespace quillmark::test {
 
 /// One person sells a house to one buyer; every field that the recorded documents read is filled.
 Job SampleDeal();
+/// A couple sells to a couple, and every field has a value that can be told from every other one's; what the
+/// parties and papers are not there for is filled too.
+Job FullDeal();
 /// A job as it is before the first entry, with its derived values.
 Job UnfilledDeal();
 
