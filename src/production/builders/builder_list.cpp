@@ -39,11 +39,11 @@ namespace {
             Variant{tag, number}, RunsAgain::again, notices},
 #define COMPUTED(entry, builder, tag, again, notices) \
     Builder{entry, builder, Variant{tag}, RunsAgain::again, notices},
-#define TEXT(entry, file, passages, notices)                           \
-    Builder{entry,                                                     \
-            [](const Production& from, Typist& type, const Variant&) { \
-                TypeBody(file, JobValues(from.job), type);             \
-            },                                                         \
+#define TEXT(entry, file, passages, notices)                               \
+    Builder{entry,                                                         \
+            [](const Production& from, Typist& type, const Variant&) {     \
+                TypeBody(file, JobValues(from.job, from.documents), type); \
+            },                                                             \
             Variant{}, RunsAgain::Never, notices},
 constexpr auto kBuilders = std::to_array<Builder>({
 #include "production/builders/builders.inc"

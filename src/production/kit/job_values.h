@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -35,12 +37,19 @@ const Party* FindParty(Field name);
 /// its bracketed marker, so that the finished document shows the hole.
 class JobValues {
  public:
-    explicit JobValues(const Job& job) : job_(job) {}
+    explicit JobValues(const Job& job, std::span<const std::string> documents = {})
+        : job_(job), documents_(documents) {}
 
     const std::string& operator[](Field n) const { return job_.D(n); }
     /// A field's value, or a derived one by its number k*1000+n.
     const std::string& Numbered(int number) const { return job_.D(number); }
     bool Has(Option option) const { return job_.optConf(option); }
+    /// Whether the run makes this document too; false where the job list is not known.
+    bool Makes(std::string_view document) const {
+        return std::ranges::find(documents_, document) != documents_.end();
+    }
+    /// The spare text of the field's holder, by which rules of selection leave word for builders.
+    const std::string& Tag(Field n) const { return job_.txtField(n).tag; }
     bool IsFilled(Field n) const { return job_.IsFilled(n); }
     /// The picture that the field holds in place of a text, as the bytes of a Windows bitmap; empty for none.
     const std::string& Picture(Field n) const { return job_.FieldPictures.at(static_cast<std::size_t>(n)); }
@@ -57,6 +66,8 @@ class JobValues {
     /// "John J. Doe and Jane E. Doe" with two of them, otherwise the first name alone.
     const std::string& SellerNames() const { return Derived(1, field::Seller1Name); }
     const std::string& BuyerNames() const { return Derived(1, field::Buyer1Name); }
+    /// The real estate agencies, both when there is a second.
+    const std::string& BrokerNames() const { return Derived(1, field::Realtor1Name); }
     const std::string& FirstName(Field name) const { return Derived(2, name); }
     const std::string& LastName(Field name) const { return Derived(3, name); }
 
@@ -78,6 +89,7 @@ class JobValues {
     const std::string& Derived(int part, Field n) const { return job_.D(part * 1000 + n); }
 
     const Job& job_;
+    std::span<const std::string> documents_;
 };
 
 }  // namespace quillmark
