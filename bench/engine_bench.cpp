@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "word/docx/engine.h"
+#include "word/docx/objects/engine.h"
 #include "word/word.h"
 
 /// How long a long document takes, from the start of the embedded word processor to the closed file: 2,400
@@ -76,7 +76,7 @@ void SetFooters(const word::Document& document) {
 }
 
 void RunEngine(const std::vector<std::string>& texts, const fs::path& file) {
-    const word::Application app(word::docx::StartEngine());
+    const word::Application app(word::docx::objects::StartEngine());
     const word::Document document = app.Documents.Add();
     for (int section = 0; section < kSections; ++section) {
         TypeSection(app, &texts[static_cast<std::size_t>(section) * kParagraphsInSection * kRuns]);

@@ -12,13 +12,13 @@
 #include <string_view>
 #include <vector>
 
-#include "word/automation.h"
-#include "word/docx/document_reader.h"
-#include "word/docx/document_writer.h"
-#include "word/docx/find_replace.h"
-#include "word/docx/paste.h"
-#include "word/docx/zip_reader.h"
-#include "word/docx/zip_writer.h"
+#include "word/docx/find/find_replace.h"
+#include "word/docx/paste/paste.h"
+#include "word/docx/read/document_reader.h"
+#include "word/docx/write/document_writer.h"
+#include "word/docx/zip/zip_reader.h"
+#include "word/docx/zip/zip_writer.h"
+#include "word/seam/automation.h"
 
 namespace {
 

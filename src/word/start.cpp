@@ -3,8 +3,8 @@
 #include <optional>
 #include <utility>
 
-#include "word/com_clipboard.h"
-#include "word/com_word.h"
+#include "word/com/com_clipboard.h"
+#include "word/com/com_word.h"
 
 namespace quillmark::word {
 namespace {
@@ -28,15 +28,15 @@ std::optional<StartedWordProcessor> TryInstalledWord() {
     }
 }
 
-StartedWordProcessor StartEmbedded(docx::EngineOptions options) {
+StartedWordProcessor StartEmbedded(docx::objects::EngineOptions options) {
     if (!options.clipboard) options.clipboard = std::make_shared<MemoryClipboard>();
     const auto clipboard = options.clipboard;
-    return {docx::StartEngine(std::move(options)), clipboard, true};
+    return {docx::objects::StartEngine(std::move(options)), clipboard, true};
 }
 
 }  // namespace
 
-StartedWordProcessor StartWordProcessor(WordProcessor choice, docx::EngineOptions options) {
+StartedWordProcessor StartWordProcessor(WordProcessor choice, docx::objects::EngineOptions options) {
     if (choice == WordProcessor::Word) return StartInstalledWord();
     if (choice == WordProcessor::Automatic) {
         if (auto word = TryInstalledWord()) return *std::move(word);

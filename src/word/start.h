@@ -2,9 +2,9 @@
 
 #include <memory>
 
-#include "word/automation.h"
-#include "word/clipboard.h"
-#include "word/docx/engine.h"
+#include "word/docx/objects/engine.h"
+#include "word/seam/automation.h"
+#include "word/seam/clipboard.h"
 
 namespace quillmark::word {
 
@@ -20,6 +20,6 @@ struct StartedWordProcessor {
 
 /// Starts the word processor of choice. `options` are the embedded engine's and mean nothing to Word.
 /// Throws AutomationError kCannotCreate when Word is asked for by name and is not on this machine.
-StartedWordProcessor StartWordProcessor(WordProcessor choice, docx::EngineOptions options = {});
+StartedWordProcessor StartWordProcessor(WordProcessor choice, docx::objects::EngineOptions options = {});
 
 }  // namespace quillmark::word

@@ -3,7 +3,7 @@
 #include <functional>
 #include <string_view>
 
-#include "word/automation.h"
+#include "word/seam/automation.h"
 
 namespace quillmark::word {
 

@@ -3,7 +3,7 @@
 #include <string_view>
 #include <utility>
 
-#include "word/handle.h"
+#include "word/seam/handle.h"
 
 /// The typed face of the word processor: every operation that the system uses, and no other. Names and
 /// nesting are those of Word's object model, so `word.Selection.Font.Bold = true` is what a reader of that

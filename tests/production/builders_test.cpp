@@ -14,7 +14,7 @@
 #include "production/recording_word.h"
 #include "production/sample_deal.h"
 #include "support/scratch.h"
-#include "word/docx/engine.h"
+#include "word/docx/objects/engine.h"
 
 namespace quillmark::test {
 namespace {
@@ -174,10 +174,12 @@ TEST(Builders, TypeTheSameIntoTheEmbeddedEngine) {
         for (const Builder& builder : Builders()) {
             SCOPED_TRACE(std::string(builder.document) + " with options " + options);
             auto clipboard = std::make_shared<word::MemoryClipboard>();
-            WordSession session(word::docx::StartEngine({.folder = {}, .clipboard = clipboard}), clipboard);
+            WordSession session(word::docx::objects::StartEngine({.folder = {}, .clipboard = clipboard}),
+                                clipboard);
             SetUpWordSession(session);
             TypeDocument(builder, From(job), session);
-            EXPECT_EQ(EngineText(word::docx::ModelOf(session.WordDoc.Reach())), TextOf(builder, job));
+            EXPECT_EQ(EngineText(word::docx::objects::ModelOf(session.WordDoc.Reach())),
+                      TextOf(builder, job));
         }
     }
 }

@@ -5,7 +5,7 @@
 #include "production/run/create.h"
 #include "production/sample_deal.h"
 #include "support/scratch.h"
-#include "word/docx/package_check.h"
+#include "word/docx/check/package_check.h"
 
 namespace quillmark::test {
 namespace {
@@ -53,7 +53,7 @@ TEST_F(CreatedDocument, HasASectionForEachEntryWithItsPaper) {
         }
     }
     EXPECT_EQ(int(document.ProtectionType), word::AllowOnlyFormFields);
-    EXPECT_THAT(word::docx::CheckPackage(ReadBytes(folder / "Hollis_QMF.docx")), IsEmpty());
+    EXPECT_THAT(word::docx::check::CheckPackage(ReadBytes(folder / "Hollis_QMF.docx")), IsEmpty());
 }
 
 TEST_F(CreatedDocument, FootersFillTheirColumnsUnderUnrecordedDocumentsOnly) {

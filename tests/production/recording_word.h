@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "word/automation.h"
-#include "word/clipboard.h"
+#include "word/seam/automation.h"
+#include "word/seam/clipboard.h"
 
 namespace quillmark::test {
 

@@ -2,8 +2,8 @@
 
 #include "platform/paths.h"
 #include "session/create_fixture.h"
-#include "word/docx/package_check.h"
-#include "word/docx/zip_reader.h"
+#include "word/docx/check/package_check.h"
+#include "word/docx/zip/zip_reader.h"
 #include "word/trace.h"
 
 namespace quillmark::test {
@@ -37,7 +37,7 @@ TEST_F(CreateTest, ARunEndsWithAnOpenDocumentAndAKeptJob) {
 
     EXPECT_EQ(screen->LastDocument(), Document());
     EXPECT_THAT(shell.opened, ElementsAre(TextOf(Document())));
-    EXPECT_THAT(word::docx::CheckPackage(ReadBytes(Document())), IsEmpty());
+    EXPECT_THAT(word::docx::check::CheckPackage(ReadBytes(Document())), IsEmpty());
     const std::string job = ReadBytes(JobFile("Hollis"));
     EXPECT_THAT(job, HasSubstr("\"003\",\"Ruth Penfield/412345\"\r\n"));
     EXPECT_THAT(job, Not(HasSubstr("\"011\""))) << "the law firm was borrowed for typing only";
@@ -235,7 +235,7 @@ TEST_F(CreateTest, APictureGoesThroughFileJobAndDocument) {
     Open();
     Create();
     ASSERT_TRUE(screen->LastDocument());
-    word::docx::ZipReader package(ReadBytes(*screen->LastDocument()), "made");
+    word::docx::zip::ZipReader package(ReadBytes(*screen->LastDocument()), "made");
     std::vector<std::string> pictures;
     for (const std::string& name : package.Names())
         if (name.starts_with("word/media/")) pictures.push_back(package.Read(name));

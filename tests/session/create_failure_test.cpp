@@ -4,7 +4,7 @@
 
 #include "session/create_fixture.h"
 #include "session/screen_text.h"
-#include "word/docx/package_check.h"
+#include "word/docx/check/package_check.h"
 #include "word/trace.h"
 
 namespace quillmark::test {
@@ -127,7 +127,7 @@ TEST_F(CreateFailing, AJobThatCannotBeKeptStaysOnTheScreenWhereTheUserWantsItSav
     EXPECT_THAT(State().picInfo, StartsWith(" ERROR:  "));
     EXPECT_EQ(State().job.D(21), "Anna Abbott");
     EXPECT_EQ(State().job.JobDocuments, "") << "no file tells of these documents";
-    EXPECT_THAT(word::docx::CheckPackage(ReadBytes(Document("Abbott_QMF.docx"))), IsEmpty());
+    EXPECT_THAT(word::docx::check::CheckPackage(ReadBytes(Document("Abbott_QMF.docx"))), IsEmpty());
 }
 
 TEST_F(CreateFailing, AddressBooksThatCannotBeWrittenDoNotCostTheDocuments) {

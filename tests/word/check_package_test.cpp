@@ -1,11 +1,11 @@
-#include "word/docx/package_check.h"
+#include "word/docx/check/package_check.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <random>
 
-#include "word/docx/document_writer.h"
+#include "word/docx/write/document_writer.h"
 #include "word/writer_samples.h"
 
 namespace quillmark::word::docx {
@@ -87,11 +87,11 @@ const Damage kDamages[] = {
 
 class PackageCheckTest : public ::testing::Test {
  protected:
-    const test::Parts good_ = test::Unzip(WriteDocx(*test::SampleDocument()));
+    const test::Parts good_ = test::Unzip(write::WriteDocx(*test::SampleDocument()));
 };
 
 TEST_F(PackageCheckTest, AGoodPackageHasNoFindings) {
-    EXPECT_THAT(CheckPackage(test::Zip(good_)), IsEmpty());
+    EXPECT_THAT(check::CheckPackage(test::Zip(good_)), IsEmpty());
 }
 
 TEST_F(PackageCheckTest, EveryDamageIsFoundInItsPart) {
@@ -101,7 +101,7 @@ TEST_F(PackageCheckTest, EveryDamageIsFoundInItsPart) {
         const std::size_t place = xml.find(damage.good);
         ASSERT_NE(place, std::string::npos) << damage.part << " has no " << damage.good;
         xml.replace(place, std::string_view(damage.good).size(), damage.bad);
-        EXPECT_THAT(CheckPackage(test::Zip(parts)), Contains(HasSubstr(damage.finding)))
+        EXPECT_THAT(check::CheckPackage(test::Zip(parts)), Contains(HasSubstr(damage.finding)))
             << damage.good << " -> " << damage.bad;
     }
 }
@@ -111,11 +111,11 @@ TEST_F(PackageCheckTest, MissingAndUnreachedPartsAreFound) {
          {"word/styles.xml", "word/media/image1.png", "[Content_Types].xml", "_rels/.rels"}) {
         test::Parts parts = good_;
         parts.erase(part);
-        EXPECT_THAT(CheckPackage(test::Zip(parts)), Contains(HasSubstr(part))) << part;
+        EXPECT_THAT(check::CheckPackage(test::Zip(parts)), Contains(HasSubstr(part))) << part;
     }
     test::Parts parts = good_;
     parts["word/notes.xml"] = "<notes/>";
-    EXPECT_THAT(CheckPackage(test::Zip(parts)),
+    EXPECT_THAT(check::CheckPackage(test::Zip(parts)),
                 ElementsAre("word/notes.xml: no relationship leads to the part."));
 }
 
@@ -128,34 +128,34 @@ TEST_F(PackageCheckTest, ContentControlsMayWrapRowsCellsAndParagraphs) {
         xml.insert(xml.rfind(close) + close.size(), end);
         xml.insert(xml.rfind(open), control);
     }
-    EXPECT_THAT(CheckPackage(test::Zip(parts)), IsEmpty());
+    EXPECT_THAT(check::CheckPackage(test::Zip(parts)), IsEmpty());
 }
 
 TEST(PackageCheck, BytesThatAreNoPackageGiveAFinding) {
-    const std::string good = WriteDocx(*test::SampleDocument());
-    EXPECT_EQ(CheckPackage("").size(), 1u);
-    EXPECT_EQ(CheckPackage("not a zip file").size(), 1u);
-    EXPECT_FALSE(CheckPackage(good.substr(0, good.size() / 2)).empty());
+    const std::string good = write::WriteDocx(*test::SampleDocument());
+    EXPECT_EQ(check::CheckPackage("").size(), 1u);
+    EXPECT_EQ(check::CheckPackage("not a zip file").size(), 1u);
+    EXPECT_FALSE(check::CheckPackage(good.substr(0, good.size() / 2)).empty());
     std::string deep = "<a>";
     for (int depth = 0; depth < 100'000; ++depth) deep += "<a>";
     for (int depth = 0; depth < 100'000; ++depth) deep += "</a>";
     test::Parts parts = test::Unzip(good);
     parts["word/settings.xml"] = deep + "</a>";
-    EXPECT_THAT(CheckPackage(test::Zip(parts)), Contains(HasSubstr("nested too deeply")));
+    EXPECT_THAT(check::CheckPackage(test::Zip(parts)), Contains(HasSubstr("nested too deeply")));
 }
 
 TEST(PackageCheck, NoBytesWhateverMakeItFail) {
     std::mt19937 random(11);
-    const std::string good = WriteDocx(*test::SampleDocument());
+    const std::string good = write::WriteDocx(*test::SampleDocument());
     const test::Parts parts = test::Unzip(good);
     for (int round = 0; round < 200; ++round) {
         std::string bytes = good;
         for (int n = 0; n < 8; ++n) bytes[random() % bytes.size()] = static_cast<char>(random());
-        EXPECT_NO_THROW(CheckPackage(bytes)) << round;
+        EXPECT_NO_THROW(check::CheckPackage(bytes)) << round;
         test::Parts damaged = parts;
         std::string& xml = damaged.at(round % 2 ? kDocument : kNumbering);
         xml.erase(random() % xml.size(), random() % 200);
-        EXPECT_NO_THROW(CheckPackage(test::Zip(damaged))) << round;
+        EXPECT_NO_THROW(check::CheckPackage(test::Zip(damaged))) << round;
     }
 }
 

@@ -1,12 +1,12 @@
 #ifdef _WIN32
 
-#include "word/com_word.h"
+#include "word/com/com_word.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include "word/com_clipboard.h"
-#include "word/com_text.h"
+#include "word/com/com_clipboard.h"
+#include "word/com/com_text.h"
 #include "word/engine_session.h"
 #include "word/start.h"
 #include "word/word.h"
@@ -49,7 +49,7 @@ TEST(ComObject, ObjectsArePassedOn) {
     const Argument key{Text("inner")};
     const Value back = outer->Get("Item", Arguments(&key, 1));
     EXPECT_EQ(ToWhole(std::get<ObjectPtr>(back)->Get("Count")), 1);
-    const auto engine = docx::StartEngine();
+    const auto engine = docx::objects::StartEngine();
     EXPECT_EQ(test::ErrorOf([&] {
                   Call(outer, "Add", {{Text("foreign")}, {engine}});
               }),

@@ -108,7 +108,7 @@ TEST_F(EngineApplication, NothingWorksAfterQuit) {
 }
 
 TEST_F(EngineApplication, TheEngineEndsWithItsApplicationObject) {
-    app = Application{docx::StartEngine()};
+    app = Application{docx::objects::StartEngine()};
     EXPECT_EQ(ErrorOf([&] { sel.TypeText("x"); }), error::kServerGone);
 }
 
@@ -121,7 +121,7 @@ TEST_F(EngineApplication, ASavedDocumentOpensAsItWas) {
     EXPECT_EQ(ErrorOf([&] { doc.Save(); }), error::kNotAvailable) << "it has no name";
     doc.SaveAs("Roe v. Doe_QMF");
     EXPECT_TRUE(doc.Saved);
-    EXPECT_EQ(docx::PathOf(doc.Reach()), folder / "Roe v. Doe_QMF.docx");
+    EXPECT_EQ(docx::objects::PathOf(doc.Reach()), folder / "Roe v. Doe_QMF.docx");
     doc.Close(false);
 
     const Document opened = app.Documents.Open("Roe v. Doe_QMF.docx");
@@ -142,7 +142,7 @@ TEST_F(EngineApplication, FilesThatCannotBeReadOrWrittenSayWhy) {
     EXPECT_EQ(ErrorOf([&] { app.Documents.Open("torn.docx"); }), error::kFileDamaged);
     EXPECT_EQ(ErrorOf([&] { doc.SaveAs("no such folder/x"); }), error::kPathNotFound);
     EXPECT_EQ(app.Documents.Count(), 1);
-    EXPECT_TRUE(docx::PathOf(doc.Reach()).empty());
+    EXPECT_TRUE(docx::objects::PathOf(doc.Reach()).empty());
 }
 
 }  // namespace

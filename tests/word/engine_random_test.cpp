@@ -3,9 +3,9 @@
 #include <array>
 #include <random>
 
-#include "word/docx/document_reader.h"
-#include "word/docx/document_writer.h"
-#include "word/docx/package_check.h"
+#include "word/docx/check/package_check.h"
+#include "word/docx/read/document_reader.h"
+#include "word/docx/write/document_writer.h"
 #include "word/engine_session.h"
 
 namespace quillmark::word::test {
@@ -212,15 +212,15 @@ TEST(EngineRandom, WhateverWasDoneIsWrittenAndReadBack) {
     for (unsigned seed = 100; seed < 130; ++seed) {
         Monkey monkey(seed);
         for (int step = 0; step < 200; ++step) monkey.Act();
-        const std::string bytes = docx::WriteDocx(monkey.Model());
-        EXPECT_EQ(docx::CheckPackage(bytes), std::vector<std::string>()) << "seed " << seed;
+        const std::string bytes = docx::write::WriteDocx(monkey.Model());
+        EXPECT_EQ(docx::check::CheckPackage(bytes), std::vector<std::string>()) << "seed " << seed;
         quillmark::test::WriteBytes(monkey.folder / "again.docx", bytes);
         const std::string text = monkey.doc.Content.Text;
         const std::size_t sections = static_cast<std::size_t>(monkey.doc.Sections.Count());
         const Document again = monkey.app.Documents.Open("again.docx");
         EXPECT_EQ(again.Content.Text.Read(), text) << "seed " << seed;
         EXPECT_EQ(static_cast<std::size_t>(again.Sections.Count()), sections) << "seed " << seed;
-        EXPECT_EQ(FaultIn(docx::ModelOf(again.Reach())), "") << "seed " << seed;
+        EXPECT_EQ(FaultIn(docx::objects::ModelOf(again.Reach())), "") << "seed " << seed;
     }
 }
 

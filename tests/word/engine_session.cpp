@@ -86,7 +86,7 @@ void AppendChunk(std::string& bytes, const std::string& type, const std::string&
 }  // namespace
 
 EngineSession::EngineSession()
-    : app(docx::StartEngine({folder.path(), clipboard})),
+    : app(docx::objects::StartEngine({folder.path(), clipboard})),
       doc(app.Documents.Add()),
       sel(app.Selection.Reach()) {}
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "support/scratch.h"
-#include "word/docx/engine.h"
+#include "word/docx/objects/engine.h"
 #include "word/word.h"
 
 namespace quillmark::word::test {
@@ -16,7 +16,7 @@ class EngineSession {
  public:
     EngineSession();
 
-    const docx::Document& Model() const { return docx::ModelOf(doc.Reach()); }
+    const docx::Document& Model() const { return docx::objects::ModelOf(doc.Reach()); }
     /// The paragraphs of the main text; a table shows as "<table>", an object as "#", a paragraph that ends a
     /// section with "=" behind it.
     std::vector<std::string> Texts() const;

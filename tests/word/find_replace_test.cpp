@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <random>
 
-#include "word/docx/find_replace.h"
+#include "word/docx/find/find_replace.h"
 #include "word/reader_dump.h"
 #include "word/writer_samples.h"
 
@@ -17,10 +17,13 @@ using test::Type;
 
 class FindTest : public testing::Test {
  protected:
-    FindResult FindText(std::string_view text) { return docx::Find(*document, document->body, {text}); }
-    int ReplaceAllOf(std::string_view text, std::string_view with, const ClipboardContent& clipboard = {}) {
-        const FindRequest request{text, with, ReplaceAll, FindStop, &clipboard};
-        const int replaced = docx::Find(*document, document->body, request).replaced;
+    find::FindResult FindText(std::string_view text) {
+        return docx::find::Find(*document, document->body, {text});
+    }
+    int ReplaceAllOf(std::string_view text, std::string_view with,
+                     const find::ClipboardContent& clipboard = {}) {
+        const find::FindRequest request{text, with, ReplaceAll, FindStop, &clipboard};
+        const int replaced = docx::find::Find(*document, document->body, request).replaced;
         EXPECT_EQ(test::Faults(*document), "");
         return replaced;
     }
@@ -48,7 +51,7 @@ TEST_F(FindTest, SplitRunsCapitalsAndCurlyQuotesDoNotMatter) {
     Type(*document, paragraph, "LER\xE2\x80\x99S", {.bold = true});
     Type(*document, paragraph, " N\xC3\x89] and");
     paragraph.anchors = {{6, true, 1, "in"}, {8, false, 1, ""}};
-    const FindResult found = FindText("[seller's n\xC3\xA9]");
+    const find::FindResult found = FindText("[seller's n\xC3\xA9]");
     ASSERT_TRUE(found.found);
     EXPECT_EQ(found.match->start.offset, 4u);
     EXPECT_EQ(found.match->end.offset, 20u);
@@ -87,8 +90,8 @@ TEST_F(FindTest, ParagraphsInTheReplacementKeepTheFormat) {
     paragraph.anchors = {{0, true, 1, "m"}, {paragraph.text.size(), false, 1, ""}};
     EndSection(0);
     Add("next");
-    const FindRequest request{"[ADDRESS]", "1 Elm St\rUnit 2", ReplaceAll};
-    const FindResult found = docx::Find(*document, document->body, request);
+    const find::FindRequest request{"[ADDRESS]", "1 Elm St\rUnit 2", ReplaceAll};
+    const find::FindResult found = docx::find::Find(*document, document->body, request);
     EXPECT_EQ(Text(document->body), "to 1 Elm St\nUnit 2, CT<1>=\nnext\n");
     EXPECT_EQ(document->paraFormats[At(0).format].leftIndent, 720);
     EXPECT_EQ(document->paraFormats[At(1).format].leftIndent, 720);
@@ -114,7 +117,7 @@ TEST_F(FindTest, WhatFormFieldsHoldIsText) {
     test::Insert(*document, paragraph,
                  FormFieldData{.name = "Check1", .isCheckBox = true, .result = "[buyer]"});
     test::Insert(*document, paragraph, FormFieldData{.name = "Text1", .result = "by [BUYER], [x]"});
-    const FindResult found = FindText("[buyer]");
+    const find::FindResult found = FindText("[buyer]");
     ASSERT_TRUE(found.found);
     EXPECT_EQ(found.match->start.offset, 5u);
     EXPECT_EQ(ReplaceAllOf("[x]", "one^ptwo"), 2);
@@ -182,9 +185,10 @@ TEST_F(FindTest, RangesAndGoingOnAroundTheEnd) {
     const Place behind{&document->body, first, 4};
     const auto find = [&](const Place& from, const Place& to, FindWrap wrap,
                           FindReplace replace = ReplaceNone) {
-        return docx::Find(*document, document->body, {"AB", "x", replace, wrap}, TextRange{from, to});
+        return docx::find::Find(*document, document->body, {"AB", "x", replace, wrap},
+                                find::TextRange{from, to});
     };
-    FindResult found = find(behind, behind, FindStop);
+    find::FindResult found = find(behind, behind, FindStop);
     ASSERT_TRUE(found.found);
     EXPECT_EQ(found.match->start.block, std::next(first));
     const Place last{&document->body, std::next(first), 1};
@@ -208,7 +212,7 @@ TEST_F(FindTest, TextsAreAsLongAsTheWordProcessorAllows) {
         FindText(std::string(256, 'a'));
         FAIL();
     } catch (const AutomationError& refusal) {
-        EXPECT_EQ(refusal.number(), kTextTooLong);
+        EXPECT_EQ(refusal.number(), find::kTextTooLong);
     }
     // Letters count, not bytes.
     std::string accents;

@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "support/scratch.h"
-#include "word/docx/document_writer.h"
-#include "word/docx/package_check.h"
+#include "word/docx/check/package_check.h"
+#include "word/docx/write/document_writer.h"
 #include "word/engine_session.h"
 #include "word/reader_dump.h"
 
@@ -19,12 +19,11 @@ class FormMerge : public testing::Test, protected EngineSession {
  protected:
     void SetUp() override {
         BareDocx form;
-        form.body =
-            R"(<w:p><w:r><w:t>Rider of [SELLER</w:t></w:r><w:r><w:rPr><w:b/></w:rPr>)"
-            R"(<w:t xml:space="preserve"> 1 name]</w:t></w:r><w:r><w:t>: [note]</w:t></w:r></w:p>)"
-            R"(<w:p><w:pPr><w:sectPr/></w:pPr></w:p>)"
-            R"(<w:p><w:r><w:t>signed</w:t></w:r></w:p><w:sectPr><w:footerReference w:type="default" )"
-            R"(r:id="rId9"/><w:pgMar w:left="2000"/></w:sectPr>)";
+        form.body = R"(<w:p><w:r><w:t>Rider of [SELLER</w:t></w:r><w:r><w:rPr><w:b/></w:rPr>)"
+                    R"(<w:t xml:space="preserve"> 1 name]</w:t></w:r><w:r><w:t>: [note]</w:t></w:r></w:p>)"
+                    R"(<w:p><w:pPr><w:sectPr/></w:pPr></w:p>)"
+                    R"(<w:p><w:r><w:t>signed</w:t></w:r></w:p><w:sectPr><w:footerReference w:type="default" )"
+                    R"(r:id="rId9"/><w:pgMar w:left="2000"/></w:sectPr>)";
         form.settings = "<w:defaultTabStop w:val=\"500\"/>";
         form.relationships = "<Relationship Id=\"rId9\" Type=\"t/footer\" Target=\"footer1.xml\"/>";
         form.extraPartName = "word/footer1.xml";
@@ -50,7 +49,7 @@ class FormMerge : public testing::Test, protected EngineSession {
     }
     void TearDown() override {
         EXPECT_EQ(FaultIn(Model()), "");
-        EXPECT_THAT(docx::CheckPackage(docx::WriteDocx(Model())), IsEmpty());
+        EXPECT_THAT(docx::check::CheckPackage(docx::write::WriteDocx(Model())), IsEmpty());
     }
 
     const std::string merged = "Rider of Jane Roe: " + std::string(255, 'n');

@@ -1,10 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "word/docx/document_reader.h"
-#include "word/docx/document_writer.h"
-#include "word/docx/package_check.h"
-#include "word/docx/paste.h"
+#include "word/docx/check/package_check.h"
+#include "word/docx/paste/paste.h"
+#include "word/docx/read/document_reader.h"
+#include "word/docx/write/document_writer.h"
 #include "word/reader_dump.h"
 #include "word/writer_samples.h"
 
@@ -25,9 +25,9 @@ class PasteTest : public testing::Test {
         return {&target.body, std::prev(target.body.end()), last.text.size()};
     }
     Place Paste(const Document& source, bool keepSourceFormatting = true) {
-        const Place behind = PasteAt(target, End(), CopyAll(source), keepSourceFormatting);
+        const Place behind = paste::PasteAt(target, End(), paste::CopyAll(source), keepSourceFormatting);
         EXPECT_EQ(test::Faults(target), "");
-        EXPECT_THAT(CheckPackage(WriteDocx(target)), IsEmpty());
+        EXPECT_THAT(check::CheckPackage(write::WriteDocx(target)), IsEmpty());
         return behind;
     }
     void TypeAtEnd(std::string_view text) {
@@ -164,7 +164,7 @@ TEST_F(PasteTest, OnlyAnEmptyDocumentTakesTheFormsPage) {
     Document typed;
     test::Type(typed, std::get<Paragraph>(typed.body.back()), "deed");
     const Place place{&typed.body, typed.body.begin(), 2};
-    const Place behind = PasteAt(typed, place, CopyAll(*form));
+    const Place behind = paste::PasteAt(typed, place, paste::CopyAll(*form));
     EXPECT_EQ(Text(typed.body), "de\nTitle\nClause one\n[Cell\n]\ned\n");
     EXPECT_EQ(behind.block, std::prev(typed.body.end()));
     EXPECT_EQ(behind.offset, 0u);
@@ -225,7 +225,7 @@ TEST_F(PasteTest, PartsAndNotesAreBroughtAlongOnceAndRenumbered) {
         R"(w:type="separator" w:id="0"><w:p/></w:footnote><w:footnote w:id="2"><w:p><w:r><w:t>the note)"
         R"(</w:t></w:r></w:p>)"
         R"(</w:footnote></w:footnotes>)";
-    const auto source = OpenDocxBytes(test::Zip(parts));
+    const auto source = read::OpenDocxBytes(test::Zip(parts));
     Paste(*source);
     Paste(*source);
     EXPECT_EQ(target.relations.size(), 2u);

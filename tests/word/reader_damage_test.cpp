@@ -4,11 +4,11 @@
 #include <random>
 
 #include "support/scratch.h"
-#include "word/automation.h"
-#include "word/docx/document_reader.h"
-#include "word/docx/document_writer.h"
-#include "word/docx/zip_reader.h"
+#include "word/docx/read/document_reader.h"
+#include "word/docx/write/document_writer.h"
+#include "word/docx/zip/zip_reader.h"
 #include "word/reader_dump.h"
+#include "word/seam/automation.h"
 #include "word/writer_samples.h"
 
 namespace quillmark::word::docx {
@@ -20,7 +20,7 @@ using testing::HasSubstr;
 /// The number and the text of the refusal; 0 when the document opens.
 std::pair<int, std::string> Refusal(const std::string& bytes) {
     try {
-        OpenDocxBytes(bytes, "deed.docx");
+        read::OpenDocxBytes(bytes, "deed.docx");
     } catch (const AutomationError& refusal) {
         return {refusal.number(), refusal.what()};
     }
@@ -53,14 +53,14 @@ TEST(ReaderDamage, FilesThatAreNoDocument) {
 TEST(ReaderDamage, MissingFilesAreNotFound) {
     const quillmark::test::ScratchFolder folder;
     try {
-        OpenDocx(folder / "none.docx");
+        read::OpenDocx(folder / "none.docx");
         FAIL();
     } catch (const AutomationError& refusal) {
         EXPECT_EQ(refusal.number(), error::kFileNotFound);
         EXPECT_THAT(refusal.what(), HasSubstr("none.docx"));
     }
     quillmark::test::WriteBytes(folder / "form.docx", test::BareDocx{.body = "<w:p/>"}.Bytes());
-    EXPECT_EQ(test::Text(OpenDocx(folder / "form.docx")->body), "\n");
+    EXPECT_EQ(test::Text(read::OpenDocx(folder / "form.docx")->body), "\n");
 }
 
 TEST(ReaderDamage, NestingWithoutEndIsRefused) {
@@ -72,9 +72,9 @@ TEST(ReaderDamage, NestingWithoutEndIsRefused) {
 
 TEST(ReaderDamage, BombsAreRefused) {
     ExpectDamage(WithPart("word/document.xml", std::string(std::size_t{64} << 20, ' ')), "unreasonable size");
-    ZipReader many(WithPart("a", "b"), "f", {.totalBytes = 700});
+    zip::ZipReader many(WithPart("a", "b"), "f", {.totalBytes = 700});
     EXPECT_THROW(for (int n = 0; n < 10; ++n) many.Read("[Content_Types].xml"), AutomationError);
-    EXPECT_THROW(ZipReader(WithPart("a", "b"), "f", {.entries = 3}), AutomationError);
+    EXPECT_THROW(zip::ZipReader(WithPart("a", "b"), "f", {.entries = 3}), AutomationError);
 }
 
 TEST(ReaderDamage, PartsThatLeadToEachOtherEnd) {
@@ -87,13 +87,13 @@ TEST(ReaderDamage, PartsThatLeadToEachOtherEnd) {
     parts["word/_rels/chart.xml.rels"] =
         R"(<Relationships><Relationship Id="a" Type="t/chart" Target="chart.xml"/>)"
         R"(<Relationship Id="b" Type="t/chart" Target="../word/chart.xml"/></Relationships>)";
-    const auto document = OpenDocxBytes(test::Zip(parts));
+    const auto document = read::OpenDocxBytes(test::Zip(parts));
     EXPECT_EQ(document->relations.size(), 1u);
-    EXPECT_FALSE(WriteDocx(*document).empty());
+    EXPECT_FALSE(write::WriteDocx(*document).empty());
 }
 
 TEST(ReaderDamage, TornFilesAreRefusedOrRead) {
-    const std::string whole = WriteDocx(*test::SampleDocument());
+    const std::string whole = write::WriteDocx(*test::SampleDocument());
     std::mt19937 random(20210701);
     for (int round = 0; round < 400; ++round) {
         SCOPED_TRACE(round);

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <set>
 
-#include "word/docx/document_reader.h"
-#include "word/docx/parts_names.h"
+#include "word/docx/read/document_reader.h"
+#include "word/docx/xml/names.h"
 #include "word/writer_samples.h"
 
 namespace quillmark::word::docx::test {
@@ -241,12 +241,12 @@ std::string Faults(const Document& document) {
 
 std::string BareDocx::Bytes() const {
     std::string declarations;
-    for (const NamespaceName& name : kNamespaces)
+    for (const xml::NamespaceName& name : xml::kNamespaces)
         declarations += fmt::format(" {}=\"{}\"", name.declaration, name.uri);
     const auto root = [&](const char* tag, const std::string& content) {
         return fmt::format("<w:{0}{1} mc:Ignorable=\"w14 w15\">{2}</w:{0}>", tag, declarations, content);
     };
-    const std::string base(kOfficeRelationships);
+    const std::string base(xml::kOfficeRelationships);
     const auto link = [&](const char* id, const char* type, const char* target) {
         return fmt::format(R"(<Relationship Id="{}" Type="{}/{}" Target="{}"/>)", id, base, type, target);
     };
@@ -276,7 +276,7 @@ std::string BareDocx::Bytes() const {
 }
 
 std::unique_ptr<Document> BareDocx::Open() const {
-    return OpenDocxBytes(Bytes(), "form.docx");
+    return read::OpenDocxBytes(Bytes(), "form.docx");
 }
 
 std::unique_ptr<Document> OpenBody(std::string_view body) {

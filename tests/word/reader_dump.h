@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "word/docx/document.h"
+#include "word/docx/model/document.h"
 
 /// Documents as text, for comparing two of them, and documents from bare XML.
 namespace quillmark::word::docx::test {

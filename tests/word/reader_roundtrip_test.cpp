@@ -3,8 +3,8 @@
 
 #include <random>
 
-#include "word/docx/document_reader.h"
-#include "word/docx/document_writer.h"
+#include "word/docx/read/document_reader.h"
+#include "word/docx/write/document_writer.h"
 #include "word/reader_dump.h"
 #include "word/writer_samples.h"
 
@@ -174,19 +174,19 @@ TEST(ReaderRoundTrip, WhatIsWrittenIsReadBack) {
     for (unsigned seed = 1; seed <= 120; ++seed) {
         SCOPED_TRACE(seed);
         const auto document = RandomModel(seed).Build();
-        const std::string bytes = WriteDocx(*document);
-        const auto opened = OpenDocxBytes(bytes);
+        const std::string bytes = write::WriteDocx(*document);
+        const auto opened = read::OpenDocxBytes(bytes);
         ASSERT_EQ(test::Dump(*opened), test::Dump(*document));
         ASSERT_EQ(test::Faults(*opened), "");
         // What was read is written as it was, lists and parts included.
-        ASSERT_EQ(test::Dump(*OpenDocxBytes(WriteDocx(*opened))), test::Dump(*document));
+        ASSERT_EQ(test::Dump(*read::OpenDocxBytes(write::WriteDocx(*opened))), test::Dump(*document));
     }
 }
 
 TEST(ReaderRoundTrip, ListsAndStylesAreReadBack) {
     const auto document = test::SampleDocument();
     document->lastSection.start = 2;  // on other paper, it would not be written as continuous
-    const auto opened = OpenDocxBytes(WriteDocx(*document));
+    const auto opened = read::OpenDocxBytes(write::WriteDocx(*document));
     EXPECT_EQ(test::Dump(*opened), test::Dump(*document));
     EXPECT_EQ(test::PartOf(*opened, "word/numbering.xml"), test::PartOf(*document, "word/numbering.xml"));
     EXPECT_EQ(test::PartOf(*opened, "word/styles.xml"), test::PartOf(*document, "word/styles.xml"));

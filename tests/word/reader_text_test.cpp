@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "word/docx/document_reader.h"
-#include "word/docx/document_writer.h"
-#include "word/docx/package_check.h"
+#include "word/docx/check/package_check.h"
+#include "word/docx/read/document_reader.h"
+#include "word/docx/write/document_writer.h"
 #include "word/reader_dump.h"
 #include "word/writer_samples.h"
 
@@ -75,7 +75,7 @@ TEST(Reader, NamesGoByNamespaceAndNotByPrefix) {
         R"(q:Ignorable="i">)"
         R"(<x:body><x:p i:id="7"><i:thing/><x:r><x:rPr><x:b/></x:rPr><x:t>text</x:t></x:r>)"
         R"(<w:r><w:t>of another kind</w:t></w:r></x:p></x:body></x:document>)";
-    const auto document = OpenDocxBytes(test::Zip(parts));
+    const auto document = read::OpenDocxBytes(test::Zip(parts));
     EXPECT_EQ(Text(document->body), "text\n");
     EXPECT_TRUE(document->charFormats[First(*document).spans.at(0).format].bold.value_or(false));
 }
@@ -262,7 +262,7 @@ TEST(Reader, PartsThatKeptXmlLeadsToComeAlong) {
     EXPECT_THAT(std::get<RawInline>(First(*document).objects[0]).xml, HasSubstr("r:id=\"" + id + "\""));
     EXPECT_EQ(relation.bytes, docx.extraPart);
     EXPECT_EQ(relation.contentType, "image/png");
-    EXPECT_THAT(CheckPackage(WriteDocx(*document)), IsEmpty());
+    EXPECT_THAT(check::CheckPackage(write::WriteDocx(*document)), IsEmpty());
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "word/automation.h"
+#include "word/seam/automation.h"
 
 namespace quillmark::word::test {
 

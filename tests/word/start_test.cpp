@@ -46,10 +46,10 @@ void TypeForm(const Application& word) {
 }
 
 TEST(TraceOfTheEngine, ChangesNothingInTheDocument) {
-    const Application plain{docx::StartEngine()};
+    const Application plain{docx::objects::StartEngine()};
     std::vector<std::string> lines;
     const Application traced{
-        Trace(docx::StartEngine(), [&](std::string_view line) { lines.emplace_back(line); })};
+        Trace(docx::objects::StartEngine(), [&](std::string_view line) { lines.emplace_back(line); })};
     TypeForm(plain);
     TypeForm(traced);
     EXPECT_EQ(lines, (std::vector<std::string>{
@@ -68,8 +68,8 @@ TEST(TraceOfTheEngine, ChangesNothingInTheDocument) {
                          "ActiveDocument.Sections(2).Footers(1).Range, 33",
                      }));
     const ObjectPtr document = traced.ActiveDocument.Reach();
-    EXPECT_THROW(docx::ModelOf(document), AutomationError);
-    EXPECT_EQ(test::FaultIn(docx::ModelOf(Untraced(document))), "");
+    EXPECT_THROW(docx::objects::ModelOf(document), AutomationError);
+    EXPECT_EQ(test::FaultIn(docx::objects::ModelOf(Untraced(document))), "");
     EXPECT_EQ(traced.ActiveDocument.Content.Text.Read(), plain.ActiveDocument.Content.Text.Read());
 }
 

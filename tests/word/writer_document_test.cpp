@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "word/docx/document_writer.h"
-#include "word/docx/package_check.h"
+#include "word/docx/check/package_check.h"
+#include "word/docx/write/document_writer.h"
 #include "word/writer_samples.h"
 
 namespace quillmark::word::docx {
@@ -35,7 +35,7 @@ std::string SectionOf(const Document& document) {
 
 /// What is between the tags of the body, without the last section.
 std::string CheckedBodyOf(const Document& document) {
-    EXPECT_THAT(CheckPackage(WriteDocx(document)), IsEmpty());
+    EXPECT_THAT(check::CheckPackage(write::WriteDocx(document)), IsEmpty());
     const std::string xml = PartOf(document, "word/document.xml");
     const std::size_t start = xml.find("<w:body>") + std::string_view("<w:body>").size();
     return xml.substr(start, xml.rfind("<w:sectPr>") - start);
@@ -212,8 +212,8 @@ TEST(DocumentWriter, EqualPicturesShareAPartAndNoTwoDrawingsANumber) {
     test::Insert(
         *document, more,
         RawInline{R"(<w:r><w:drawing><wp:inline><wp:docPr name="x" id="1"/></wp:inline></w:drawing></w:r>)"});
-    const test::Parts parts = test::Unzip(WriteDocx(*document));
-    EXPECT_THAT(CheckPackage(WriteDocx(*document)), IsEmpty());
+    const test::Parts parts = test::Unzip(write::WriteDocx(*document));
+    EXPECT_THAT(check::CheckPackage(write::WriteDocx(*document)), IsEmpty());
     EXPECT_TRUE(parts.contains("word/media/image2.png"));
     EXPECT_FALSE(parts.contains("word/media/image3.png"));
     EXPECT_EQ(Count(parts.at("word/_rels/document.xml.rels"), "media/"), 1u);
@@ -242,7 +242,7 @@ TEST(DocumentWriter, RawXmlBringsItsPartsWhereverItStands) {
     document->lastSection.footers[0] = StoryOf(*document, "");
     document->lastSection.footers[0]->blocks.emplace_front(
         RawBlock{R"(<w:p><w:r><w:object r:id="rId1"/></w:r></w:p>)"});
-    EXPECT_THAT(CheckPackage(WriteDocx(*document)), IsEmpty());
+    EXPECT_THAT(check::CheckPackage(write::WriteDocx(*document)), IsEmpty());
     const std::string main = PartOf(*document, "word/_rels/document.xml.rels");
     EXPECT_THAT(
         main, HasSubstr("Id='rId2' Type='http://example.com/link' Target='https://example.com/?a=1&amp;b=2' "
@@ -261,7 +261,7 @@ TEST(DocumentWriter, ListsRestartAndKeepWhatAnOpenedFileSays) {
     document->abstractLists = {{{{3, "decimal", "%1.", 360, -360, ""}}, ""},
                                {{}, R"(<w:abstractNum w:abstractNumId="%ID%"/>)"}};
     document->lists = {{0, false, ""}, {0, true, ""}, {1, true, R"(<w:lvlOverride w:ilvl="0"/>)"}};
-    EXPECT_THAT(CheckPackage(WriteDocx(*document)), IsEmpty());
+    EXPECT_THAT(check::CheckPackage(write::WriteDocx(*document)), IsEmpty());
     EXPECT_THAT(
         PartOf(*document, "word/numbering.xml"),
         HasSubstr(

@@ -5,12 +5,12 @@
 #include <stdexcept>
 
 #include "support/scratch.h"
-#include "word/automation.h"
-#include "word/docx/document_writer.h"
-#include "word/docx/package_check.h"
-#include "word/docx/xml_writer.h"
-#include "word/docx/zip_reader.h"
-#include "word/docx/zip_writer.h"
+#include "word/docx/check/package_check.h"
+#include "word/docx/write/document_writer.h"
+#include "word/docx/xml/xml_writer.h"
+#include "word/docx/zip/zip_reader.h"
+#include "word/docx/zip/zip_writer.h"
+#include "word/seam/automation.h"
 #include "word/writer_samples.h"
 
 namespace quillmark::word::docx {
@@ -25,7 +25,7 @@ std::string Random(std::mt19937& random, std::size_t length) {
 }
 
 TEST(XmlWriter, EscapesWhatIsMarkupAndClosesWhatIsEmpty) {
-    XmlWriter xml;
+    xml::XmlWriter xml;
     xml.Open("a");
     xml.Attribute("x", "1 < \"2\" & 3\n\t");
     xml.Attribute("n", -7);
@@ -38,7 +38,7 @@ TEST(XmlWriter, EscapesWhatIsMarkupAndClosesWhatIsEmpty) {
 }
 
 TEST(XmlWriter, KeepsGoodCharactersAndLetsNoBadOnesOut) {
-    XmlWriter xml;
+    xml::XmlWriter xml;
     // Two of the characters that XML forbids, a broken sequence, an overlong one, a surrogate, one too large.
     xml.Text("caf\xC3\xA9 \xF0\x9F\x8F\xA0|\x02\xEF\xBF\xBE|\xC3(|\xC0\xAF|\xED\xA0\x80|\xF5\x80|\xE2\x82");
     const std::string bad = "\xEF\xBF\xBD";
@@ -50,7 +50,7 @@ TEST(XmlWriter, AnyBytesGiveReadableXml) {
     std::mt19937 random(20260107);
     for (int round = 0; round < 500; ++round) {
         const std::string bytes = Random(random, random() % 64);
-        XmlWriter xml;
+        xml::XmlWriter xml;
         xml.Open("a");
         xml.Attribute("x", bytes);
         xml.Text(bytes);
@@ -69,14 +69,14 @@ TEST(XmlWriter, AnyBytesGiveReadableXml) {
 TEST(ZipWriter, GivesBackEveryFileInItsOrder) {
     std::mt19937 random(7);
     const std::string noise = Random(random, 5000), text(100'000, 'x');
-    const std::vector<ZipEntry> entries = {{"[Content_Types].xml", text}, {"empty.xml", ""},
-                                           {"noise.bin", noise},          {"media/a.png", text},
-                                           {"media/b.bmp", text},         {"caf\xC3\xA9.xml", "<a/>"}};
-    const std::string archive = WriteZip(entries);
-    EXPECT_EQ(archive, WriteZip(entries));
-    ZipReader reader(archive, "The archive");
+    const std::vector<zip::ZipEntry> entries = {{"[Content_Types].xml", text}, {"empty.xml", ""},
+                                                {"noise.bin", noise},          {"media/a.png", text},
+                                                {"media/b.bmp", text},         {"caf\xC3\xA9.xml", "<a/>"}};
+    const std::string archive = zip::WriteZip(entries);
+    EXPECT_EQ(archive, zip::WriteZip(entries));
+    zip::ZipReader reader(archive, "The archive");
     std::vector<std::string> names;
-    for (const ZipEntry& entry : entries) {
+    for (const zip::ZipEntry& entry : entries) {
         names.push_back(entry.name);
         EXPECT_EQ(reader.Read(entry.name), entry.bytes) << entry.name;
     }
@@ -84,17 +84,18 @@ TEST(ZipWriter, GivesBackEveryFileInItsOrder) {
     // One picture is stored as it is; everything else that can be packed is.
     EXPECT_GT(archive.size(), text.size());
     EXPECT_LT(archive.size(), text.size() + noise.size() + 3000);
-    EXPECT_EQ(ZipReader(WriteZip({}) + "", "Nothing").Names().size(), 0u);
+    EXPECT_EQ(zip::ZipReader(zip::WriteZip({}) + "", "Nothing").Names().size(), 0u);
 }
 
 TEST(ZipWriter, RefusesWhatThePlainFormatCannotHold) {
-    const std::vector<ZipEntry> many(65'535, ZipEntry{"a", ""});
-    EXPECT_THROW(WriteZip(many), std::length_error);
-    EXPECT_THROW(WriteZip(std::vector<ZipEntry>{{std::string(70'000, 'n'), ""}}), std::length_error);
+    const std::vector<zip::ZipEntry> many(65'535, zip::ZipEntry{"a", ""});
+    EXPECT_THROW(zip::WriteZip(many), std::length_error);
+    EXPECT_THROW(zip::WriteZip(std::vector<zip::ZipEntry>{{std::string(70'000, 'n'), ""}}),
+                 std::length_error);
     const std::string small = "x";
     // The size is looked at before any of the bytes are.
     const std::string_view huge(small.data(), std::size_t{1} << 32);
-    EXPECT_THROW(WriteZip(std::vector<ZipEntry>{{"huge.xml", huge}}), std::length_error);
+    EXPECT_THROW(zip::WriteZip(std::vector<zip::ZipEntry>{{"huge.xml", huge}}), std::length_error);
 }
 
 TEST(SaveDocx, ReplacesTheFileWithTheSamePackage) {
@@ -102,9 +103,9 @@ TEST(SaveDocx, ReplacesTheFileWithTheSamePackage) {
     const auto document = test::SampleDocument();
     const fs::path file = folder / "Smith - 1 Any Street_QMF.docx";
     quillmark::test::WriteBytes(file, "an older one");
-    SaveDocx(*document, file);
-    EXPECT_EQ(quillmark::test::ReadBytes(file), WriteDocx(*document));
-    EXPECT_EQ(WriteDocx(*document), WriteDocx(*test::SampleDocument()));
+    write::SaveDocx(*document, file);
+    EXPECT_EQ(quillmark::test::ReadBytes(file), write::WriteDocx(*document));
+    EXPECT_EQ(write::WriteDocx(*document), write::WriteDocx(*test::SampleDocument()));
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 1);
 }
 
@@ -113,7 +114,7 @@ TEST(SaveDocx, FailsWithTheNumbersOfTheModel) {
     const auto document = test::SampleDocument();
     const auto numberFor = [&](const fs::path& file) {
         try {
-            SaveDocx(*document, file);
+            write::SaveDocx(*document, file);
         } catch (const AutomationError& failure) {
             EXPECT_NE(std::string(failure.what()).find(file.filename().string()), std::string::npos)
                 << failure.what();

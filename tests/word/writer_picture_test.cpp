@@ -2,9 +2,9 @@
 
 #include <random>
 
-#include "word/automation.h"
-#include "word/docx/picture_size.h"
-#include "word/docx/pictures.h"
+#include "word/docx/objects/picture_size.h"
+#include "word/docx/objects/pictures.h"
+#include "word/seam/automation.h"
 #include "word/writer_samples.h"
 
 namespace quillmark::word::docx {
@@ -66,7 +66,7 @@ TEST(PictureSize, ReadsPixelsAndResolutionOfEachKind) {
         {Bmp(33, -10, 1, 3780), "bmp", 33, 10, 314286, 95238},
     };
     for (const Case& row : cases) {
-        const PictureSize size = ReadPictureSize(row.bytes);
+        const objects::PictureSize size = objects::ReadPictureSize(row.bytes);
         EXPECT_EQ(size.extension, row.extension);
         EXPECT_EQ(size.width, row.width);
         EXPECT_EQ(size.height, row.height);
@@ -80,10 +80,10 @@ TEST(PictureSize, DescriptionOfAPngReachesTheDocument) {
     const std::string text = "Description\0A caf\xE9 & its door"s;
     png.insert(png.find("IDAT") - 4,
                Big(static_cast<std::uint32_t>(text.size()), 4) + "tEXt" + text + "sum!");
-    EXPECT_EQ(ReadPictureSize(png).description, "A café & its door");
+    EXPECT_EQ(objects::ReadPictureSize(png).description, "A café & its door");
 
     const auto document = test::EmptyDocument();
-    test::Insert(*document, test::AddParagraph(*document, document->body), MakePicture(png));
+    test::Insert(*document, test::AddParagraph(*document, document->body), objects::MakePicture(png));
     const std::string xml = test::PartOf(*document, "word/document.xml");
     EXPECT_NE(xml.find(R"(<wp:docPr id="1" name="Picture 1" descr="A café &amp; its door"/>)"),
               std::string::npos)
@@ -93,10 +93,10 @@ TEST(PictureSize, DescriptionOfAPngReachesTheDocument) {
 TEST(PictureSize, EveryTornPictureIsRefused) {
     for (const std::string& whole :
          {test::PngBytes(4, 4), PngWithResolution(4, 4, 3780, 1), Jpeg(4, 4, 1, 96), Bmp(4, 4, 24, 0)}) {
-        EXPECT_NO_THROW(ReadPictureSize(whole));
+        EXPECT_NO_THROW(objects::ReadPictureSize(whole));
         for (std::size_t length = 0; length < whole.size(); ++length) {
             const std::string torn = whole.substr(0, length);
-            EXPECT_THROW(ReadPictureSize(torn), AutomationError)
+            EXPECT_THROW(objects::ReadPictureSize(torn), AutomationError)
                 << whole.substr(0, 4) << " of " << length << " bytes";
         }
     }
@@ -110,7 +110,7 @@ TEST(PictureSize, DamagedPicturesAreReadOrRefused) {
             for (int n = 0; n < 3; ++n)
                 damaged[2 + random() % (damaged.size() - 2)] = static_cast<char>(random());
             try {
-                const PictureSize size = ReadPictureSize(damaged);
+                const objects::PictureSize size = objects::ReadPictureSize(damaged);
                 ASSERT_GT(std::min(size.WidthEmu(), size.HeightEmu()), 0) << round;
             } catch (const AutomationError&) {
             }
@@ -129,7 +129,7 @@ TEST(PictureSize, RefusesOtherFilesAndImpossibleSizes) {
                                   "\xFF\xD8" + std::string(40, 'j')};
     for (const std::string& bytes : broken) {
         try {
-            ReadPictureSize(bytes);
+            objects::ReadPictureSize(bytes);
             ADD_FAILURE() << "accepted " << bytes.substr(0, 4);
         } catch (const AutomationError& refusal) {
             EXPECT_EQ(refusal.number(), error::kFileDamaged);

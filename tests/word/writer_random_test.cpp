@@ -4,8 +4,8 @@
 #include <pugixml.hpp>
 #include <random>
 
-#include "word/docx/document_writer.h"
-#include "word/docx/package_check.h"
+#include "word/docx/check/package_check.h"
+#include "word/docx/write/document_writer.h"
 #include "word/writer_samples.h"
 
 namespace quillmark::word::docx {
@@ -170,9 +170,9 @@ struct TextWalker : pugi::xml_tree_walker {
 TEST(RandomDocuments, AreGoodPackagesThatSayWhatTheModelSays) {
     for (unsigned seed = 1; seed <= 150; ++seed) {
         const auto document = RandomDocument(seed).Build();
-        const std::string package = WriteDocx(*document);
-        ASSERT_THAT(CheckPackage(package), ::testing::IsEmpty()) << "seed " << seed;
-        ASSERT_EQ(package, WriteDocx(*RandomDocument(seed).Build())) << "seed " << seed;
+        const std::string package = write::WriteDocx(*document);
+        ASSERT_THAT(check::CheckPackage(package), ::testing::IsEmpty()) << "seed " << seed;
+        ASSERT_EQ(package, write::WriteDocx(*RandomDocument(seed).Build())) << "seed " << seed;
 
         std::string expected, written;
         for (const Block& block : document->body) {

@@ -1,8 +1,8 @@
 #include "writer_samples.h"
 
-#include "word/docx/document_writer.h"
-#include "word/docx/zip_reader.h"
-#include "word/docx/zip_writer.h"
+#include "word/docx/write/document_writer.h"
+#include "word/docx/zip/zip_reader.h"
+#include "word/docx/zip/zip_writer.h"
 
 namespace quillmark::word::docx::test {
 
@@ -140,20 +140,20 @@ std::unique_ptr<Document> SampleDocument() {
 }
 
 Parts Unzip(const std::string& package) {
-    ZipReader zip(package, "The package");
+    zip::ZipReader zip(package, "The package");
     Parts parts;
     for (const std::string& name : zip.Names()) parts[name] = zip.Read(name);
     return parts;
 }
 
 std::string Zip(const Parts& parts) {
-    std::vector<ZipEntry> entries;
+    std::vector<zip::ZipEntry> entries;
     for (const auto& [name, bytes] : parts) entries.push_back({name, bytes});
-    return WriteZip(entries);
+    return zip::WriteZip(entries);
 }
 
 std::string PartOf(const Document& document, const std::string& name) {
-    return Unzip(WriteDocx(document)).at(name);
+    return Unzip(write::WriteDocx(document)).at(name);
 }
 
 }  // namespace quillmark::word::docx::test

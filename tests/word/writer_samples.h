@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "word/docx/document.h"
+#include "word/docx/model/document.h"
 
 /// Documents built straight from the model, and packages taken apart and put together again.
 namespace quillmark::word::docx::test {

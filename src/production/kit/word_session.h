@@ -3,7 +3,7 @@
 #include <memory>
 #include <utility>
 
-#include "word/clipboard.h"
+#include "word/seam/clipboard.h"
 #include "word/word.h"
 
 namespace quillmark {

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "word/docx/model/document.h"
+
+/// The parts beside the text: each function gives one part's whole XML.
+namespace quillmark::word::docx::write {
+
+std::string StylesPart(const Document& document);
+std::string SettingsPart(const Document& document);
+std::string NumberingPart(const Document& document);
+/// The fonts that the document's direct formatting names, with what a machine without them needs to choose
+/// one like them.
+std::string FontsPart(const Document& document);
+/// Title, author and dates: there are none, so that equal documents are equal files.
+std::string CorePropertiesPart();
+std::string ApplicationPropertiesPart();
+
+}  // namespace quillmark::word::docx::write
