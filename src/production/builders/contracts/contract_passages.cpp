@@ -31,6 +31,22 @@ void TypeBrokers(const JobValues& job, Typist& type) {
     type.TypeBold(job.BrokerNames());
 }
 
+/// Where an attorney is reached. One who practises alone has no firm, or one of the same name.
+struct Office {
+    Field attorney, firm, addr1, cityStateZip, phone, fax;
+};
+constexpr Office kOfSeller = {SellerAtty,      SellerLawfirm, SellerAttyAddr1, SellerAttyCityStateZip,
+                              SellerAttyPhone, SellerAttyFax};
+constexpr Office kOfBuyer = {BuyerAtty,      BuyerLawfirm, BuyerAttyAddr1, BuyerAttyCityStateZip,
+                             BuyerAttyPhone, BuyerAttyFax};
+
+void TypeAttorney(const JobValues& job, Typist& type, const Office& office) {
+    type.Text(job[office.attorney], ", ");
+    if (job[office.firm] != job[office.attorney]) type.Text(job[office.firm], ", ");
+    type.Text(job.OneLine(office.addr1), ", ", job[office.cityStateZip], "; telephone ", job[office.phone],
+              ", facsimile ", job[office.fax]);
+}
+
 /// A place to write in after the document is made.
 void TypeBlank(const JobValues&, Typist& type) {
     type.TextField(std::string(30, ' '));
@@ -176,6 +192,8 @@ Passages ContractPassages() {
     static constexpr auto kPassages = std::to_array<Passage>({
         {"fiduciary title",         TypeFiduciaryTitle},
         {"brokers",                 TypeBrokers},
+        {"attorney of seller", [](const JobValues& job, Typist& type) { TypeAttorney(job, type, kOfSeller); }},
+        {"attorney of buyer", [](const JobValues& job, Typist& type) { TypeAttorney(job, type, kOfBuyer); }},
         {"blank",                   TypeBlank},
         {"price table",             TypePriceTable},
         {"signatures of seller and purchaser", [](const JobValues& job, Typist& type) {
