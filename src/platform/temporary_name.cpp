@@ -2,7 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <chrono>
 #include <mutex>
+#include <optional>
 #include <random>
 #include <set>
 
@@ -14,12 +16,20 @@ namespace {
 
 constexpr std::string_view kPrefix = ".quillmark-";
 constexpr std::string_view kSuffix = ".tmp";
+/// A file just made is not held yet; where files cannot be held at all, a writer is given a day.
+constexpr std::chrono::seconds kBeforeHeld{10};
 constexpr std::chrono::hours kLongestWriting{24};
 
 bool IsTemporary(const fs::directory_entry& entry) {
     const std::string name = TextOf(entry.path().filename());
     std::error_code error;
     return name.starts_with(kPrefix) && name.ends_with(kSuffix) && entry.is_regular_file(error);
+}
+
+/// Whether its writer is gone, `age` after it was last written.
+bool IsLeftover(const fs::path& file, fs::file_time_type::duration age) {
+    const std::optional<bool> isHeld = IsBeingWritten(file);
+    return isHeld ? !*isHeld && age >= kBeforeHeld : age >= kLongestWriting;
 }
 
 bool IsFirstVisit(const fs::path& folder) {
@@ -45,8 +55,7 @@ void SweepLeftovers(const fs::path& present) {
         if (!IsTemporary(*at)) continue;
         std::error_code unreadable;
         const auto written = fs::last_write_time(at->path(), unreadable);
-        if (unreadable || now - written < kLongestWriting || IsBeingWritten(at->path())) continue;
-        fs::remove(at->path(), unreadable);
+        if (!unreadable && IsLeftover(at->path(), now - written)) fs::remove(at->path(), unreadable);
     }
 }
 

@@ -111,13 +111,13 @@ TEST(ReplaceFile, AReaderNeverSeesATornFileWhileAWriterIsKilled) {
 TEST(ReplaceFile, SweepsWhatDeadWritersLeftAndNothingElse) {
     using namespace std::chrono_literals;
     const ScratchFolder folder;
-    const auto left = [&](const char* name, std::chrono::hours age) {
+    const auto left = [&](const char* name, std::chrono::seconds age) {
         WriteBytes(folder / name, "half");
         fs::last_write_time(folder / name, fs::file_time_type::clock::now() - age);
         return folder / name;
     };
-    const fs::path dead = left(".quillmark-0123456789abcdef.tmp", 25h);
-    const fs::path recent = left(".quillmark-1123456789abcdef.tmp", 23h);
+    const fs::path dead = left(".quillmark-0123456789abcdef.tmp", 1min);
+    const fs::path recent = left(".quillmark-1123456789abcdef.tmp", 1s);
     const fs::path held = left(".quillmark-2123456789abcdef.tmp", 50h);
     const fs::path other = left("quillmark-3123456789abcdef.tmp", 50h);
     {
@@ -127,6 +127,26 @@ TEST(ReplaceFile, SweepsWhatDeadWritersLeftAndNothingElse) {
     EXPECT_FALSE(fs::exists(dead));
     EXPECT_TRUE(fs::exists(recent) && fs::exists(held) && fs::exists(other));
     EXPECT_EQ(FilesIn(folder.path()), 4u);
+}
+
+mode_t ModeOf(const fs::path& file) {
+    struct stat status = {};
+    EXPECT_EQ(stat(file.c_str(), &status), 0);
+    return status.st_mode & 0777;
+}
+
+TEST(ReplaceFile, WhoeverSharesTheFolderSharesTheFile) {
+    const ScratchFolder folder;
+    fs::permissions(folder.path(), fs::perms(02775));
+    const mode_t before = umask(077);
+    ReplaceFile(folder / "Smith.dat", "new");
+    const FileLock lock(folder / "Access.lok");
+    EXPECT_EQ(ModeOf(folder / "Smith.dat"), 0660u);
+    EXPECT_EQ(ModeOf(folder / "Access.lok"), 0660u);
+    fs::permissions(folder.path(), fs::perms(0755));
+    ReplaceFile(folder / "Jones.dat", "new");
+    EXPECT_EQ(ModeOf(folder / "Jones.dat"), 0600u) << "a folder that the group may not write is not shared";
+    umask(before);
 }
 
 TEST(ReplaceFile, WhatTheUserMayNotWriteIsNotReplaced) {

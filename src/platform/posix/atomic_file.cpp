@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <utility>
 
+#include "platform/posix/shared_folder.h"
 #include "platform/temporary_name.h"
 
 namespace quillmark {
@@ -62,9 +63,16 @@ class TemporaryFile {
         if (!path_.empty() && file_.IsOpen()) ::unlink(path_.c_str());
     }
 
-    void SetMode(mode_t mode) {
-        if (::fchmod(file_.Descriptor(), mode) != 0) Fail();
+    /// Owner and rights of the file that it replaces. Another's file cannot be given back to its owner by
+    /// everyone, and is then shared by its group alone.
+    void TakeOver(const struct stat& old) {
+        if (::fchown(file_.Descriptor(), old.st_uid, old.st_gid) != 0 &&
+            ::fchown(file_.Descriptor(), static_cast<uid_t>(-1), old.st_gid) != 0 && errno != EPERM) {
+            Fail();
+        }
+        if (::fchmod(file_.Descriptor(), old.st_mode & 07777) != 0) Fail();
     }
+    void Share() { ShareWithGroup(file_.Descriptor(), target_.parent_path()); }
 
     void Write(std::string_view bytes) {
         while (!bytes.empty()) {
@@ -118,10 +126,10 @@ int RenameInOneStep(const fs::path& file, const fs::path& newFile) {
 
 }  // namespace
 
-bool IsBeingWritten(const fs::path& temporary) {
+std::optional<bool> IsBeingWritten(const fs::path& temporary) {
     const File file(temporary, O_RDONLY | O_NOFOLLOW);
     struct flock other = WholeFile(F_RDLCK);
-    if (!file.IsOpen() || ::fcntl(file.Descriptor(), F_OFD_GETLK, &other) != 0) return true;
+    if (!file.IsOpen() || ::fcntl(file.Descriptor(), F_OFD_GETLK, &other) != 0) return std::nullopt;
     return other.l_type != F_UNLCK;
 }
 
@@ -134,7 +142,11 @@ void ReplaceFile(const fs::path& file, std::string_view bytes) {
     if (exists && ::access(target.c_str(), W_OK) != 0) throw FileError(target, LastError());
 
     TemporaryFile temporary(target);
-    if (exists) temporary.SetMode(old.st_mode & 07777);
+    if (exists) {
+        temporary.TakeOver(old);
+    } else {
+        temporary.Share();
+    }
     temporary.Write(bytes);
     temporary.Replace();
     FlushFolder(target.parent_path());

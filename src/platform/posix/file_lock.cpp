@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "platform/atomic_file.h"
+#include "platform/posix/shared_folder.h"
 
 namespace quillmark {
 namespace {
@@ -26,6 +27,16 @@ bool TryLock(int descriptor) {
     return ::fcntl(descriptor, F_OFD_SETLK, &whole) == 0;
 }
 
+/// The file, made if there is none and then shared with those who share its folder.
+int Open(const std::filesystem::path& file) {
+    const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (descriptor >= 0) {
+        ShareWithGroup(descriptor, file.parent_path());
+        return descriptor;
+    }
+    return ::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+}
+
 }  // namespace
 
 struct FileLock::Handle {
@@ -37,7 +48,7 @@ struct FileLock::Handle {
 
 FileLock::FileLock(const std::filesystem::path& file, const KeepWaiting& keepWaiting,
                    std::chrono::milliseconds pause)
-    : handle_(new Handle{::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666)}) {
+    : handle_(new Handle{Open(file)}) {
     if (handle_->descriptor < 0) throw FileError(file, LastError());
     while (!TryLock(handle_->descriptor)) {
         if (errno == EINTR) continue;

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "platform/atomic_file.h"
@@ -46,24 +47,57 @@ bool WriteAll(const File& file, std::string_view bytes) {
     return FlushFileBuffers(file.Handle()) != 0;
 }
 
-/// Keeps the old file's rights, attributes and streams where there is one.
-bool MoveOnto(const fs::path& temporary, const fs::path& target) {
-    if (ReplaceFileW(target.c_str(), temporary.c_str(), nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr,
-                     nullptr)) {
+bool Exists(const fs::path& file) {
+    return GetFileAttributesW(file.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+/// Where the old file stands for a moment, and for good if neither of both can be brought back: beside the
+/// file, under a name that tells whose it is.
+fs::path FormerOf(const fs::path& target) {
+    fs::path former = target;
+    former += L".former";
+    return former;
+}
+
+/// After a replacement that stopped half-way (ERROR_UNABLE_TO_MOVE_REPLACEMENT and its kin): the new file
+/// takes the name, or else the old one takes it back.
+bool Recover(const fs::path& temporary, const fs::path& target, const fs::path& former) {
+    if (Exists(target)) return false;
+    if (MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH)) {
+        DeleteFileW(former.c_str());
         return true;
     }
-    return GetLastError() == ERROR_FILE_NOT_FOUND &&
-           MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH);
+    MoveFileExW(former.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH);
+    return false;
+}
+
+/// Keeps the old file's owner, rights, attributes and streams where there is one.
+bool MoveOnto(const fs::path& temporary, const fs::path& target) {
+    const fs::path former = FormerOf(target);
+    if (ReplaceFileW(target.c_str(), temporary.c_str(), former.c_str(), REPLACEFILE_IGNORE_MERGE_ERRORS,
+                     nullptr, nullptr)) {
+        DeleteFileW(former.c_str());
+        return true;
+    }
+    const DWORD error = GetLastError();
+    if (error == ERROR_FILE_NOT_FOUND)
+        return MoveFileExW(temporary.c_str(), target.c_str(), MOVEFILE_WRITE_THROUGH) != 0;
+    if (Recover(temporary, target, former)) return true;
+    SetLastError(error);
+    return false;
 }
 
 }  // namespace
 
 /// Writers share their file with nobody.
-bool IsBeingWritten(const fs::path& temporary) {
-    return !File(temporary, GENERIC_READ, 0, OPEN_EXISTING).IsOpen();
+std::optional<bool> IsBeingWritten(const fs::path& temporary) {
+    if (File(temporary, GENERIC_READ, 0, OPEN_EXISTING).IsOpen()) return false;
+    if (GetLastError() == ERROR_SHARING_VIOLATION) return true;
+    return std::nullopt;
 }
 
 void ReplaceFile(const fs::path& file, std::string_view bytes) {
+    const bool hadFormer = Exists(file);
     const fs::path temporary = file.parent_path() / TemporaryName();
     File out(temporary, GENERIC_WRITE, 0, CREATE_NEW);
     if (!out.IsOpen()) throw FileError(file, LastError());
@@ -76,7 +110,8 @@ void ReplaceFile(const fs::path& file, std::string_view bytes) {
         error = LastError();
     }
     if (done) return;
-    DeleteFileW(temporary.c_str());
+    // Where the old file is gone as well, the new one is the only copy.
+    if (!hadFormer || Exists(file) || Exists(FormerOf(file))) DeleteFileW(temporary.c_str());
     throw FileError(file, error);
 }
 
