@@ -8,6 +8,7 @@
 #include "platform/code_page.h"
 #include "platform/paths.h"
 #include "platform/record_file.h"
+#include "platform/shared_file.h"
 #include "selection/document_catalogue.h"
 #include "selection/package_lines.h"
 
@@ -108,16 +109,19 @@ std::vector<std::string> PackageDocuments(const std::filesystem::path& programFo
 void SavePackage(const std::filesystem::path& programFolder, const Package& package,
                  std::string_view replaces) {
     const auto file = FileIn(programFolder);
-    std::string bytes = BytesOf(file);
-    if (!replaces.empty()) bytes = WithoutPackage(bytes, replaces);
-    if (PackagesOf(TextOf(file), bytes).Find(package.name))
-        throw PackageError(fmt::format("There is already a package \"{}\".", package.name));
-    ReplaceFile(file, WithPackage(bytes, package));
+    ChangeSharedFile(file, kLimit, [&](const std::optional<std::string>& present) {
+        std::string bytes = present.value_or("");
+        if (!replaces.empty()) bytes = WithoutPackage(bytes, replaces);
+        if (PackagesOf(TextOf(file), bytes).Find(package.name))
+            throw PackageError(fmt::format("There is already a package \"{}\".", package.name));
+        return WithPackage(bytes, package);
+    });
 }
 
 void DeletePackage(const std::filesystem::path& programFolder, std::string_view name) {
-    const auto file = FileIn(programFolder);
-    ReplaceFile(file, WithoutPackage(ReadFile(file, kLimit), name));
+    ChangeSharedFile(FileIn(programFolder), kLimit, [&](const std::optional<std::string>& present) {
+        return present ? std::optional(WithoutPackage(*present, name)) : std::nullopt;
+    });
 }
 
 std::string PackageLine(std::string_view name) {

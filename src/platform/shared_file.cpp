@@ -1,0 +1,40 @@
+#include "platform/shared_file.h"
+
+#include "platform/atomic_file.h"
+
+namespace quillmark {
+
+namespace {
+
+std::optional<std::string> Present(const std::filesystem::path& file, std::size_t limit) {
+    try {
+        return ReadFile(file, limit);
+    } catch (const FileError& failure) {
+        if (failure.kind != FileError::Kind::NotFound) throw;
+        return std::nullopt;
+    }
+}
+
+/// Out of sight among the files that a user knows.
+std::filesystem::path LockOf(const std::filesystem::path& file) {
+    std::filesystem::path name = ".";
+    name += file.filename();
+    name += ".lok";
+    return file.parent_path() / name;
+}
+
+}  // namespace
+
+void ChangeSharedFile(
+    const std::filesystem::path& file, std::size_t limit,
+    const std::function<std::optional<std::string>(const std::optional<std::string>&)>& change,
+    const FileLock::KeepWaiting& keepWaiting) {
+    const FileLock lock(LockOf(file), keepWaiting);
+    const std::optional<std::string> content = change(Present(file, limit));
+    if (!content) return;
+    if (content->size() > limit)
+        throw FileError(file, FileError::Kind::TooLarge, "would be larger than any file of this kind");
+    ReplaceFile(file, *content);
+}
+
+}  // namespace quillmark
