@@ -8,6 +8,34 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
 endif()
 target_include_directories(quillmark_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 
+# Half of the time of compiling goes into headers that are the same for all: they are compiled once. A compiler cache
+# does that work in its own way, and cannot do both.
+set(precompiled_default ON)
+if(CMAKE_CXX_COMPILER_LAUNCHER)
+  set(precompiled_default OFF)
+endif()
+option(QUILLMARK_PRECOMPILED "Compile common headers once, beforehand" ${precompiled_default})
+
+# quillmark_precompile(TARGET HEADER...): compiles these headers, named as in an #include line, for TARGET and for those
+# that share them.
+function(quillmark_precompile target)
+  if(QUILLMARK_PRECOMPILED)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
+# quillmark_share_precompiled(TARGET OWNER): what was compiled beforehand for OWNER is used for TARGET too, which must be
+# compiled with the same options.
+function(quillmark_share_precompiled target owner)
+  if(QUILLMARK_PRECOMPILED)
+    target_precompile_headers(${target} REUSE_FROM ${owner})
+  endif()
+endfunction()
+
+set(quillmark_common_headers
+    <algorithm> <array> <chrono> <filesystem> <functional> <map> <memory> <optional> <set> <span> <stdexcept> <string>
+    <string_view> <unordered_map> <utility> <variant> <vector> <fmt/format.h>)
+
 # quillmark_folder(NAME [USES folder...] [LIBRARIES target...] [PRIVATE_LIBRARIES target...])
 # One static library of all sources below the current folder, which may use the named folders and libraries.
 function(quillmark_folder name)
@@ -17,6 +45,11 @@ function(quillmark_folder name)
   list(TRANSFORM ARG_USES PREPEND quillmark_)
   target_link_libraries(quillmark_${name} PUBLIC quillmark_options ${ARG_USES} ${ARG_LIBRARIES}
                                           PRIVATE ${ARG_PRIVATE_LIBRARIES})
+  if(name STREQUAL "platform")
+    quillmark_precompile(quillmark_platform ${quillmark_common_headers})
+  else()
+    quillmark_share_precompiled(quillmark_${name} quillmark_platform)
+  endif()
 endfunction()
 
 # quillmark_tests(FOLDER [LIBRARIES target...])
@@ -27,5 +60,6 @@ function(quillmark_tests folder)
   add_executable(${folder}_tests ${sources})
   target_link_libraries(${folder}_tests PRIVATE quillmark_${folder} quillmark_test_support ${ARG_LIBRARIES})
   target_compile_definitions(${folder}_tests PRIVATE QUILLMARK_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+  quillmark_share_precompiled(${folder}_tests quillmark_test_support)
   gtest_discover_tests(${folder}_tests TEST_PREFIX "${folder}." DISCOVERY_TIMEOUT 60)
 endfunction()

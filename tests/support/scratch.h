@@ -8,7 +8,7 @@ namespace quillmark::test {
 
 /// A folder of its own below the system's temporary folder, gone with the object.
 class ScratchFolder {
-   public:
+ public:
     ScratchFolder();
     ~ScratchFolder();
     ScratchFolder(const ScratchFolder&) = delete;
@@ -17,7 +17,7 @@ class ScratchFolder {
     const std::filesystem::path& path() const { return path_; }
     std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
 
-   private:
+ private:
     std::filesystem::path path_;
 };
 
