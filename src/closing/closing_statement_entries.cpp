@@ -57,14 +57,6 @@ OtherAdjustment ReadOtherAdjustment(const std::string& text) {
     return {AmountBefore(text, kHyphenThenEquals), RightTrimmed(text).ends_with('P')};
 }
 
-/// The charge of the release tracking service for one payoff. Where the payoff holds the recording fee
-/// already, that decides even if the releasor is the electronic registry (the equals sign).
-double ReleaseFee(std::string_view payoff) {
-    if (payoff.ends_with(" R")) return 40;
-    if (payoff.find(" =") != std::string_view::npos) return 199;
-    return payoff.ends_with(" T") ? 100 : 0;
-}
-
 std::optional<std::chrono::year_month_day> ReadProrationDate(const Job& job) {
     if (!job.IsFilled(kProrationDate)) return std::nullopt;
     const auto date = ReadDate(job.D(kProrationDate));
@@ -105,6 +97,12 @@ void ReadDisbursements(const Job& job, ClosingStatementEntries& entries) {
 }
 
 }  // namespace
+
+double ReleaseFee(std::string_view payoff) {
+    if (payoff.ends_with(" R")) return 40;
+    if (payoff.find(" =") != std::string_view::npos) return 199;
+    return payoff.ends_with(" T") ? 100 : 0;
+}
 
 NotADate::NotADate(std::string_view text)
     : NotANumber(text), message_(fmt::format("the proration date \"{}\" is not a date", text)) {}

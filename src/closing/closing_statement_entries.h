@@ -67,4 +67,9 @@ struct ClosingStatementEntries {
 /// NotADate.
 ClosingStatementEntries ReadClosingStatementEntries(const Job& job);
 
+/// The charge of the release tracking service for one payoff, by the tag of its amount; 0 without a tag.
+/// Where the payoff holds the recording fee already, that decides even if the releasor is the electronic
+/// registry (the equals sign).
+double ReleaseFee(std::string_view payoff);
+
 }  // namespace quillmark

@@ -140,7 +140,10 @@ Value RecordingWord::Call(const std::string& path, const std::string& member, Ar
     Paragraph& paragraph = paragraphs_.back();
     if (full == "Selection.TypeText") {
         TypeText(std::get<std::string>(arguments.front().value));
-    } else if (full == "Selection.InsertBreak" && Number(arguments.front().value) == word::PageBreak) {
+    } else if (full == "Selection.TypeBackspace") {
+        paragraph.runs.back().second.pop_back();
+    } else if (full == "Selection.InsertBreak" &&
+               arguments.front().value == Value(static_cast<std::int32_t>(word::PageBreak))) {
         TypeText("\f");
     } else if (full == "Selection.Paste") {
         TypeText("{" + clipboard_->picture() + "}");

@@ -33,18 +33,6 @@ void TypeTwoParties(const JobValues& job, Typist& type, const Party& first, cons
     }
 }
 
-void TypeFiduciaryCapacity(const JobValues& job, Typist& type) {
-    const std::string& fiduciary = job[FiduciaryType];
-    if (fiduciary == "Testamentary Trustee" || fiduciary == "Trustee") {
-        type.Text(", duly qualified and authorized Trustee of the ", job[TrustInstrument]);
-    } else if (fiduciary == "Conservator") {
-        type.Text(", duly qualified and authorized Conservator of the Estate of ", job[ConservedParty],
-                  ", an incapable person");
-    } else {
-        type.Text(", duly qualified and authorized ", fiduciary, " of the Estate of ", job[Decedent]);
-    }
-}
-
 void TypeTenancy(const JobValues& job, Typist& type) {
     const std::string tenancy = Lowered(job[TenancyType]);
     if (tenancy == "joint tenants wros") {
@@ -60,6 +48,18 @@ void TypeTenancy(const JobValues& job, Typist& type) {
 }
 
 }  // namespace
+
+void TypeFiduciaryCapacity(const JobValues& job, Typist& type) {
+    const std::string& fiduciary = job[FiduciaryType];
+    if (fiduciary == "Testamentary Trustee" || fiduciary == "Trustee") {
+        type.Text(", duly qualified and authorized Trustee of the ", job[TrustInstrument]);
+    } else if (fiduciary == "Conservator") {
+        type.Text(", duly qualified and authorized Conservator of the Estate of ", job[ConservedParty],
+                  ", an incapable person");
+    } else {
+        type.Text(", duly qualified and authorized ", fiduciary, " of the Estate of ", job[Decedent]);
+    }
+}
 
 void TypeGrantorPhrase(const JobValues& job, Typist& type, Names names) {
     if (job.Has(TwoSellers)) {

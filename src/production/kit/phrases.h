@@ -13,6 +13,10 @@ enum class Tenancy { Unsaid, Said };
 /// Estate / Trust a single seller's capacity too.
 void TypeGrantorPhrase(const JobValues& job, Typist& type, Names names);
 
+/// The capacity of a fiduciary seller, ", duly qualified and authorized Executor of ...", by the fiduciary
+/// type.
+void TypeFiduciaryCapacity(const JobValues& job, Typist& type);
+
 /// The buyers with their addresses; with `Tenancy::Said` how two of them take title (C.G.S. Sec. 47-14a,
 /// 47-36a).
 void TypeGranteePhrase(const JobValues& job, Typist& type, Names names, Tenancy tenancy = Tenancy::Unsaid);
