@@ -46,6 +46,11 @@ class Computation {
         arrearsTown_ = FiscalYearOf(entries_.Town) == FiscalYear::October;
     }
 
+    double BuyersPartOfTax() {
+        CreditTax();
+        return statement_.TaxCreditSeller.figure;
+    }
+
     ClosingStatement Compute(std::string_view mode, Dialogs& dialogs) {
         CreditTax();
         CreditSewer();
@@ -172,6 +177,10 @@ void Computation::Disburse(std::string_view mode, Dialogs& dialogs) {
 ClosingStatement ComputeClosingStatement(const Job& job, const Settings& settings, std::string_view mode,
                                          Dialogs& dialogs) {
     return Computation(job, settings).Compute(mode, dialogs);
+}
+
+double BuyersPartOfTax(const Job& job, const Settings& settings) {
+    return Computation(job, settings).BuyersPartOfTax();
 }
 
 std::vector<std::pair<std::string_view, double>> FiguresByName(const ClosingStatement& statement) {

@@ -73,6 +73,10 @@ struct ClosingStatement {
 ClosingStatement ComputeClosingStatement(const Job& job, const Settings& settings, std::string_view mode,
                                          Dialogs& dialogs);
 
+/// The property tax that the seller has paid for days on which the buyer owns, as the statement credits it to
+/// the seller: the buyer's part of the tax on a Form 1099-S. Throws NotADate.
+double BuyersPartOfTax(const Job& job, const Settings& settings);
+
 /// The figures by their names, in the order of the statement.
 std::vector<std::pair<std::string_view, double>> FiguresByName(const ClosingStatement& statement);
 

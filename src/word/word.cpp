@@ -145,6 +145,9 @@ Table Tables::Add(const Range& range, int rows, int columns) const {
 void InlineShapes::AddPicture(std::string_view fileName) const {
     Call("AddPicture", {{Text(fileName)}});
 }
+void InlineShapes::AddPicture(std::string_view fileName, const Range& range) const {
+    Call("AddPicture", {{Text(fileName)}, {range.Reach(), "Range"}});
+}
 
 Range Footer::Range() const {
     return word::Range(GetObject("Range"));

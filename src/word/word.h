@@ -203,8 +203,10 @@ struct Tables : Handle {
 
 struct InlineShapes : Handle {
     InlineShapes(const Handle& owner, const char* member) : Handle(owner, member) {}
-    /// Puts the picture file (PNG, JPEG or BMP) in line with the text, kept in the document.
+    /// Puts the picture file (PNG, JPEG or BMP) in line with the text, kept in the document: at the insertion
+    /// point, or in the place of a range such as an empty table cell's.
     void AddPicture(std::string_view fileName) const;
+    void AddPicture(std::string_view fileName, const Range& range) const;
 };
 
 struct PageNumbers : Handle {

@@ -138,29 +138,52 @@ TEST(Builders, UnfilledJobShowsMarkersOnly) {
     }
 }
 
-/// The text of a paragraph, with its form fields in braces as RecordingWord shows them.
+/// What stands in a paragraph in place of a character, in braces as RecordingWord shows it.
+struct ObjectText {
+    std::string operator()(const word::docx::FormFieldData& field) const {
+        if (field.isCheckBox) return field.checked ? "{x}" : "{ }";
+        return "{" + field.result + "}";
+    }
+    std::string operator()(const word::docx::Picture& picture) const {
+        return "{" + picture.description + "}";
+    }
+    template <class Other>
+    std::string operator()(const Other&) const {
+        return "{?}";
+    }
+};
+
 std::string ParagraphText(const word::docx::Paragraph& paragraph) {
     std::string text;
     std::size_t object = 0;
     for (const char c : paragraph.text) {
-        const auto* field = c == word::docx::character::kObject
-                                ? std::get_if<word::docx::FormFieldData>(&paragraph.objects.at(object++))
-                                : nullptr;
-        if (field && field->isCheckBox) {
-            text += field->checked ? "{x}" : "{ }";
+        if (c == word::docx::character::kObject) {
+            text += std::visit(ObjectText{}, paragraph.objects.at(object++));
         } else {
-            text += field ? "{" + field->result + "}" : std::string(1, c);
+            text += c;
         }
     }
     return text;
 }
 
-/// The paragraphs of the embedded engine's document, one a line.
+/// A cell's paragraphs are parted by "\r"; a cell joined to the one before it has none.
+std::string CellText(const word::docx::TableCell& cell) {
+    std::string text;
+    for (const word::docx::Block& block : cell.blocks)
+        text += (text.empty() ? "" : "\r") + ParagraphText(std::get<word::docx::Paragraph>(block));
+    return text;
+}
+
+/// The paragraphs and table cells of the embedded engine's document, one a line.
 std::string EngineText(const word::docx::Document& document) {
     std::string text;
     for (const word::docx::Block& block : document.body) {
-        if (const auto* paragraph = std::get_if<word::docx::Paragraph>(&block))
+        if (const auto* paragraph = std::get_if<word::docx::Paragraph>(&block)) {
             text += ParagraphText(*paragraph) + "\n";
+        } else if (const auto* table = std::get_if<std::unique_ptr<word::docx::Table>>(&block)) {
+            for (const word::docx::TableRow& row : (*table)->rows)
+                for (const word::docx::TableCell& cell : row.cells) text += CellText(cell) + "\n";
+        }
     }
     return text;
 }

@@ -5,6 +5,10 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/paths.h"
+#include "support/scratch.h"
+#include "word/docx/objects/picture_size.h"
+
 namespace quillmark::test {
 
 using word::Argument;
@@ -114,6 +118,7 @@ void RecordingWord::Put(const std::string& path, const Value& value) {
     if (font == "Name") characters_.font = std::get<std::string>(value);
     if (font == "Size") characters_.size = Number(value);
     if (font == "Bold") characters_.bold = std::get<bool>(value);
+    if (font == "Superscript") characters_.superscript = std::get<bool>(value);
     if (font == "Italic") characters_.italic = std::get<bool>(value);
     if (font == "Underline") characters_.underline = static_cast<int>(Number(value));
     if (path == "Selection.ParagraphFormat.Alignment") paragraph.alignment = static_cast<int>(Number(value));
@@ -121,7 +126,11 @@ void RecordingWord::Put(const std::string& path, const Value& value) {
     if (path == "Selection.Paragraphs.SpaceAfter") paragraph.spaceAfter = Number(value);
     if (path == "Selection.Paragraphs.LineSpacing") paragraph.lineSpacing = Number(value);
     if (path.ends_with(".Result")) TypeText("{" + std::get<std::string>(value) + "}");
-    if (path.ends_with(".CheckBox.Value")) TypeText(std::get<bool>(value) ? "{x}" : "{ }");
+    constexpr std::string_view kTick = ".CheckBox.Value";
+    if (path.ends_with(kTick))
+        TypeAt(fieldRanges_[path.substr(0, path.size() - kTick.size())],
+               std::get<bool>(value) ? "{x}" : "{ }");
+    if (path.ends_with(").Range.Text")) TypeAt(path.substr(0, path.size() - 5), std::get<std::string>(value));
     if (path == "Selection.Paragraphs.LeftIndent") paragraph.left = Number(value);
     if (path == "Selection.Paragraphs.RightIndent") paragraph.right = Number(value);
 }
@@ -142,9 +151,16 @@ Value RecordingWord::Call(const std::string& path, const std::string& member, Ar
         TypeText(std::get<std::string>(arguments.front().value));
     } else if (full == "Selection.TypeBackspace") {
         paragraph.runs.back().second.pop_back();
-    } else if (full == "Selection.InsertBreak" &&
-               arguments.front().value == Value(static_cast<std::int32_t>(word::PageBreak))) {
-        TypeText("\f");
+    } else if (full == "Selection.InsertBreak") {
+        // A section break ends the paragraph that it stands in.
+        TypeText(arguments.front().value == Value(static_cast<std::int32_t>(word::PageBreak)) ? "\f" : "\r");
+    } else if (full == "Selection.PageSetup.TextColumns.SetCount") {
+        paragraph.columns = static_cast<int>(Number(arguments.front().value));
+    } else if (member == "AddPicture") {
+        const std::string bytes = ReadBytes(PathOf(std::get<std::string>(arguments.front().value)));
+        const auto* range = arguments.size() > 1 ? std::get_if<ObjectPtr>(&arguments[1].value) : nullptr;
+        TypeAt(range ? static_cast<const Node&>(**range).path() : "Selection.Range",
+               "{" + word::docx::objects::ReadPictureSize(bytes).description + "}");
     } else if (full == "Selection.Paste") {
         TypeText("{" + clipboard_->picture() + "}");
     } else if (full == "Selection.Paragraphs.TabStops.Add") {
@@ -153,6 +169,9 @@ Value RecordingWord::Call(const std::string& path, const std::string& member, Ar
         ClearTab(path);
     } else if (full == "Selection.Range.ListFormat.ApplyListTemplate") {
         paragraph.list = static_cast<const Node&>(*std::get<ObjectPtr>(arguments.front().value)).path();
+        paragraph.left = 18;
+    } else if (full == "Selection.Range.ListFormat.ApplyBulletDefault") {
+        paragraph.list = "bullets";
         paragraph.left = 18;
     } else if (full == "Selection.Range.ListFormat.RemoveNumbers") {
         paragraph.list.clear();
@@ -163,9 +182,20 @@ Value RecordingWord::Call(const std::string& path, const std::string& member, Ar
     } else if (full == "Selection.Range.ListFormat.ListOutdent") {
         --paragraph.level;
     }
+    if (member == "Merge")
+        MergeCells(path, static_cast<const Node&>(*std::get<ObjectPtr>(arguments.front().value)).path());
+    if (member == "Cell")
+        return Child(
+            fmt::format("{}.Cell({}, {})", path, Shown(arguments[0].value), Shown(arguments[1].value)));
     if (member != "Add" || path.ends_with("TabStops")) return {};
     if (path == "Application.Documents") return Child("ActiveDocument");
-    return Child(fmt::format("{}({})", path, ++added_[path]));
+    const std::string added = fmt::format("{}({})", path, ++added_[path]);
+    if (path == "ActiveDocument.FormFields")
+        fieldRanges_[added] = static_cast<const Node&>(*std::get<ObjectPtr>(arguments.front().value)).path();
+    if (path == "ActiveDocument.Tables")
+        AddTable(added, static_cast<int>(Number(arguments[1].value)),
+                 static_cast<int>(Number(arguments[2].value)));
+    return Child(added);
 }
 
 void RecordingWord::ClearTab(const std::string& path) {
@@ -173,6 +203,46 @@ void RecordingWord::ClearTab(const std::string& path) {
     if (paragraphs_.back().tabs.erase(position) == 0) {
         throw AutomationError(word::error::kNoSuchElement, path);
     }
+}
+
+// A table stands in front of the empty paragraph that it was added to, which is the one before the paragraph
+// in hand.
+void RecordingWord::AddTable(const std::string& path, int rows, int columns) {
+    tables_.push_back({path, paragraphs_.size() - 2, {}});
+    tables_.back().cells.resize(static_cast<std::size_t>(rows),
+                                std::vector<std::string>(static_cast<std::size_t>(columns)));
+}
+
+std::vector<std::vector<std::string>> RecordingWord::RowsBefore(const Paragraph& paragraph) const {
+    for (const Table& table : tables_) {
+        if (&paragraphs_[table.before] == &paragraph) return table.cells;
+    }
+    return {};
+}
+
+RecordingWord::CellPlace RecordingWord::FindCell(const std::string& range) {
+    for (Table& table : tables_) {
+        const std::string cell = table.path + ".Cell(";
+        if (!range.starts_with(cell)) continue;
+        const std::size_t row = std::stoul(range.substr(cell.size()));
+        const std::size_t column = std::stoul(range.substr(range.find(", ", cell.size()) + 2));
+        return {&table.cells.at(row - 1), column - 1};
+    }
+    return {};
+}
+
+void RecordingWord::TypeAt(const std::string& range, const std::string& text) {
+    if (const CellPlace cell = FindCell(range); cell.row) {
+        cell.row->at(cell.column) = text;
+    } else {
+        TypeText(text);
+    }
+}
+
+void RecordingWord::MergeCells(const std::string& first, const std::string& last) {
+    const CellPlace from = FindCell(first);
+    from.row->erase(from.row->begin() + static_cast<std::ptrdiff_t>(from.column) + 1,
+                    from.row->begin() + static_cast<std::ptrdiff_t>(FindCell(last).column) + 1);
 }
 
 void RecordingWord::TypeText(const std::string& text) {
@@ -192,12 +262,16 @@ void RecordingWord::TypeText(const std::string& text) {
 
 bool RecordingWord::Paragraph::HasFormatOf(const Paragraph& other) const {
     return alignment == other.alignment && left == other.left && right == other.right &&
-           spaceAfter == other.spaceAfter && lineSpacing == other.lineSpacing && tabs == other.tabs;
+           spaceAfter == other.spaceAfter && lineSpacing == other.lineSpacing && tabs == other.tabs &&
+           columns == other.columns;
 }
 
 std::string RecordingWord::Text() const {
     std::string text;
     for (const Paragraph& paragraph : paragraphs_) {
+        for (const auto& row : RowsBefore(paragraph)) {
+            for (const std::string& cell : row) text += cell + '\n';
+        }
         for (const auto& run : paragraph.runs) text += run.second;
         text += '\n';
     }
@@ -212,6 +286,7 @@ std::string FormatLine(const RecordingWord::Paragraph& paragraph) {
                                    paragraph.left, paragraph.right);
     for (const double tab : paragraph.tabs) line += fmt::format(", tab stop {:g}", tab);
     if (paragraph.spaceAfter != 0) line += fmt::format(", space after {:g}", paragraph.spaceAfter);
+    if (paragraph.columns != 1) line += fmt::format(", {} columns", paragraph.columns);
     if (paragraph.lineSpacing != 12) line += fmt::format(", lines of {:g}", paragraph.lineSpacing);
     return line + "]\n";
 }
@@ -235,6 +310,7 @@ std::string Marked(const RecordingWord::Characters& look, const std::string& tex
     std::string marked = Visible(text);
     if (look.underline == word::UnderlineDouble) marked = "=" + marked + "=";
     if (look.underline != 0) marked = "=" + marked + "=";
+    if (look.superscript) marked = "^" + marked + "^";
     if (look.italic) marked = "~" + marked + "~";
     if (look.bold) marked = "*" + marked + "*";
     return marked;
@@ -262,6 +338,19 @@ class ListNumbers {
     std::array<int, 3> counts_ = {};
 };
 
+std::string TableLines(const std::vector<std::vector<std::string>>& cells) {
+    std::string lines;
+    for (const auto& row : cells) {
+        lines += "|";
+        for (std::string cell : row) {
+            std::ranges::replace(cell, '\r', '/');
+            lines += " " + cell + " |";
+        }
+        lines += '\n';
+    }
+    return lines;
+}
+
 }  // namespace
 
 std::string RecordingWord::Reading() const {
@@ -270,9 +359,14 @@ std::string RecordingWord::Reading() const {
     std::string font;
     ListNumbers numbers;
     for (const Paragraph& paragraph : paragraphs_) {
+        reading += TableLines(RowsBefore(paragraph));
         if (!before || !paragraph.HasFormatOf(*before)) reading += FormatLine(paragraph);
         before = &paragraph;
-        reading += numbers.Next(paragraph);
+        if (paragraph.list == "bullets") {
+            reading += "• ";
+        } else {
+            reading += numbers.Next(paragraph);
+        }
         for (const auto& [look, text] : paragraph.runs) {
             const std::string runFont = fmt::format("‹{} {:g}›", look.font, look.size);
             if (runFont != font) reading += runFont;

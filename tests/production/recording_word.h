@@ -18,7 +18,7 @@ class RecordingWord {
     struct Characters {
         std::string font = "Times New Roman";
         double size = 12;
-        bool bold = false, italic = false;
+        bool bold = false, italic = false, superscript = false;
         int underline = 0;
         bool operator==(const Characters&) const = default;
     };
@@ -27,6 +27,7 @@ class RecordingWord {
         double left = 0, right = 0, spaceAfter = 0, lineSpacing = 12;
         std::string list;  ///< the template it is an item of; empty for none
         int level = 1;
+        int columns = 1;  ///< of the section
         std::set<double> tabs;
         std::vector<std::pair<Characters, std::string>> runs;
         bool HasFormatOf(const Paragraph& other) const;
@@ -54,7 +55,8 @@ class RecordingWord {
     /// The document as a lawyer reads it in a diff: *bold*, ~italic~, =underlined=, ==doubly==, tabs as →,
     /// line breaks as ↵, page breaks as ‹page›, the fonts as ‹Arial 10› where they change, list items with
     /// their numbers, and a line in brackets above a paragraph whose alignment, indents or tab stops differ
-    /// from those before it.
+    /// from those before it. ^Raised^ text, boxes to tick as {x} or { }, pictures as {their description},
+    /// tables row by row between |.
     std::string Reading() const;
 
  private:
@@ -65,12 +67,31 @@ class RecordingWord {
     word::Value Child(const std::string& path);
     void TypeText(const std::string& text);
     void ClearTab(const std::string& path);
+    /// Types where the range of this path is: in a cell, or at the insertion point.
+    void TypeAt(const std::string& range, const std::string& text);
+    void AddTable(const std::string& path, int rows, int columns);
+    /// A cell by the path of its range; no row for another range.
+    struct CellPlace {
+        std::vector<std::string>* row = nullptr;
+        std::size_t column = 0;
+    };
+    CellPlace FindCell(const std::string& range);
+    /// Joins cells of one row.
+    void MergeCells(const std::string& first, const std::string& last);
+    std::vector<std::vector<std::string>> RowsBefore(const Paragraph& paragraph) const;
 
     std::map<std::string, word::Value> values_;
     std::map<std::string, int> refused_;
-    std::map<std::string, int> added_;  ///< how many each collection's Add has made
+    std::map<std::string, int> added_;                ///< how many each collection's Add has made
+    std::map<std::string, std::string> fieldRanges_;  ///< the range of each form field, by its path
     std::vector<std::string> operations_;
     std::vector<Paragraph> paragraphs_;
+    struct Table {
+        std::string path;
+        std::size_t before = 0;  ///< the paragraph behind it
+        std::vector<std::vector<std::string>> cells;
+    };
+    std::vector<Table> tables_;
     Characters characters_;
     std::shared_ptr<word::MemoryClipboard> clipboard_ = std::make_shared<word::MemoryClipboard>();
 };

@@ -61,6 +61,10 @@ void TypeVenue(const JobValues& job, Typist& type) {
     type.TypeBold("COUNTY OF ", UpperCase(job.CountyOfExecution()), "\t}", RepeatReturn(2));
 }
 
+std::string TaxIdOrLine(const JobValues& job, Field taxId) {
+    return job[taxId].empty() ? RepeatUnderscore(24) : job[taxId];
+}
+
 void TypeAcknowledgment(const JobValues& job, Typist& type, std::string_view signers, bool plural) {
     type.Text("Personally appeared ", signers);
     if (plural) {

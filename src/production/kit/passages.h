@@ -45,6 +45,9 @@ void TypeWitnesses(const JobValues& job, Typist& type, int returns);
 /// the tab stop of the signatures.
 void TypeVenue(const JobValues& job, Typist& type);
 
+/// A party's tax number; it may be left out of a job, and is then a line to write it on.
+std::string TaxIdOrLine(const JobValues& job, Field taxId);
+
 /// "Personally appeared ..." of signers who are there in person, on the document date. `signers` are named as
 /// they stand; `plural` is for more than one person.
 void TypeAcknowledgment(const JobValues& job, Typist& type, std::string_view signers, bool plural);

@@ -80,6 +80,16 @@ Signers SellerSigners(const JobValues& job, std::string_view role) {
     return signers;
 }
 
+Signers OneSellersSigner(const JobValues& job, int number, std::string_view role) {
+    Signers signers = SellerSigners(job, role);
+    signers.parties = {signers.parties.at(static_cast<std::size_t>(number) - 1)};
+    return signers;
+}
+
+std::string SellerRole(const JobValues& job, std::string_view role) {
+    return job.Has(EstateTrust) ? job[FiduciaryType] : std::string(role);
+}
+
 Signers FiduciarySigner(const JobValues& job, std::string_view role) {
     return {std::string(role), {{job[Seller1Name], {}}}, {}};
 }

@@ -36,6 +36,10 @@ SellersByPower FindSellersByPower(const JobValues& job);
 /// The sellers as they sign: two, an entity by its agent, or one; the principal of a power by the attorney in
 /// fact.
 Signers SellerSigners(const JobValues& job, std::string_view role);
+/// The first or the second seller alone, as each signs a paper that every seller gets.
+Signers OneSellersSigner(const JobValues& job, int number, std::string_view role);
+/// What stands behind the name of a seller who may be a fiduciary: the capacity of one, otherwise `role`.
+std::string SellerRole(const JobValues& job, std::string_view role);
 /// The first seller alone and in person, as a fiduciary signs.
 Signers FiduciarySigner(const JobValues& job, std::string_view role);
 Signers BuyerSigners(const JobValues& job, std::string_view role);

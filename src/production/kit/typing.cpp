@@ -74,12 +74,18 @@ void Typist::EndColumns() {
     WordSel.PageSetup.TextColumns.SetCount(1);
 }
 
-void Typist::CheckBox(bool ticked) {
-    session_.WordDoc.FormFields.Add(WordSel.Range(), word::FieldFormCheckBox).CheckBox.Value = ticked;
+void Typist::CheckBox(const word::Range& place, bool ticked) {
+    session_.WordDoc.FormFields.Add(place, word::FieldFormCheckBox).CheckBox.Value = ticked;
 }
 
 void Typist::TextField(std::string_view result) {
     session_.WordDoc.FormFields.Add(WordSel.Range(), word::FieldFormTextInput).Result = result;
+}
+
+word::Table Typist::Table(int rows, int columns) {
+    const word::Range place = WordSel.Range();
+    Text("\r");
+    return session_.WordDoc.Tables.Add(place, rows, columns);
 }
 
 void Typist::Picture(std::string_view bytes) {

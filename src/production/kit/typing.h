@@ -118,16 +118,17 @@ class Typist {
 
     // Things that are not text.
     void PageBreak() { WordSel.InsertBreak(word::PageBreak); }
-    /// A box to tick.
-    void CheckBox(bool ticked);
+    /// A box to tick, at the insertion point or in a cell that is empty.
+    void CheckBox(bool ticked) { CheckBox(WordSel.Range(), ticked); }
+    void CheckBox(const word::Cell& cell, bool ticked) { CheckBox(cell.Range, ticked); }
     /// A field to click and type over.
     void TextField(std::string_view result);
     /// A picture given as the bytes of its file, by way of the clipboard, which is empty afterwards.
     void Picture(std::string_view bytes);
-    /// A table at the insertion point, which stays before it: `Leave` it by typing behind it.
-    word::Table Table(int rows, int columns) {
-        return session_.WordDoc.Tables.Add(WordSel.Range(), rows, columns);
-    }
+    /// A table at the insertion point, which must be at the start of a paragraph. Typing goes on below it,
+    /// after the empty paragraph that a table has behind it; its cells are reached without moving the
+    /// insertion point.
+    word::Table Table(int rows, int columns);
 
     /// The word processor's major version, such as 16.
     double WordVersion() const { return session_.WordApp.Version(); }
@@ -137,6 +138,7 @@ class Typist {
 
  private:
     void TypeText(std::initializer_list<std::string_view> parts);
+    void CheckBox(const word::Range& place, bool ticked);
     void AddTab(double inches) { WordSel.Paragraphs.TabStops.Add(word::InchesToPoints(inches)); }
     void ClearTab(double inches) { WordSel.Paragraphs.TabStops.Clear(word::InchesToPoints(inches)); }
     void BeginColumns(int count, double spacingInches);

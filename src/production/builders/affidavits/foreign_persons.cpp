@@ -16,11 +16,6 @@ struct Taxpayer {
 };
 constexpr Taxpayer kTaxpayers[] = {{kSeller1, Seller1TaxId}, {kSeller2, Seller2TaxId}};
 
-/// The number may be left out of the job and be written in by hand.
-std::string TaxIdOrLine(const JobValues& job, Field taxId) {
-    return job[taxId].empty() ? RepeatUnderscore(24) : job[taxId];
-}
-
 void TypeHead(Typist& type, std::string_view transferor) {
     type.Indents(kDeedIndent);
     type.Align(word::AlignCentre);
@@ -73,15 +68,8 @@ void TypeEntityForm(const JobValues& job, Typist& type) {
     TypeSworn(job, type, SellerSigners(job, "Transferor"));
 }
 
-/// One of the sellers; the others sign a certification of their own.
-Signers OnlySigner(const JobValues& job, std::size_t index) {
-    Signers signers = SellerSigners(job, AffiantRole(job, "Transferor"));
-    signers.parties = {signers.parties.at(index)};
-    return signers;
-}
-
-void TypeIndividualForm(const JobValues& job, Typist& type, std::size_t index) {
-    const Taxpayer& transferor = kTaxpayers[index];
+void TypeIndividualForm(const JobValues& job, Typist& type, int number) {
+    const Taxpayer& transferor = kTaxpayers[number - 1];
     TypeHead(type, "INDIVIDUAL TRANSFEROR");
     type.Text("Address of Subject Property:   ");
     type.TypeBold(job.Property());
@@ -109,7 +97,7 @@ void TypeIndividualForm(const JobValues& job, Typist& type, std::size_t index) {
         "Under penalties of perjury I declare that I have read this certification and that to the best of my "
         "knowledge and belief it is true, correct and complete.",
         RepeatReturn(2));
-    TypeSworn(job, type, OnlySigner(job, index));
+    TypeSworn(job, type, OneSellersSigner(job, number, SellerRole(job, "Transferor")));
 }
 
 }  // namespace
@@ -119,7 +107,7 @@ void TypeForeignPersonsAffidavit(const JobValues& job, Typist& type, const Varia
     if (job.Has(Entity) && variant.number == 1) {
         TypeEntityForm(job, type);
     } else {
-        TypeIndividualForm(job, type, variant.number == 2 ? 1 : 0);
+        TypeIndividualForm(job, type, variant.number);
     }
 }
 

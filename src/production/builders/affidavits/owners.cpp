@@ -62,7 +62,7 @@ void TypeOwnersAffidavit(const JobValues& job, Typist& type) {
     TypeTitle(type, form.title);
     TypeOpening(job, type);
     TypeBody(form.text, job, type);
-    TypeSworn(job, type, SellerSigners(job, AffiantRole(job, "Owner")));
+    TypeSworn(job, type, SellerSigners(job, SellerRole(job, "Owner")));
 }
 
 }  // namespace quillmark

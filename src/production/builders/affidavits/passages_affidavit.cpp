@@ -4,10 +4,6 @@
 
 namespace quillmark {
 
-std::string AffiantRole(const JobValues& job, std::string_view role) {
-    return job.Has(EstateTrust) ? job[field::FiduciaryType] : std::string(role);
-}
-
 void TypeSworn(const JobValues& job, Typist& type, const Signers& signers) {
     type.AtTab(kSignatureTab, [&] {
         TypeSignatures(type, signers);

@@ -1,17 +1,11 @@
 #pragma once
 
-#include <string>
-#include <string_view>
-
 #include "production/kit/job_values.h"
 #include "production/kit/signers.h"
 #include "production/kit/typing.h"
 
 /// What the sworn statements of a closing share.
 namespace quillmark {
-
-/// What stands behind the name of a seller who swears: the capacity of a fiduciary, otherwise `role`.
-std::string AffiantRole(const JobValues& job, std::string_view role);
 
 /// The signatures and below them the oath, taken by the seller's attorney, to the end of the page.
 void TypeSworn(const JobValues& job, Typist& type, const Signers& signers);
