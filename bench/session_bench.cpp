@@ -67,13 +67,13 @@ BENCHMARK(StartToNameBox)->Unit(benchmark::kMillisecond);
 void RefreshFieldsOfFullJobList(benchmark::State& state) {
     MainScreen screen(Office().folder, Office().NewMachine());
     screen.Start();
-    SelectionState full = screen.State();
+    ScreenState full = screen.State();
     for (const std::string_view name : DocumentCatalogue()) full.List2.push_back({std::string(name), false});
     Settings settings;
     Folders folders;
     FirmDefaults defaults;
-    const quillmark::Office office{settings, folders, defaults, Office().clock, Office().dialogs};
-    for (auto _ : state) RefreshFields(full, office);
+    const FirmContext firm{settings, folders, defaults, Office().clock};
+    for (auto _ : state) RefreshFields(full, firm);
     state.counters["rows"] = static_cast<double>(full.grid.size());
 }
 BENCHMARK(RefreshFieldsOfFullJobList)->Unit(benchmark::kMicrosecond);

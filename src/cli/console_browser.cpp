@@ -44,7 +44,7 @@ Json Load(ConsoleSession& session, const Request& request) {
 
 Json SpawnJob(ConsoleSession& session, const Request& request) {
     const std::string name = request.Text("name");
-    if (session.State().ScreenMode != screen_mode::kPresets || !session.State().templateBeingSet)
+    if (session.State().mode != ScreenMode::Presets || !session.State().templateBeingSet)
         throw NotAllowed("no template is being set; cmdTemplate leads there");
     BrowserUse browser(session);
     session.SelectEntry(name);

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "cli/console_commands.h"
-#include "selection/package_editor.h"
+#include "tools/packages/package_editor.h"
 
 namespace quillmark::cli {
 
@@ -11,7 +11,8 @@ namespace {
 PackageEditor OpenEditor(ConsoleSession& session) {
     const Button& button = session.State().cmdPackages;
     if (!button.enabled || !button.visible) throw NotAllowed("cmdPackages is disabled");
-    return PackageEditor(session.State(), session.screen().OfficeAround());
+    return PackageEditor(session.State().List1, session.screen().FirmAround().folders,
+                         session.screen().Person());
 }
 
 Json NamesIn(const PackageEditor& editor) {

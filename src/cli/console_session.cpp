@@ -63,8 +63,8 @@ void ConsoleSession::Click(std::string_view button) {
 }
 
 void ConsoleSession::ShowBrowser() {
-    const bool templates = State().ScreenMode == screen_mode::kPresets;
-    browser_.emplace(screen_->OfficeFolders(), templates, dialogs_);
+    const bool templates = State().mode == ScreenMode::Presets;
+    browser_.emplace(screen_->FirmAround().folders, templates, dialogs_);
     if (browser_->IsOpen()) return;
     CloseBrowser();
     screen_->TypeName("defaults");
@@ -73,7 +73,7 @@ void ConsoleSession::ShowBrowser() {
 
 FileBrowser& ConsoleSession::OpenBrowser() {
     if (browser_) return *browser_;
-    if (!State().templateBeingSet && State().cmdOpen.caption != "OPEN")
+    if (!State().templateBeingSet && State().openDoes != OpenDoes::OpenJob)
         throw NotAllowed("a job is on the screen, cmdOpen reads " + State().cmdOpen.caption);
     Click(State().templateBeingSet ? "cmdTemplate" : "cmdOpen");
     if (!browser_) throw NotAllowed("the job folder cannot be read, the settings show its path");

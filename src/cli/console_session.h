@@ -46,7 +46,7 @@ class ConsoleSession {
     ConsoleSession(const ConsoleOrder& order, std::ostream& err);
 
     MainScreen& screen() { return *screen_; }
-    const SelectionState& State() const { return screen_->State(); }
+    const ScreenState& State() const { return screen_->State(); }
     ConsoleDialogs& dialogs() { return dialogs_; }
 
     /// The browser that stands open, null if there is none.

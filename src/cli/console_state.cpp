@@ -3,31 +3,11 @@
 #include <array>
 #include <utility>
 
+#include "session/state/buttons.h"
+
 namespace quillmark::cli {
 
 namespace {
-
-struct NamedButton {
-    const char* name;
-    Button SelectionState::*button;
-};
-
-// clang-format off
-constexpr std::array kButtons = {
-    NamedButton{"cmdOpen",       &SelectionState::cmdOpen},
-    NamedButton{"cmdCreate",     &SelectionState::cmdCreate},
-    NamedButton{"cmdReset",      &SelectionState::cmdReset},
-    NamedButton{"cmdExit",       &SelectionState::cmdExit},
-    NamedButton{"cmdTemplate",   &SelectionState::cmdTemplate},
-    NamedButton{"cmdPackages",   &SelectionState::cmdPackages},
-    NamedButton{"cmdCustom",     &SelectionState::cmdCustom},
-    NamedButton{"cmdNameAs",     &SelectionState::cmdNameAs},
-    NamedButton{"cmdEnvelopes",  &SelectionState::cmdEnvelopes},
-    NamedButton{"cmdOP236",      &SelectionState::cmdOP236},
-    NamedButton{"cmdPrintFList", &SelectionState::cmdPrintFList},
-    NamedButton{"cmdSelect",     &SelectionState::cmdSelect},
-};
-// clang-format on
 
 /// A list with an entry for each option, in order.
 template <class Value>
@@ -37,7 +17,7 @@ Json OfEachOption(Value value) {
     return list;
 }
 
-const OptionButton& OptionOf(const SelectionState& screen, int n) {
+const OptionButton& OptionOf(const ScreenState& screen, int n) {
     return screen.options[static_cast<std::size_t>(n)];
 }
 
@@ -45,7 +25,7 @@ Json NameBoxOf(const NameBox& box) {
     return {{"text", box.text}, {"locked", box.locked}, {"enabled", box.enabled}, {"noSave", box.noSave}};
 }
 
-Json LegalOf(const SelectionState& screen) {
+Json LegalOf(const ScreenState& screen) {
     Json lines = Json::array();
     for (const JobListLine& line : screen.List2)
         if (line.selected) lines.push_back(line.name);
@@ -62,7 +42,7 @@ Json RowOf(const GridRow& row) {
             {"notes", row.notes},       {"lit", row.lit}, {"key", row.key},     {"locked", row.locked}};
 }
 
-Json GridOf(const SelectionState& screen) {
+Json GridOf(const ScreenState& screen) {
     Json rows = Json::array();
     for (const GridRow& row : screen.grid) rows.push_back(RowOf(row));
     return rows;
@@ -74,34 +54,34 @@ Json SettingsOf(const MainScreen& screen) {
     return rows;
 }
 
-Json ButtonsOf(const SelectionState& screen) {
+Json ButtonsOf(const ScreenState& screen) {
     Json buttons = Json::object();
-    for (const NamedButton& named : kButtons) {
+    for (const NamedButton& named : Buttons()) {
         const Button& button = screen.*(named.button);
-        buttons[named.name] = {{"caption", button.caption},
-                               {"enabled", button.enabled},
-                               {"visible", button.visible},
-                               {"tooltip", button.tooltip}};
+        buttons[std::string(named.name)] = {{"caption", button.caption},
+                                            {"enabled", button.enabled},
+                                            {"visible", button.visible},
+                                            {"tooltip", button.tooltip}};
     }
     return buttons;
 }
 
 }  // namespace
 
-Json OptionsOf(const SelectionState& screen) {
+Json OptionsOf(const ScreenState& screen) {
     return OfEachOption([&](int n) { return screen.job.optConf(n); });
 }
 
-Json JobListOf(const SelectionState& screen) {
+Json JobListOf(const ScreenState& screen) {
     Json lines = Json::array();
     for (const JobListLine& line : screen.List2) lines.push_back(line.name);
     return lines;
 }
 
 Json StateOf(const MainScreen& mainScreen) {
-    const SelectionState& screen = mainScreen.State();
+    const ScreenState& screen = mainScreen.State();
     return {{"txtJobName", NameBoxOf(screen.txtJobName)},
-            {"ScreenMode", screen.ScreenMode},
+            {"ScreenMode", NameOf(screen.mode)},
             {"FieldEntryStarted", screen.FieldEntryStarted},
             {"optConf", OptionsOf(screen)},
             {"optEnabled", OfEachOption([&](int n) { return OptionOf(screen, n).enabled; })},
@@ -111,7 +91,7 @@ Json StateOf(const MainScreen& mainScreen) {
             {"List1Enabled", screen.List1Enabled},
             {"List2", JobListOf(screen)},
             {"List2Enabled", screen.List2Enabled},
-            {"List2Tooltip", screen.List2Tooltip},
+            {"List2Tooltip", screen.List2Tooltip()},
             {"legal", LegalOf(screen)},
             {"JobDocuments", screen.job.JobDocuments},
             {"grid", GridOf(screen)},

@@ -12,9 +12,9 @@ namespace quillmark::cli {
 Json StateOf(const MainScreen& screen);
 
 /// The fifteen options, in order: whether each is set.
-Json OptionsOf(const SelectionState& screen);
+Json OptionsOf(const ScreenState& screen);
 
 /// The lines of the job list.
-Json JobListOf(const SelectionState& screen);
+Json JobListOf(const ScreenState& screen);
 
 }  // namespace quillmark::cli

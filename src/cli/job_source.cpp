@@ -19,25 +19,6 @@ namespace {
 /// The seller's attorney's fields, which the firm's defaults fill. The last one, the e-mail address, belongs
 /// to the attorney chosen, so of several none is taken.
 
-bool IsDataFile(const fs::path& path) {
-    return Lowered(TextOf(path.extension())) == ".dat";
-}
-
-bool Exists(const fs::path& path) {
-    std::error_code ignored;
-    return fs::exists(path, ignored);
-}
-
-/// A job file that stands elsewhere may have its pictures with it.
-fs::path ImagesOf(const fs::path& file, const Folders& folders) {
-    const fs::path beside = fs::absolute(file).parent_path() / "images";
-    return Exists(beside) ? beside : folders.ImagesFolder;
-}
-
-JobSource SourceOf(const fs::path& file, const Folders& folders) {
-    return {file, TextOf(file.stem()), ImagesOf(file, folders)};
-}
-
 void FillFirmFields(const FirmDefaults& defaults, Job& job) {
     for (int n = field::SellerLawfirm; n <= field::SellerAttyEmail; ++n) {
         if (job.IsFilled(n)) continue;
@@ -51,16 +32,6 @@ void FillFirmFields(const FirmDefaults& defaults, Job& job) {
 }
 
 }  // namespace
-
-JobSource FindJob(const std::string& word, const Folders& folders) {
-    const fs::path path = PathOf(word);
-    const bool isPath = path.has_parent_path() || IsDataFile(path);
-    if (isPath && Exists(path)) return SourceOf(path, folders);
-    const fs::path inFolder = JobFilePath(folders, IsDataFile(path) ? TextOf(path.stem()) : word);
-    if (!path.has_parent_path() && Exists(inFolder)) return SourceOf(inFolder, folders);
-    if (isPath) throw FileError(path, FileError::Kind::NotFound, "there is no such job file");
-    throw FileError(inFolder, FileError::Kind::NotFound, "there is no such job");
-}
 
 std::vector<std::string> ReadJob(const JobSource& source, Folders folders, const FirmDefaults& defaults,
                                  Job& job) {
@@ -80,16 +51,16 @@ std::vector<std::string> ReadJob(const JobSource& source, Folders folders, const
     return refused;
 }
 
-void KeepRelevantFields(const std::vector<std::string>& documents, const Office& office, Job& job) {
-    SelectionState screen;
-    screen.job = job;
+void KeepRelevantFields(const std::vector<std::string>& documents, const FirmContext& firm, Job& job) {
+    JobInHand hand;
+    hand.job = job;
     for (int n = 1; n <= kFields; ++n) {
-        screen.job.txtField(n).relevant = false;
-        screen.job.txtField(n).locked = job.IsFilled(n);
+        hand.job.txtField(n).relevant = false;
+        hand.job.txtField(n).locked = job.IsFilled(n);
     }
-    for (const std::string& document : documents) screen.List2.push_back({document, false});
-    RefreshFields(screen, office);
-    for (int n = 1; n <= kFields; ++n) job.txtField(n).relevant = screen.job.txtField(n).relevant;
+    for (const std::string& document : documents) hand.List2.push_back({document, false});
+    RefreshFields(hand, firm);
+    for (int n = 1; n <= kFields; ++n) job.txtField(n).relevant = hand.job.txtField(n).relevant;
 }
 
 }  // namespace quillmark::cli

@@ -102,7 +102,7 @@ class MakeRun {
             throw std::runtime_error("another job of this run has the same name and has written " +
                                      TextOf(document));
         CreateOrder order = CreateOrderFor(job, word);
-        KeepRelevantFields(order.DocumentNames, {settings_, folders_, defaults_, clock_, dialogs_}, job);
+        KeepRelevantFields(order.DocumentNames, {settings_, folders_, defaults_, clock_}, job);
         if (const auto obstacle = WhyNotCreate(job)) throw std::runtime_error(obstacle->text);
         CreateRun run(job, std::move(order));
         run.Run(TextOf(document));

@@ -122,10 +122,6 @@ std::string ProrationCalculator::AmountFor(CreditTo side) const {
     return ShownAmount(side == CreditTo::Buyer ? state_.Text1 : state_.Text2);
 }
 
-int NoteColumnOf(CreditTo side) {
-    return side == CreditTo::Buyer ? 3 : 2;
-}
-
 std::string HandOverValue(const ProrationCalculator& calculator, CreditTo side, int n) {
     const std::string amount = calculator.AmountFor(side);
     const bool toBuyer = side == CreditTo::Buyer;

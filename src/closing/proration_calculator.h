@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
+#include "core/job.h"
 #include "core/text_conversions.h"
 #include "platform/clock.h"
-#include "selection/selection_state.h"
 
 /// A side calculator for adjustments that the closing statement's own schedules do not cover: how much of an
 /// assessment for a period is unpaid up to a date, and how much is paid beyond it.
@@ -65,9 +65,6 @@ class ProrationCalculator {
     const Clock& clock_;
     ProrationCalculatorState state_;
 };
-
-/// The column of the note cell that stands for the side: 3 the buyer's, 2 the seller's.
-int NoteColumnOf(CreditTo side);
 
 /// What the calculator enters in field n: the amount, in an adjustment with the tag that credits the side. A
 /// sewer adjustment becomes a net one. To be committed by way of the note column, so that nothing is asked.

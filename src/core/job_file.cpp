@@ -234,9 +234,10 @@ void ApplyJobFile(const JobFileContents& contents, Job& job, bool asTemplate) {
     }
 }
 
-void ReadJobFile(const Folders& folders, const fs::path& file, Job& job, bool asTemplate) {
+std::string ReadJobFile(const Folders& folders, const fs::path& file, Job& job, bool asTemplate) {
     const std::string fileName = TextOf(file.filename());
-    const JobFileContents contents = JobFileContentsOf(fileName, ReadFile(file, kJobFileLimit));
+    std::string bytes = ReadFile(file, kJobFileLimit);
+    const JobFileContents contents = JobFileContentsOf(fileName, bytes);
     std::map<int, std::string> pictures;
     for (const auto& [n, value] : contents.fields) {
         if (value != kImageLiteral) continue;
@@ -244,7 +245,8 @@ void ReadJobFile(const Folders& folders, const fs::path& file, Job& job, bool as
         if (Exists(picture)) pictures[n] = ReadFile(picture, kPictureLimit);
     }
     ApplyJobFile(contents, job, asTemplate);
-    for (auto& [n, bytes] : pictures) job.FieldPictures[static_cast<std::size_t>(n)] = std::move(bytes);
+    for (auto& [n, picture] : pictures) job.FieldPictures[static_cast<std::size_t>(n)] = std::move(picture);
+    return bytes;
 }
 
 void SaveJobFiles(const Folders& folders, const Job& job) {

@@ -59,8 +59,8 @@ void ApplyJobFile(const JobFileContents& contents, Job& job, bool asTemplate);
 
 /// Reads a job file, wherever it stands, and the pictures of its name in `ImagesFolder` into the job. Throws
 /// FileError, RecordError and JobFileError, all before anything in the job is changed. The job's own name is
-/// left to the caller.
-void ReadJobFile(const Folders& folders, const std::filesystem::path& file, Job& job, bool asTemplate);
+/// left to the caller. Gives the file's bytes.
+std::string ReadJobFile(const Folders& folders, const std::filesystem::path& file, Job& job, bool asTemplate);
 
 /// Writes the job's file and pictures under the job's name, and removes pictures that it no longer has. The
 /// file is written after its pictures and before any is removed. Throws FileError and JobFileError.

@@ -65,7 +65,7 @@ void MainWindow::AddShortcuts() {
     add(control(Qt::Key_Return), [this] { flow_.Press("cmdCreate"); });
     add(control(Qt::Key_O), [this] { flow_.Press("cmdOpen"); });
     add(QKeySequence::Save, [this] {
-        if (desk_.State().cmdOpen.caption == "SAVE") flow_.Press("cmdOpen");
+        if (desk_.State().Saves()) flow_.Press("cmdOpen");
     });
     add(Qt::Key_F9, [this] { flow_.OpenCalculator(); });
 }
@@ -103,7 +103,7 @@ void MainWindow::ShowTitle() {
 }
 
 void MainWindow::ShowPage() {
-    const SelectionState& state = desk_.State();
+    const ScreenState& state = desk_.State();
     if (desk_.Screen().SettingsListShown()) List3_->ShowRows(desk_.Screen().List3());
     grid_->Show();
     QWidget* page = state.grid.empty() ? welcome_ : grid_;
@@ -113,8 +113,8 @@ void MainWindow::ShowPage() {
 }
 
 void MainWindow::ShowCounters() {
-    const SelectionState& state = desk_.State();
-    const bool counts = !state.grid.empty() && state.ScreenMode == screen_mode::kJob;
+    const ScreenState& state = desk_.State();
+    const bool counts = !state.grid.empty() && state.mode == ScreenMode::Job;
     counters_->setText(counts ? tr("total flds %1     remaining %2").arg(state.total).arg(state.remaining)
                               : QString());
 }

@@ -6,8 +6,6 @@
 #include "core/field_registry.h"
 #include "core/fields.h"
 #include "core/text_conversions.h"
-#include "platform/code_page.h"
-#include "selection/field_listing.h"
 
 namespace quillmark {
 
@@ -27,19 +25,6 @@ constexpr DetailRow kDetails[] = {
     {"Trustee",              {field::TrustInstrument, "TRUST INSTRUMENT"}},
 };
 // clang-format on
-constexpr std::string_view kTitle = " ADDITIONAL INFORMATION REQUIRED";
-
-std::optional<std::string> Answer(const CapacityDetail& detail, const Job& job, Dialogs& dialogs) {
-    InputDialog box{std::string(kTitle), "Please enter a value for  ", {}};
-    box.text += std::string(detail.name) + "\n" + FieldDescription(detail.n, job);
-    if (job.IsFilled(detail.n)) box.proposed = job.D(detail.n);
-    auto answer = dialogs.Ask(box);
-    if (!answer) return std::nullopt;
-    const auto missing = FirstUnencodable(*answer);
-    if (!missing) return answer;
-    dialogs.Tell(std::string(kTitle), "A field cannot hold " + missing->name + ".", DialogIcon::Warning);
-    return std::nullopt;
-}
 
 }  // namespace
 
@@ -51,14 +36,11 @@ std::optional<CapacityDetail> CapacityDetailOf(std::string_view fiduciaryType, c
     return row->detail;
 }
 
-bool AskForCapacityDetail(std::string_view fiduciaryType, SelectionState& screen, const Office& office) {
-    const auto detail = CapacityDetailOf(fiduciaryType, screen.job);
-    if (!detail) return true;
-    const auto answer = Answer(*detail, screen.job, office.dialogs);
-    if (!answer) return false;
-    const std::string_view value = Trimmed(*answer);
-    UpdateListing(detail->n, value, screen, office);
-    return !value.empty();
+InputDialog DetailQuestion(const CapacityDetail& detail, const Job& job) {
+    InputDialog box{" ADDITIONAL INFORMATION REQUIRED", "Please enter a value for  ", {}};
+    box.text += std::string(detail.name) + "\n" + FieldDescription(detail.n, job);
+    if (job.IsFilled(detail.n)) box.proposed = job.D(detail.n);
+    return box;
 }
 
 }  // namespace quillmark

@@ -3,8 +3,8 @@
 #include <optional>
 #include <string_view>
 
-#include "selection/office.h"
-#include "selection/selection_state.h"
+#include "core/job.h"
+#include "platform/dialogs.h"
 
 /// A capacity picked for the fiduciary that says too little by itself: an executor needs a decedent.
 namespace quillmark {
@@ -17,9 +17,8 @@ struct CapacityDetail {
 /// The field that goes with a pick of [fiduciary type], if the job needs that field.
 std::optional<CapacityDetail> CapacityDetailOf(std::string_view fiduciaryType, const Job& job);
 
-/// Asks for the detail of the pick and stores it. False if the pick may not be completed: there was no
-/// answer. The empty answer also makes the detail unfilled; a cancelled box leaves it as it was, and so
-/// does one with a character that data files cannot hold, which a box tells.
-bool AskForCapacityDetail(std::string_view fiduciaryType, SelectionState& screen, const Office& office);
+/// The box that asks for it, with the field's present value proposed. The pick may not be completed without
+/// an answer; the empty one also makes the field unfilled, a cancelled box leaves it as it was.
+InputDialog DetailQuestion(const CapacityDetail& detail, const Job& job);
 
 }  // namespace quillmark

@@ -48,25 +48,32 @@ NotedValue NoteValue(int n, std::string_view value, LitCells lit, int clicked, c
     return {WithTag(tagged.text, lit, family), lit};
 }
 
-bool ShowsNotes(int n, std::string_view value, const GridRow* row, const SelectionState& screen) {
+bool ShowsNotes(int n, std::string_view value, const GridRow* row, const JobInHand& hand) {
     const TagFamily family = TagFamilyOf(n);
     if (family != TagFamily::Payoff) return family != TagFamily::None;
-    return PayoffShowsNotes(value, screen) || (row && !row->notes[0].empty());
+    return PayoffShowsNotes(value, hand) || (row && !row->notes[0].empty());
 }
 
-void ShowFieldNotes(int n, GridRow& row, int clicked, SelectionState& screen) {
-    Job& job = screen.job;
-    if (job.IsFilled(n) && ShowsNotes(n, job.D(n), &row, screen)) {
+std::string NotedFieldValue(int n, const JobInHand& hand) {
+    const std::string& value = hand.job.D(n);
+    const GridRow* row = FindRow(n, hand);
+    if (!hand.job.IsFilled(n) || !ShowsNotes(n, value, row, hand)) return value;
+    return NoteValue(n, value, row ? row->lit : LitCells{false, false}, 0, hand.job).value;
+}
+
+void ShowFieldNotes(int n, GridRow& row, int clicked, JobInHand& hand) {
+    Job& job = hand.job;
+    if (job.IsFilled(n) && ShowsNotes(n, job.D(n), &row, hand)) {
         const std::string noted = NoteValue(n, job.D(n), row.lit, clicked, job).value;
         noted.empty() ? job.ClearField(n) : job.SetField(n, noted);
     }
-    DrawRow(row, screen);
+    DrawRow(row, hand);
 }
 
-void ShowAllFieldNotes(SelectionState& screen) {
-    for (GridRow& row : screen.grid)
+void ShowAllFieldNotes(JobInHand& hand) {
+    for (GridRow& row : hand.grid)
         if (row.kind == RowKind::Field && TagFamilyOf(row.n) != TagFamily::None)
-            ShowFieldNotes(row.n, row, 0, screen);
+            ShowFieldNotes(row.n, row, 0, hand);
 }
 
 }  // namespace quillmark

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "entry/tagged_values.h"
-#include "selection/selection_state.h"
+#include "selection/job_in_hand.h"
 
 /// The two note cells beside a tagged value: they show the tag in words, keep it while the amount is edited,
 /// and change it when they are clicked.
@@ -25,13 +25,16 @@ NotedValue NoteValue(int n, std::string_view value, LitCells lit, int clicked, c
 
 /// Whether the row of field n has note cells for this value: that of a payoff has them for an SMS document on
 /// the job list, for a value with its tag, or if it had them before.
-bool ShowsNotes(int n, std::string_view value, const GridRow* row, const SelectionState& screen);
+bool ShowsNotes(int n, std::string_view value, const GridRow* row, const JobInHand& hand);
+
+/// The field's value with the tag that its row remembers; the value itself where the row has no note cells.
+std::string NotedFieldValue(int n, const JobInHand& hand);
 
 /// Rewrites the tag of the field's value from the row's lit cells and the click, and draws the row. A field
 /// without note cells or without a value stays as it is.
-void ShowFieldNotes(int n, GridRow& row, int clicked, SelectionState& screen);
+void ShowFieldNotes(int n, GridRow& row, int clicked, JobInHand& hand);
 
 /// The same for every row, without a click: after rows were built from values that came from outside.
-void ShowAllFieldNotes(SelectionState& screen);
+void ShowAllFieldNotes(JobInHand& hand);
 
 }  // namespace quillmark

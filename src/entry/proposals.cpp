@@ -136,8 +136,8 @@ bool IsNameToChoose(int n) {
     return std::find(std::begin(kNamesToChoose), std::end(kNamesToChoose), n) != std::end(kNamesToChoose);
 }
 
-bool IsListed(int n, const SelectionState& screen) {
-    return std::any_of(screen.grid.begin(), screen.grid.end(),
+bool IsListed(int n, const JobInHand& hand) {
+    return std::any_of(hand.grid.begin(), hand.grid.end(),
                        [&](const GridRow& row) { return row.kind == RowKind::Field && row.n == n; });
 }
 
@@ -155,10 +155,10 @@ std::size_t CurrentChoice(const OpenedEditor& editor, int n, const Job& job) {
 }
 
 /// The default or the proposal that an unfilled field opens with, and its choices.
-void FillFromDefault(OpenedEditor& editor, int n, const SelectionState& screen, const Office& office) {
-    const Job& job = screen.job;
+void FillFromDefault(OpenedEditor& editor, int n, const JobInHand& hand, const FirmContext& firm) {
+    const Job& job = hand.job;
     const bool unfilled = !job.IsFilled(n);
-    std::string start = FieldDefault(FieldMarker(n), screen, office);
+    std::string start = FieldDefault(FieldMarker(n), hand, firm);
     if (start == FieldMarker(n) && (unfilled || IsNameToChoose(n))) start = Proposal(n, job);
     editor.choices = ChoicesOf(start);
     if (!editor.choices.empty()) editor.currentChoice = CurrentChoice(editor, n, job);
@@ -189,18 +189,18 @@ std::vector<std::string> ChoicesOf(std::string_view list) {
     return choices;
 }
 
-OpenedEditor OpenEditor(const GridRow& row, const SelectionState& screen, const Office& office) {
+OpenedEditor OpenEditor(const GridRow& row, const JobInHand& hand, const FirmContext& firm) {
     OpenedEditor editor;
     editor.text = row.value;
     const bool isField = row.kind == RowKind::Field;
     const std::string marker(isField ? FieldMarker(row.n) : std::string_view(row.label));
-    if (isField) editor.book = BookOfField(row.n, IsListed(field::BuyerLawfirm, screen));
+    if (isField) editor.book = BookOfField(row.n, IsListed(field::BuyerLawfirm, hand));
     if (editor.book) {
-        if (editor.text.empty() && screen.ScreenMode == screen_mode::kJob) editor.text = marker;
+        if (editor.text.empty() && hand.mode == ScreenMode::Job) editor.text = marker;
     } else if (isField) {
-        FillFromDefault(editor, row.n, screen, office);
+        FillFromDefault(editor, row.n, hand, firm);
     }
-    if (IsDate(marker)) editor.calendar = ReadDate(editor.text).value_or(office.clock.Today());
+    if (IsDate(marker)) editor.calendar = ReadDate(editor.text).value_or(firm.clock.Today());
     return editor;
 }
 

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "entry/address_book.h"
-#include "selection/office.h"
-#include "selection/selection_state.h"
+#include "selection/firm_context.h"
+#include "selection/job_in_hand.h"
 
 /// What an editor starts with, so that often Enter is all that a field takes.
 namespace quillmark {
@@ -32,6 +32,6 @@ struct OpenedEditor {
 
 /// What opens over a row, and what stands in it: the row's value; in an unfilled row its default, the first
 /// of its choices or the proposal. The e-mail address follows the attorney's place among the choices.
-OpenedEditor OpenEditor(const GridRow& row, const SelectionState& screen, const Office& office);
+OpenedEditor OpenEditor(const GridRow& row, const JobInHand& hand, const FirmContext& firm);
 
 }  // namespace quillmark

@@ -2,7 +2,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "core/field_registry.h"
 #include "core/fields.h"
@@ -34,118 +33,95 @@ bool HoldsTagMark(int n, std::string_view value) {
     return n <= kLastHyphenTagged && value.find('-') != value.npos;
 }
 
-class Questions {
- public:
-    Questions(SelectionState& screen, const Office& office, const EntryPoint& from)
-        : screen_(screen), office_(office), from_(from) {}
+QuestionStep Ask(std::string title, std::string text) {
+    return {Question{std::move(title), std::move(text)}, {}};
+}
 
-    bool AreDue(int n, std::string_view value) const {
-        if (!IsFirstEntry(n)) return false;
-        if (TagFamilyOf(n) == TagFamily::LoanNumber)
-            return value != FieldMarker(n) && ReadTag(value, TagFamily::LoanNumber).tag.empty();
-        return IsAmount(value) && !HoldsTagMark(n, value);
-    }
+QuestionStep Tagged(std::string tag) {
+    return {std::nullopt, std::move(tag)};
+}
 
-    /// The tag that the answers give; empty where the family has nothing to ask now.
-    std::string TagFor(int n, std::string_view value) const {
-        switch (TagFamilyOf(n)) {
-            case TagFamily::Commission:
-                return AskCommission(n);
-            case TagFamily::LoanNumber:
-                return AskLoan(n);
-            case TagFamily::Payoff:
-                return AskPayoff(n, value);
-            case TagFamily::Sewer:
-                return AskSewer(n);
-            case TagFamily::Paid:
-                return AskPaid(n);
-            case TagFamily::Credit:
-                return AskCredit(n);
-            case TagFamily::None:
-                break;
-        }
-        return {};
-    }
+/// The answers of one entry, as far as they go.
+using Answers = std::vector<bool>;
 
- private:
-    bool IsFirstEntry(int n) const {
-        if (from_.force) return true;
-        const std::string& present = screen_.job.txtField(n).text;
-        const bool isOpen =
-            present == FieldMarker(n) || (present.empty() && screen_.ScreenMode == screen_mode::kPresets);
-        return isOpen && from_.column <= 1;
-    }
+QuestionStep AskOnce(const Answers& answers, std::size_t at, std::string title, std::string text,
+                     std::string_view yes, std::string_view no) {
+    if (answers.size() <= at) return Ask(std::move(title), std::move(text));
+    return Tagged(std::string(answers[at] ? yes : no));
+}
 
-    bool Ask(std::string title, std::string text) const {
-        const StandingQuestion guard(from_.EditRow);
-        return office_.dialogs.Confirm(std::move(title), std::move(text));
-    }
+QuestionStep AskPaid(int n, const Answers& answers, std::size_t at = 0) {
+    return AskOnce(answers, at, TitleOf(n), "This item paid current ?", " - P", " - U");
+}
 
-    std::string AskPaid(int n) const { return Ask(TitleOf(n), "This item paid current ?") ? " - P" : " - U"; }
+QuestionStep AskCredit(int n, const Answers& answers, std::size_t at = 0) {
+    return AskOnce(answers, at, TitleOf(n), "Credit to Buyer(s) ?", " = U", " = P");
+}
 
-    std::string AskCredit(int n) const { return Ask(TitleOf(n), "Credit to Buyer(s) ?") ? " = U" : " = P"; }
+QuestionStep AskSewer(int n, const Answers& answers) {
+    if (answers.empty())
+        return Ask(TitleOf(n),
+                   "Payable with taxes ?\n\n"
+                   "(YES: value entered must be annual assessment)\n"
+                   "(NO:  value entered must be net adjustment)");
+    return answers[0] ? AskPaid(n, answers, 1) : AskCredit(n, answers, 1);
+}
 
-    std::string AskSewer(int n) const {
-        const bool withTaxes = Ask(TitleOf(n),
-                                   "Payable with taxes ?\n\n"
-                                   "(YES: value entered must be annual assessment)\n"
-                                   "(NO:  value entered must be net adjustment)");
-        return withTaxes ? AskPaid(n) : AskCredit(n);
-    }
+QuestionStep AskPayoff(int n, std::string_view value, const Answers& answers, const JobInHand& hand) {
+    if (!ShowsNotes(n, value, FindRow(n, hand), hand)) return {};
+    const std::string title = TitleOf(n) + "   " + ShownAmount(value);
+    if (answers.empty())
+        return Ask(title, "Does this amount include the charge \nfor recording the release ?");
+    if (answers.size() == 1) return Ask(title, "Is MERS the releasor \nof this mortgage ?");
+    return Tagged(std::string(answers[1] ? " = " : " - ") + (answers[0] ? 'R' : 'T'));
+}
 
-    std::string AskPayoff(int n, std::string_view value) const {
-        if (!ShowsNotes(n, value, FindRow(n, screen_), screen_)) return {};
-        const std::string title = TitleOf(n) + "   " + ShownAmount(value);
-        const bool holdsFee = Ask(title, "Does this amount include the charge \nfor recording the release ?");
-        const bool byMers = Ask(title, "Is MERS the releasor \nof this mortgage ?");
-        return std::string(byMers ? " = " : " - ") + (holdsFee ? 'R' : 'T');
-    }
+QuestionStep AskCommission(int n, const Answers& answers, const Job& job) {
+    if (TakesBinder(job.D(PairedField(n)))) return {};
+    const int realtor = n - 1;
+    return AskOnce(answers, 0, job.D(realtor) + "  ",
+                   "Apply binder deposit\ntoward this realtor's commission ?", " - B", " - N");
+}
 
-    std::string AskCommission(int n) const {
-        if (TakesBinder(screen_.job.D(PairedField(n)))) return {};
-        const int realtor = n - 1;
-        return Ask(screen_.job.D(realtor) + "  ", "Apply binder deposit\ntoward this realtor's commission ?")
-                   ? " - B"
-                   : " - N";
-    }
+QuestionStep AskLoan(int n, const Answers& answers, const Job& job) {
+    if (IsEquityLine(job.D(PairedField(n)))) return {};
+    return AskOnce(answers, 0, TitleOf(n), "Is this loan a Home Equity\nLine of Credit ?", " (E)", " (M)");
+}
 
-    std::string AskLoan(int n) const {
-        if (IsEquityLine(screen_.job.D(PairedField(n)))) return {};
-        return Ask(TitleOf(n), "Is this loan a Home Equity\nLine of Credit ?") ? " (E)" : " (M)";
-    }
+bool IsFirstEntry(int n, const JobInHand& hand) {
+    const std::string& present = hand.job.txtField(n).text;
+    return present == FieldMarker(n) || (present.empty() && hand.mode == ScreenMode::Presets);
+}
 
-    SelectionState& screen_;
-    const Office& office_;
-    const EntryPoint& from_;
-};
-
-/// The stored value with the tag that its row remembers.
-std::string Noted(int n, SelectionState& screen) {
-    const std::string& value = screen.job.D(n);
-    const GridRow* row = FindRow(n, screen);
-    if (!screen.job.IsFilled(n) || !ShowsNotes(n, value, row, screen)) return value;
-    return NoteValue(n, value, row ? row->lit : LitCells{false, false}, 0, screen.job).value;
+bool AreDue(int n, std::string_view value, const JobInHand& hand) {
+    if (value.empty() || !IsFirstEntry(n, hand)) return false;
+    if (TagFamilyOf(n) == TagFamily::LoanNumber)
+        return value != FieldMarker(n) && ReadTag(value, TagFamily::LoanNumber).tag.empty();
+    return IsAmount(value) && !HoldsTagMark(n, value);
 }
 
 }  // namespace
 
-StandingQuestion::StandingQuestion(int* EditRow) : EditRow_(EditRow), row_(EditRow ? *EditRow : 0) {
-    if (EditRow_) *EditRow_ = -1;
-}
-
-StandingQuestion::~StandingQuestion() {
-    if (EditRow_) *EditRow_ = row_;
-}
-
-FieldDialogue FieldQuestions(SelectionState& screen, const Office& office, EntryPoint from) {
-    return [&screen, office, from](int n, std::string value) {
-        if (TagFamilyOf(n) == TagFamily::None) return value;
-        const Questions questions(screen, office, from);
-        const bool due = questions.AreDue(n, value);
-        screen.job.SetField(n, value);
-        if (due) screen.job.SetField(n, value + questions.TagFor(n, value));
-        return Noted(n, screen);
-    };
+QuestionStep NextQuestion(int n, std::string_view value, const std::vector<bool>& answers,
+                          const JobInHand& hand) {
+    if (TagFamilyOf(n) == TagFamily::None || !AreDue(n, value, hand)) return {};
+    switch (TagFamilyOf(n)) {
+        case TagFamily::Commission:
+            return AskCommission(n, answers, hand.job);
+        case TagFamily::LoanNumber:
+            return AskLoan(n, answers, hand.job);
+        case TagFamily::Payoff:
+            return AskPayoff(n, value, answers, hand);
+        case TagFamily::Sewer:
+            return AskSewer(n, answers);
+        case TagFamily::Paid:
+            return AskPaid(n, answers);
+        case TagFamily::Credit:
+            return AskCredit(n, answers);
+        case TagFamily::None:
+            break;
+    }
+    return {};
 }
 
 }  // namespace quillmark

@@ -24,7 +24,7 @@ class BadFieldInput : public std::runtime_error {
 /// Gives the list of choices of a field, separated by ";"; empty for none.
 using ChoiceLists = std::function<std::string(int n)>;
 
-/// What the rules take from the screen. Each may be empty.
+/// What the rules take from the hand. Each may be empty.
 struct RuleSurroundings {
     ChoiceLists choices = {};
     /// While a template is being set a value may become one of several choices, so it ends before its first

@@ -1,7 +1,5 @@
 #include "selection/accompanying_documents.h"
 
-#include <chrono>
-
 #include "selection/job_list_lines.h"
 
 namespace quillmark {
@@ -13,37 +11,46 @@ using std::chrono::year;
 constexpr auto kClosingDisclosureRule =
     year(2015) / October / 2;  ///< contracts of later days need the addendum
 
-/// `reminder` is what the history must not hold: the document was chosen before and its accompanying is
-/// known.
-void AddBeside(std::string_view accompanying, std::string_view reminder, std::string_view reason,
-               SelectionState& screen, const Office& office) {
-    if (IsInHistory(reminder, screen.job.JobDocuments) || HoldsLine(accompanying, screen)) return;
-    AppendLine(accompanying, screen);
-    AlertAdded(reason, office);
-}
+class Accompanying {
+ public:
+    explicit Accompanying(JobInHand& hand) : hand_(hand) {}
+
+    /// `reminder` is what the history must not hold: the document was chosen before, and what accompanies it
+    /// is known.
+    void Add(std::string_view document, std::string_view reminder, std::string_view reason) {
+        if (IsInHistory(reminder, hand_.job.JobDocuments) || HoldsLine(document, hand_)) return;
+        AppendLine(document, hand_);
+        notices_.push_back(AddedNotice(reason));
+    }
+    std::vector<std::string> TakeNotices() { return std::move(notices_); }
+
+ private:
+    JobInHand& hand_;
+    std::vector<std::string> notices_;
+};
 
 }  // namespace
 
-void AddAccompanying(std::string_view picked, SelectionState& screen, const Office& office) {
+std::vector<std::string> AddAccompanying(std::string_view picked, std::chrono::year_month_day today,
+                                         JobInHand& hand) {
+    Accompanying list(hand);
     if (picked == kEngagementLetter)
-        AddBeside(kPrivacyPolicy, kEngagementLetter,
-                  "A Privacy Policy Notice is required for every transaction", screen, office);
-    if (IsContract(picked) && office.clock.Today() > kClosingDisclosureRule)
-        AddBeside(kCfpbAddendum, kCfpbAddendum,
-                  "A CFPB Closing-Disclosure Addendum must accompany the contract", screen, office);
+        list.Add(kPrivacyPolicy, kEngagementLetter,
+                 "A Privacy Policy Notice is required for every transaction");
+    if (IsContract(picked) && today > kClosingDisclosureRule)
+        list.Add(kCfpbAddendum, kCfpbAddendum,
+                 "A CFPB Closing-Disclosure Addendum must accompany the contract");
     if (picked == kBridgeportContract)
-        AddBeside(kBridgeportClosingLetter, kBridgeportClosingLetter,
-                  "A Closing Letter is required for the Bridgeport Bar", screen, office);
+        list.Add(kBridgeportClosingLetter, kBridgeportClosingLetter,
+                 "A Closing Letter is required for the Bridgeport Bar");
     // A trustee's deed is never without the affidavit, whatever the job held before.
     if (HasTrait(picked, DocumentTrait::TrusteeDeed))
-        AddBeside(kTrusteesAffidavit, {}, "A Trustee's Affidavit of Facts is required for this transaction",
-                  screen, office);
+        list.Add(kTrusteesAffidavit, {}, "A Trustee's Affidavit of Facts is required for this transaction");
+    return list.TakeNotices();
 }
 
-void AlertAdded(std::string_view reason, const Office& office) {
-    if (!office.settings.documentAlerts) return;
-    office.dialogs.Tell("  ALERT", std::string(reason) + " and has been automatically added to the job list.",
-                        DialogIcon::Information);
+std::string AddedNotice(std::string_view reason) {
+    return std::string(reason) + " and has been automatically added to the job list.";
 }
 
 }  // namespace quillmark

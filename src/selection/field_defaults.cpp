@@ -37,17 +37,17 @@ constexpr FixedDefault kFixedDefaults[] = {
 
 }  // namespace
 
-std::string FieldDefault(std::string_view marker, const SelectionState& screen, const Office& office) {
-    if (marker == "[document date]" || marker == "[contract date]") return LongDate(office.clock.Today());
+std::string FieldDefault(std::string_view marker, const JobInHand& hand, const FirmContext& firm) {
+    if (marker == "[document date]" || marker == "[contract date]") return LongDate(firm.clock.Today());
     if (marker == "[closing date]") {
-        const bool takesToday = !screen.job.IsFilled(field::DocumentDate) && !screen.List2.empty();
-        return takesToday ? LongDate(office.clock.Today()) : std::string(marker);
+        const bool takesToday = !hand.job.IsFilled(field::DocumentDate) && !hand.List2.empty();
+        return takesToday ? LongDate(firm.clock.Today()) : std::string(marker);
     }
     const auto fixed = std::find_if(std::begin(kFixedDefaults), std::end(kFixedDefaults),
                                     [&](const FixedDefault& row) { return row.marker == marker; });
     if (fixed != std::end(kFixedDefaults)) return std::string(fixed->value);
-    if (screen.browsedFile.starts_with('{')) return std::string(marker);
-    return office.firmDefaults.ValueOf(marker);
+    if (hand.fromTemplate) return std::string(marker);
+    return firm.firmDefaults.ValueOf(marker);
 }
 
 bool IsChoiceList(std::string_view value) {

@@ -4,15 +4,15 @@
 #include <string_view>
 #include <vector>
 
-#include "selection/office.h"
-#include "selection/selection_state.h"
+#include "selection/firm_context.h"
+#include "selection/job_in_hand.h"
 
 namespace quillmark {
 
 /// The value that a field starts with, or its choices, separated by ";": today for dates, fixed lists, else
 /// the firm's default. The marker itself where there is none. A job that comes from a template takes no firm
 /// defaults.
-std::string FieldDefault(std::string_view marker, const SelectionState& screen, const Office& office);
+std::string FieldDefault(std::string_view marker, const JobInHand& hand, const FirmContext& firm);
 
 /// Whether a default is a list of choices.
 bool IsChoiceList(std::string_view value);

@@ -1,6 +1,7 @@
 #include "selection/field_rows.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -48,13 +49,12 @@ std::string KeyText(float sortKey) {
     return fmt::format("{:g}", sortKey);
 }
 
-bool HasRow(int n, const SelectionState& screen) {
+bool HasRow(int n, const JobInHand& hand) {
     const std::string_view marker = FieldMarker(n);
     if (marker.empty() || marker == "[]") return false;
-    if (screen.ScreenMode == screen_mode::kEdit && screen.job.IsFilled(n)) return true;
-    if (screen.ScreenMode == screen_mode::kPresets && n > field::DocumentDate && n < field::Placeholder)
-        return true;
-    return screen.job.txtField(n).relevant;
+    if (hand.mode == ScreenMode::Edit && hand.job.IsFilled(n)) return true;
+    if (hand.mode == ScreenMode::Presets && n > field::DocumentDate && n < field::Placeholder) return true;
+    return hand.job.txtField(n).relevant;
 }
 
 /// Rows by key, equal keys in the order in which they come.
@@ -65,12 +65,12 @@ void InsertByKey(GridRow row, float sortKey, std::vector<float>& keys, std::vect
 }
 
 /// Beside a job, rows are also what later loops take the fields from.
-void PrepareHolder(int n, SelectionState& screen) {
-    FieldHolder& holder = screen.job.txtField(n);
+void PrepareHolder(int n, JobInHand& hand) {
+    FieldHolder& holder = hand.job.txtField(n);
     holder.relevant = true;
     if (n > field::SellerAttyEmail) return;
     holder.locked = true;
-    if (n == field::SellerAttyEmail && holder.text.empty()) screen.job.ClearField(n);
+    if (n == field::SellerAttyEmail && holder.text.empty()) hand.job.ClearField(n);
 }
 
 GridRow HeadingRow(const Group& group) {
@@ -80,40 +80,44 @@ GridRow HeadingRow(const Group& group) {
     return row;
 }
 
-void AddUserRows(SelectionState& screen) {
-    if (screen.ScreenMode == screen_mode::kEdit) {
-        for (const auto& [marker, value] : screen.job.userFields) AddUserRow(marker, screen);
+void AddUserRows(JobInHand& hand) {
+    if (hand.mode == ScreenMode::Edit) {
+        for (const auto& [marker, value] : hand.job.userFields) AddUserRow(marker, hand);
         return;
     }
-    for (const std::string& marker : screen.userMarkers) {
-        AddUserRow(std::string_view(marker).substr(0, marker.find(']') + 1), screen);
-        if (screen.ScreenMode == screen_mode::kJob) ++screen.relevantFieldCount;
+    for (const std::string& marker : hand.userMarkers) {
+        AddUserRow(std::string_view(marker).substr(0, marker.find(']') + 1), hand);
+        if (hand.mode == ScreenMode::Job) ++hand.relevantFieldCount;
     }
 }
 
 }  // namespace
 
-std::string RowLabel(int n, const SelectionState& screen) {
+std::string RowLabel(int n, const JobInHand& hand) {
     const std::string_view marker = FieldMarker(n);
-    const Job& job = screen.job;
-    const bool mustBeFilled = screen.ScreenMode == screen_mode::kJob && !IsOptionalField(n, job) &&
+    const Job& job = hand.job;
+    const bool mustBeFilled = hand.mode == ScreenMode::Job && !IsOptionalField(n, job) &&
                               job.txtField(n).colour == FieldColour::Unfilled;
     return mustBeFilled ? fmt::format("{:<{}}*", marker, kMarkerWidth) : std::string(marker);
 }
 
-void DrawRow(GridRow& row, const SelectionState& screen) {
-    if (row.kind == RowKind::User) row.value = screen.job.UserField(row.label);
+void DrawRow(GridRow& row, const JobInHand& hand) {
+    if (row.kind == RowKind::User) row.value = hand.job.UserField(row.label);
     if (row.kind != RowKind::Field) return;
-    row.label = RowLabel(row.n, screen);
-    row.locked = screen.job.txtField(row.n).locked;
-    row.value = screen.job.IsFilled(row.n) ? screen.job.D(row.n) : std::string();
-    DrawOptionTags(row, screen);
+    row.label = RowLabel(row.n, hand);
+    row.locked = hand.job.txtField(row.n).locked;
+    row.value = hand.job.IsFilled(row.n) ? hand.job.D(row.n) : std::string();
+    DrawOptionTags(row, hand);
 }
 
-GridRow* FindRow(int n, SelectionState& screen) {
-    const auto row = std::find_if(screen.grid.begin(), screen.grid.end(),
+const GridRow* FindRow(int n, const JobInHand& hand) {
+    const auto row = std::find_if(hand.grid.begin(), hand.grid.end(),
                                   [&](const GridRow& r) { return r.kind == RowKind::Field && r.n == n; });
-    return row == screen.grid.end() ? nullptr : &*row;
+    return row == hand.grid.end() ? nullptr : &*row;
+}
+
+GridRow* FindRow(int n, JobInHand& hand) {
+    return const_cast<GridRow*>(FindRow(n, std::as_const(hand)));
 }
 
 int GroupOfKey(std::string_view key) {
@@ -121,46 +125,43 @@ int GroupOfKey(std::string_view key) {
     return group ? group->jump : 0;
 }
 
-void AddUserRow(std::string_view marker, SelectionState& screen) {
+void AddUserRow(std::string_view marker, JobInHand& hand) {
     GridRow row;
     row.kind = RowKind::User;
     row.label = marker;
     row.key = kUserKey;
-    DrawRow(row, screen);
-    screen.grid.push_back(std::move(row));
+    DrawRow(row, hand);
+    hand.grid.push_back(std::move(row));
 }
 
-void RebuildRows(SelectionState& screen) {
+void RebuildRows(JobInHand& hand) {
     std::vector<GridRow> grid;
     std::vector<float> keys;
-    const int first = screen.ScreenMode == screen_mode::kPresets ? kFirstTemplateField : 1;
+    const int first = hand.mode == ScreenMode::Presets ? kFirstTemplateField : 1;
     for (int n = first; n <= kFields; ++n) {
-        if (!HasRow(n, screen)) continue;
-        if (screen.ScreenMode != screen_mode::kJob) PrepareHolder(n, screen);
+        if (!HasRow(n, hand)) continue;
+        if (hand.mode != ScreenMode::Job) PrepareHolder(n, hand);
         GridRow row;
         row.n = n;
         row.key = KeyText(FieldSortKey(n));
-        DrawRow(row, screen);
+        DrawRow(row, hand);
         InsertByKey(std::move(row), FieldSortKey(n), keys, grid);
     }
-    screen.grid = std::move(grid);
-    screen.currentRow = -1;
-    AddUserRows(screen);
+    hand.grid = std::move(grid);
+    AddUserRows(hand);
 }
 
-void PlaceHeadings(SelectionState& screen) {
-    std::erase_if(screen.grid, [](const GridRow& row) { return row.kind == RowKind::Heading; });
-    screen.lblJump.fill({});
+void PlaceHeadings(JobInHand& hand) {
+    std::erase_if(hand.grid, [](const GridRow& row) { return row.kind == RowKind::Heading; });
+    hand.groups.fill({});
     int limit = 0;
-    for (std::size_t i = 0; i < screen.grid.size(); ++i) {
-        const Group* group = FindGroup(screen.grid[i].key);
+    for (std::size_t i = 0; i < hand.grid.size(); ++i) {
+        const Group* group = FindGroup(hand.grid[i].key);
         if (!group || limit >= group->limit) continue;
-        screen.grid.insert(screen.grid.begin() + static_cast<std::ptrdiff_t>(i), HeadingRow(*group));
+        hand.grid.insert(hand.grid.begin() + static_cast<std::ptrdiff_t>(i), HeadingRow(*group));
         limit = group->limit;
         if (group->jump == 0) continue;
-        JumpLabel& label = screen.lblJump[static_cast<std::size_t>(group->jump)];
-        label.enabled = true;
-        label.headingRow = static_cast<int>(i);
+        hand.groups[static_cast<std::size_t>(group->jump)].headingRow = static_cast<int>(i);
     }
 }
 

@@ -5,41 +5,33 @@
 #include <string_view>
 #include <vector>
 
-#include "selection/job_list_lines.h"
-#include "selection/job_list_parking.h"
-#include "selection/office.h"
-#include "selection/selection_state.h"
+#include "selection/firm_context.h"
+#include "selection/job_in_hand.h"
 
-/// The job list `List2`: what a double-click in the document list adds, with the documents that the law or
-/// the trade wants beside it, and what a double-click in the job list takes off.
+/// The job list `List2`: what a pick from the documents on offer adds, with the documents that the law or the
+/// trade wants beside it, and what a line that goes leaves behind. The fields are the caller's to refresh.
 namespace quillmark {
 
-/// What came of a request; all but Done leave everything as it was.
-enum class ListAction {
-    Done,
-    ListDisabled,
-    NoSuchLine,
+/// What a pick brought with it.
+struct PickEffects {
+    bool droveOut = false;             ///< lines that cannot stay beside the pick have gone
+    bool asksPropertyType = false;     ///< it came to stand beside what asks for the property type with it
+    std::vector<std::string> notices;  ///< of documents added beside it, for where document alerts are on
 };
 
-/// What the name box shows for a job that is worked on without a name.
-inline constexpr std::string_view kNoSaveText = "<< NO SAVE >>";
+/// A line of `List1` is picked: a document goes on the job list with what must accompany it, or a package
+/// takes the list's place. `anew`: the list as it stands is of no account. Throws FileError and PackageError
+/// for a package that cannot be read, with nothing changed.
+PickEffects PickLine(std::string_view line, bool anew, JobInHand& hand, const FirmContext& firm);
 
-/// Double-click on a line of `List1`: a document goes on the job list with what must accompany it, or a
-/// package takes the list's place; the fields and option buttons follow. Throws FileError and PackageError
-/// for a package that cannot be read, with nothing changed, and FileError and RecordError for a custom
-/// document whose list of markers cannot be read, with the document on the list.
-ListAction PickLine(std::string_view line, SelectionState& screen, const Office& office);
+/// Takes this line alone off; documents that came with it stay.
+void DropLine(std::size_t line, JobInHand& hand);
 
-/// Double-click on a line of `List2`: this line alone goes, documents that came with it stay.
-ListAction DropLine(std::size_t line, SelectionState& screen, const Office& office);
+/// Makes exactly these lines legal size; a name that is listed twice counts once for each time given. False,
+/// with nothing changed, if the list does not hold them all.
+bool SelectLegalSize(const std::vector<std::string>& names, JobInHand& hand);
 
-/// Click on a line of `List2`: turns its legal size on or off.
-ListAction ToggleLegalSize(std::size_t line, SelectionState& screen);
-
-/// Makes exactly these lines legal size; a name that is listed twice counts once for each time given.
-ListAction SelectLegalSize(const std::vector<std::string>& names, SelectionState& screen);
-
-/// The guidance that shows when `List1` gets the focus.
-void ShowList1Guidance(SelectionState& screen);
+/// No line is selected any more; what was collected of them for legal size stays.
+void UnselectLines(JobInHand& hand);
 
 }  // namespace quillmark

@@ -4,59 +4,52 @@
 
 namespace quillmark {
 
-namespace {
-
-constexpr std::string_view kLegalSizeTip = " Click to select doc(s) for legal size (8.5 x 14) ";
-
-}  // namespace
-
-std::optional<std::size_t> FindLine(std::string_view name, const SelectionState& screen) {
-    for (std::size_t i = 0; i < screen.List2.size(); ++i)
-        if (screen.List2[i].name == name) return i;
+std::optional<std::size_t> FindLine(std::string_view name, const JobInHand& hand) {
+    for (std::size_t i = 0; i < hand.List2.size(); ++i)
+        if (hand.List2[i].name == name) return i;
     return std::nullopt;
 }
 
-bool HoldsLine(std::string_view name, const SelectionState& screen) {
-    return FindLine(name, screen).has_value();
+bool HoldsLine(std::string_view name, const JobInHand& hand) {
+    return FindLine(name, hand).has_value();
 }
 
-bool HoldsContract(const SelectionState& screen) {
-    return std::any_of(screen.List2.begin(), screen.List2.end(),
+bool HoldsContract(const JobInHand& hand) {
+    return std::any_of(hand.List2.begin(), hand.List2.end(),
                        [](const JobListLine& line) { return IsContract(line.name); });
 }
 
-void AppendLine(std::string_view name, SelectionState& screen) {
-    screen.List2.push_back({std::string(name), false});
+void AppendLine(std::string_view name, JobInHand& hand) {
+    hand.List2.push_back({std::string(name), false});
 }
 
-void TakeOff(const std::function<bool(std::string_view)>& test, SelectionState& screen) {
-    std::erase_if(screen.List2, [&](const JobListLine& line) { return test(line.name); });
+void TakeOff(const std::function<bool(std::string_view)>& test, JobInHand& hand) {
+    std::erase_if(hand.List2, [&](const JobListLine& line) { return test(line.name); });
 }
 
-void TakeOff(DocumentTrait any, SelectionState& screen) {
-    TakeOff([any](std::string_view name) { return HasTrait(name, any); }, screen);
+void TakeOff(DocumentTrait any, JobInHand& hand) {
+    TakeOff([any](std::string_view name) { return HasTrait(name, any); }, hand);
 }
 
-void LinesChanged(SelectionState& screen) {
-    screen.LegalList.clear();
-    for (const JobListLine& line : screen.List2)
-        if (line.selected) screen.LegalList += line.name + ",";
-    screen.List2Tooltip = screen.List2.empty() ? "" : kLegalSizeTip;
+void CollectLegalSize(JobInHand& hand) {
+    hand.LegalList.clear();
+    for (const JobListLine& line : hand.List2)
+        if (line.selected) hand.LegalList += line.name + ",";
 }
 
-void CloseDocumentChoice(SelectionState& screen) {
-    screen.List1Enabled = false;
-    screen.List2Enabled = false;
-}
-
-void PlacePropertyTypeFrame(SelectionState& screen, std::string_view added) {
+bool AsksPropertyType(const JobInHand& hand, std::string_view added) {
     bool statement = added.starts_with(kClosingStatement);
     bool contract = added == kBridgeportContract || added == kValleyContract;
-    for (const JobListLine& line : screen.List2) {
+    for (const JobListLine& line : hand.List2) {
         statement |= line.name.starts_with(kClosingStatement);
         contract |= line.name == kBridgeportContract || line.name == kValleyContract;
     }
-    if (statement && contract) screen.propertyTypeFrame = PropertyTypeFrame::OverPayoffs;
+    return statement && contract;
+}
+
+bool HoldsClosingStatement(const JobInHand& hand) {
+    return std::any_of(hand.List2.begin(), hand.List2.end(),
+                       [](const JobListLine& line) { return line.name.starts_with(kClosingStatement); });
 }
 
 bool IsExcludedBy(std::string_view line, std::string_view picked) {

@@ -6,31 +6,29 @@
 #include <string_view>
 
 #include "selection/document_catalogue.h"
-#include "selection/selection_state.h"
+#include "selection/job_in_hand.h"
 
 /// The lines of the job list, as its rules handle them.
 namespace quillmark {
 
 /// Where the first line of that name stands.
-std::optional<std::size_t> FindLine(std::string_view name, const SelectionState& screen);
-bool HoldsLine(std::string_view name, const SelectionState& screen);
-bool HoldsContract(const SelectionState& screen);
+std::optional<std::size_t> FindLine(std::string_view name, const JobInHand& hand);
+bool HoldsLine(std::string_view name, const JobInHand& hand);
+bool HoldsContract(const JobInHand& hand);
 
-void AppendLine(std::string_view name, SelectionState& screen);
+void AppendLine(std::string_view name, JobInHand& hand);
 
 /// Takes every line whose name the test accepts off the list.
-void TakeOff(const std::function<bool(std::string_view)>& test, SelectionState& screen);
-void TakeOff(DocumentTrait any, SelectionState& screen);
+void TakeOff(const std::function<bool(std::string_view)>& test, JobInHand& hand);
+void TakeOff(DocumentTrait any, JobInHand& hand);
 
-/// Brings what depends on the lines up to date: the text of legal-size documents and the list's tool tip.
-void LinesChanged(SelectionState& screen);
+/// Collects the names of the selected lines, the documents on legal-size paper.
+void CollectLegalSize(JobInHand& hand);
 
-/// No more documents can be chosen: both lists are out of use.
-void CloseDocumentChoice(SelectionState& screen);
-
-/// Places the frame of options 9, 10 and 13 where a closing statement and a contract that asks for the
-/// property type come together, on the list or with the name about to be added.
-void PlacePropertyTypeFrame(SelectionState& screen, std::string_view added = {});
+/// Whether a closing statement and a contract that asks for the property type come together, on the list or
+/// with the name about to be added.
+bool AsksPropertyType(const JobInHand& hand, std::string_view added = {});
+bool HoldsClosingStatement(const JobInHand& hand);
 
 /// What the pick of a document took off a list before the document itself goes on.
 struct Excluded {

@@ -8,8 +8,8 @@ namespace quillmark {
 
 namespace {
 
-std::vector<std::string>& SlotsOf(ParkingList list, SelectionState& screen) {
-    return screen.ParkedDocuments[static_cast<std::size_t>(list)];
+std::vector<std::string>& SlotsOf(ParkingList list, JobInHand& hand) {
+    return hand.ParkedDocuments[static_cast<std::size_t>(list)];
 }
 
 }  // namespace
@@ -20,28 +20,27 @@ ParkingFull::ParkingFull(std::string_view document)
                       "already. Remove some documents from the job list and try again.",
                       document, kParkingSlots)) {}
 
-void RequireParkingRoom(DocumentTrait any, ParkingList list, bool restoresFirst,
-                        const SelectionState& screen) {
-    const auto& parked = screen.ParkedDocuments[static_cast<std::size_t>(list)];
+void RequireParkingRoom(DocumentTrait any, ParkingList list, bool restoresFirst, const JobInHand& hand) {
+    const auto& parked = hand.ParkedDocuments[static_cast<std::size_t>(list)];
     std::size_t used = restoresFirst ? 0 : parked.size();
     const auto take = [&](std::string_view name) {
         if (HasTrait(name, any) && ++used > kParkingSlots) throw ParkingFull(name);
     };
-    for (const JobListLine& line : screen.List2) take(line.name);
+    for (const JobListLine& line : hand.List2) take(line.name);
     if (!restoresFirst) return;
     for (const std::string& name : parked) take(name);
 }
 
-void Park(DocumentTrait any, ParkingList list, SelectionState& screen) {
-    RequireParkingRoom(any, list, false, screen);
-    for (const JobListLine& line : screen.List2)
-        if (HasTrait(line.name, any)) SlotsOf(list, screen).push_back(line.name);
-    TakeOff(any, screen);
+void Park(DocumentTrait any, ParkingList list, JobInHand& hand) {
+    RequireParkingRoom(any, list, false, hand);
+    for (const JobListLine& line : hand.List2)
+        if (HasTrait(line.name, any)) SlotsOf(list, hand).push_back(line.name);
+    TakeOff(any, hand);
 }
 
-void RestoreParked(ParkingList list, SelectionState& screen) {
-    auto& slots = SlotsOf(list, screen);
-    for (const std::string& name : slots) AppendLine(name, screen);
+void RestoreParked(ParkingList list, JobInHand& hand) {
+    auto& slots = SlotsOf(list, hand);
+    for (const std::string& name : slots) AppendLine(name, hand);
     slots.clear();
 }
 

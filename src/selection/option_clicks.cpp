@@ -8,7 +8,7 @@
 #include "selection/accompanying_documents.h"
 #include "selection/document_catalogue.h"
 #include "selection/job_list_lines.h"
-#include "selection/relevant_fields.h"
+#include "selection/options.h"
 
 namespace quillmark {
 
@@ -47,23 +47,6 @@ const Effect* EffectOf(int n) {
     return row == std::end(kEffects) ? nullptr : &*row;
 }
 
-std::optional<OptionAction> Refusal(int n, const SelectionState& screen) {
-    if (!IsOption(n)) return OptionAction::NoSuchOption;
-    const OptionButton& button = screen.options[static_cast<std::size_t>(n)];
-    if (!button.visible) return OptionAction::Hidden;
-    if (!button.enabled) return OptionAction::Disabled;
-    return std::nullopt;
-}
-
-/// In an opened job or a template, unlike in a new job.
-bool ChangesAnOpenedJob(const SelectionState& screen) {
-    return screen.ScreenMode == screen_mode::kEdit || screen.ScreenMode == screen_mode::kPresets;
-}
-
-void EnableSave(SelectionState& screen) {
-    if (!screen.txtJobName.text.empty()) screen.cmdOpen.enabled = true;
-}
-
 /// Setting a name again rebuilds what derives from it.
 void RebuildName(int n, Job& job) {
     const std::string name = job.D(n);
@@ -89,112 +72,74 @@ void RebuildValues(int clicked, Job& job) {
     if (clicked == OneBuyer || clicked == TwoBuyers) RebuildName(field::Buyer1Name, job);
 }
 
-/// Public Act 16-16: the sale of rental property comes with a notice of fair housing.
-void AskForFairHousing(SelectionState& screen, const Office& office) {
-    if (IsInHistory(kChroNotice, screen.job.JobDocuments) || !HoldsContract(screen) ||
-        HoldsLine(kChroNotice, screen))
-        return;
-    if (!office.dialogs.Confirm(" PA 16-16 Fair Housing Query",
-                                "Is this sale for a Multi-Family Rental property ?", DialogButton::No))
-        return;
-    AppendLine(kChroNotice, screen);
-    screen.job.txtField(field::PropertyAddress1).tag = std::string(kMultiFamilyTag);
-    AlertAdded("A CHRO Fair Housing Notice must accompany the contract", office);
+bool AsksFairHousing(const JobInHand& hand) {
+    return !IsInHistory(kChroNotice, hand.job.JobDocuments) && HoldsContract(hand) &&
+           !HoldsLine(kChroNotice, hand);
 }
 
-void ApplyEffect(int clicked, SelectionState& screen, const Office& office) {
+void ApplyEffect(int clicked, JobInHand& hand) {
     if (const Effect* effect = EffectOf(clicked)) {
-        if (effect->restores) RestoreParked(*effect->restores, screen);
-        Park(effect->parks, ParkingList::A, screen);
-        TakeOff(effect->takesOff, screen);
+        if (effect->restores) RestoreParked(*effect->restores, hand);
+        Park(effect->parks, ParkingList::A, hand);
+        TakeOff(effect->takesOff, hand);
     }
-    if (clicked == LandMultiFamily) AskForFairHousing(screen, office);
 }
 
-void RequireRoomFor(int clicked, const SelectionState& screen) {
+void RequireRoomFor(int clicked, const JobInHand& hand) {
     const Effect* effect = EffectOf(clicked);
     if (effect && effect->parks != None)
-        RequireParkingRoom(effect->parks, ParkingList::A, effect->restores.has_value(), screen);
+        RequireParkingRoom(effect->parks, ParkingList::A, effect->restores.has_value(), hand);
 }
 
-void ClearCapacity(int n, SelectionState& screen) {
-    if (n == EstateTrust) TakeOff(FiduciaryDeed | DeedAffidavit, screen);
-    TurnGroupOff(n, screen.job);
-    if (!screen.job.optConf(Entity)) BringBack(TwoSellers, screen);
-    if (!screen.job.optConf(TwoSellers)) BringBack(Entity, screen);
+void ClearCapacity(int n, JobInHand& hand) {
+    if (n == EstateTrust) TakeOff(FiduciaryDeed | DeedAffidavit, hand);
+    TurnGroupOff(n, hand.job);
 }
 
-void ClearPropertyType(int n, SelectionState& screen) {
-    if (n == Commercial) RestoreParked(ParkingList::A, screen);
+void ClearPropertyType(int n, JobInHand& hand) {
+    if (n == Commercial) RestoreParked(ParkingList::A, hand);
     if (n == LandMultiFamily) {
-        TakeOff([](std::string_view name) { return name == kChroNotice; }, screen);
-        screen.job.txtField(field::PropertyAddress1).tag.clear();
+        TakeOff([](std::string_view name) { return name == kChroNotice; }, hand);
+        hand.job.txtField(field::PropertyAddress1).tag.clear();
     }
-    TurnGroupOff(n, screen.job);
+    TurnGroupOff(n, hand.job);
 }
 
-void ClearGroup(int n, SelectionState& screen) {
+void ClearGroup(int n, JobInHand& hand) {
     if (n == OnePayoff || n == TwoPayoffs) {
-        Park(Payoff, ParkingList::B, screen);
-        TurnGroupOff(n, screen.job);
+        Park(Payoff, ParkingList::B, hand);
+        TurnGroupOff(n, hand.job);
     } else if (n == PowerOfAttorney || n == EstateTrust) {
-        ClearCapacity(n, screen);
+        ClearCapacity(n, hand);
     } else {
-        ClearPropertyType(n, screen);
+        ClearPropertyType(n, hand);
     }
 }
 
 }  // namespace
 
-OptionAction ClickOption(int n, SelectionState& screen, const Office& office) {
-    if (const auto refusal = Refusal(n, screen)) return *refusal;
-    if (screen.optionChangesSuppressed) {
-        TurnOn(n, screen.job);
-        ShowCapacityTooltips(screen);
-        return OptionAction::Done;
-    }
-    RequireRoomFor(n, screen);
-    TurnOn(n, screen.job);
-    if (ChangesAnOpenedJob(screen)) {
-        EnableSave(screen);
-        if (n == Person || n == Entity)
-            for (const int taxId : {field::Seller1TaxId, field::Seller2TaxId})
-                ReformTaxId(taxId, n, screen.job);
-        ApplyInterlocks(screen);
-    }
-    if (!screen.List2.empty()) {
-        CloseDocumentChoice(screen);
-        RebuildValues(n, screen.job);
-        ApplyEffect(n, screen, office);
-        LinesChanged(screen);
-    }
-    RefreshFields(screen, office);
-    JobCountsAsChanged(screen);
-    ShowCapacityTooltips(screen);
-    return OptionAction::Done;
+OptionEffects ChooseOption(int n, JobInHand& hand) {
+    RequireRoomFor(n, hand);
+    TurnOn(n, hand.job);
+    if (hand.mode != ScreenMode::Job && (n == Person || n == Entity))
+        for (const int taxId : {field::Seller1TaxId, field::Seller2TaxId}) ReformTaxId(taxId, n, hand.job);
+    if (hand.List2.empty()) return {};
+    RebuildValues(n, hand.job);
+    ApplyEffect(n, hand);
+    CollectLegalSize(hand);
+    return {.asksFairHousing = n == LandMultiFamily && AsksFairHousing(hand)};
 }
 
-OptionAction DoubleClickOption(int n, SelectionState& screen, const Office& office) {
-    if (const auto refusal = Refusal(n, screen)) return *refusal;
-    if (!GroupMayBeOff(n)) return OptionAction::Done;
-    if (n == OnePayoff || n == TwoPayoffs) RequireParkingRoom(Payoff, ParkingList::B, false, screen);
-    if (ChangesAnOpenedJob(screen)) EnableSave(screen);
-    if (!screen.List2.empty()) CloseDocumentChoice(screen);
-    ClearGroup(n, screen);
-    LinesChanged(screen);
-    if (screen.ScreenMode == screen_mode::kJob) RefreshFields(screen, office);
-    JobCountsAsChanged(screen);
-    return OptionAction::Done;
+std::string AddFairHousingNotice(JobInHand& hand) {
+    AppendLine(kChroNotice, hand);
+    hand.job.txtField(field::PropertyAddress1).tag = std::string(kMultiFamilyTag);
+    return AddedNotice("A CHRO Fair Housing Notice must accompany the contract");
 }
 
-void JobCountsAsChanged(SelectionState& screen) {
-    if (screen.cmdOpen.enabled || screen.txtJobName.locked || !screen.txtJobName.IsSaveable()) return;
-    screen.cmdOpen.caption = "SAVE";
-    screen.cmdOpen.enabled = true;
-    screen.cmdOpen.tooltip = " save data only ";
-    if (screen.cmdCreate.caption != "Re-Make") screen.cmdCreate.caption = "CREATE\n+save";
-    screen.cmdPrintFList.visible = false;
-    screen.cmdNameAs.caption = "Name As";
+void ClearOptionGroup(int n, JobInHand& hand) {
+    if (n == OnePayoff || n == TwoPayoffs) RequireParkingRoom(Payoff, ParkingList::B, false, hand);
+    ClearGroup(n, hand);
+    CollectLegalSize(hand);
 }
 
 }  // namespace quillmark

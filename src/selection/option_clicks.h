@@ -1,31 +1,27 @@
 #pragma once
 
-#include "selection/job_list_parking.h"
-#include "selection/office.h"
-#include "selection/option_buttons.h"
-#include "selection/selection_state.h"
+#include <string>
 
-/// What a click on an option button does beside setting it: it moves documents on and off the job list,
-/// rebuilds values that depend on the option, and closes the choice of documents.
+#include "selection/job_in_hand.h"
+#include "selection/job_list_parking.h"
+
+/// What the choice of an option does beside setting it: it moves documents on and off the job list and
+/// rebuilds values that depend on the option. The fields are the caller's to refresh.
 namespace quillmark {
 
-/// What came of a request; all but Done leave everything as it was.
-enum class OptionAction {
-    Done,
-    NoSuchOption,
-    Disabled,
-    Hidden,
+/// What a chosen option asks of the person.
+struct OptionEffects {
+    /// Public Act 16-16: whether the sale is of rental property, which comes with a notice of fair housing.
+    bool asksFairHousing = false;
 };
 
-/// Click on an option button. While option changes are suppressed it is set and nothing follows. Throws
-/// ParkingFull, with nothing changed, and what `RefreshFields` throws.
-OptionAction ClickOption(int n, SelectionState& screen, const Office& office);
+/// Chooses an option. Throws ParkingFull, with nothing changed.
+OptionEffects ChooseOption(int n, JobInHand& hand);
 
-/// Double-click on an option button: clears its group if that has no button for "none"; buttons of other
-/// groups do nothing. Throws as `ClickOption`.
-OptionAction DoubleClickOption(int n, SelectionState& screen, const Office& office);
+/// The answer that rental property is sold: the notice goes on the list. Gives the notice of the addition.
+std::string AddFairHousingNotice(JobInHand& hand);
 
-/// A job that can be saved and has nothing to save yet: SAVE appears.
-void JobCountsAsChanged(SelectionState& screen);
+/// Clears the group of an option that need not have one set. Throws ParkingFull, with nothing changed.
+void ClearOptionGroup(int n, JobInHand& hand);
 
 }  // namespace quillmark

@@ -100,18 +100,18 @@ std::string_view TagLighting(std::array<bool, 2> lit, TagFamily family) {
     return tag == std::end(kTags) ? std::string_view() : tag->text;
 }
 
-bool PayoffShowsNotes(std::string_view value, const SelectionState& screen) {
+bool PayoffShowsNotes(std::string_view value, const JobInHand& hand) {
     return value.ends_with('T') || value.ends_with('R') ||
-           std::any_of(screen.List2.begin(), screen.List2.end(),
+           std::any_of(hand.List2.begin(), hand.List2.end(),
                        [](const JobListLine& line) { return line.name.find("SMS") != std::string::npos; });
 }
 
-void DrawOptionTags(GridRow& row, const SelectionState& screen) {
+void DrawOptionTags(GridRow& row, const JobInHand& hand) {
     row.notes = {};
     row.lit = {false, false};
     const TagFamily family = TagFamilyOf(row.n);
     if (family == TagFamily::None) return;
-    if (family == TagFamily::Payoff && !PayoffShowsNotes(row.value, screen)) return;
+    if (family == TagFamily::Payoff && !PayoffShowsNotes(row.value, hand)) return;
     if (family == TagFamily::Sewer && row.value == "POC") return;
     for (const Captions& captions : kCaptions) {
         if (captions.family == family)

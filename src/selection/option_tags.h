@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "selection/selection_state.h"
+#include "selection/job_in_hand.h"
 
 /// The option tags of amounts: what stands behind an amount, shown by the two note cells of its row.
 namespace quillmark {
@@ -31,9 +31,9 @@ TaggedValue SplitTag(std::string_view value, TagFamily family);
 std::string_view TagLighting(std::array<bool, 2> lit, TagFamily family);
 
 /// Whether a payoff row has note cells: the job list holds an SMS document, or the value has its tag.
-bool PayoffShowsNotes(std::string_view value, const SelectionState& screen);
+bool PayoffShowsNotes(std::string_view value, const JobInHand& hand);
 
 /// Draws the note cells of a field's row from the field's value, and the value without its tag.
-void DrawOptionTags(GridRow& row, const SelectionState& screen);
+void DrawOptionTags(GridRow& row, const JobInHand& hand);
 
 }  // namespace quillmark

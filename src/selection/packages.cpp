@@ -138,10 +138,11 @@ std::string PackageNameOf(std::string_view line) {
     return std::string(line.substr(kEdge, line.size() - 2 * kEdge));
 }
 
-void FillList1(const PackageFile& packages, const Folders& folders, SelectionState& screen) {
-    screen.List1.clear();
-    for (const Package& package : packages.packages) screen.List1.push_back(PackageLine(package.name));
-    for (std::string& document : OfferedDocuments(folders)) screen.List1.push_back(std::move(document));
+std::vector<std::string> LinesOffered(const PackageFile& packages, const Folders& folders) {
+    std::vector<std::string> lines;
+    for (const Package& package : packages.packages) lines.push_back(PackageLine(package.name));
+    for (std::string& document : OfferedDocuments(folders)) lines.push_back(std::move(document));
+    return lines;
 }
 
 }  // namespace quillmark

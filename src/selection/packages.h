@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "core/folders.h"
-#include "selection/selection_state.h"
 
 /// Packages: named lists of documents, kept in "package.def" in the program folder.
 ///
@@ -67,7 +66,7 @@ std::string PackageLine(std::string_view name);
 bool IsPackageLine(std::string_view line);
 std::string PackageNameOf(std::string_view line);
 
-/// Fills `List1`: packages, the catalogue, the firm's own forms.
-void FillList1(const PackageFile& packages, const Folders& folders, SelectionState& screen);
+/// The lines of `List1`: packages, the catalogue, the firm's own forms.
+std::vector<std::string> LinesOffered(const PackageFile& packages, const Folders& folders);
 
 }  // namespace quillmark

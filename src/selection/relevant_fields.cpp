@@ -9,6 +9,7 @@
 #include "platform/code_page.h"
 #include "platform/paths.h"
 #include "platform/record_file.h"
+#include "selection/document_catalogue.h"
 #include "selection/document_table.h"
 #include "selection/field_defaults.h"
 #include "selection/field_rows.h"
@@ -21,7 +22,6 @@ constexpr int kForwardingAddress[] = {field::SellerFwdAddr1, field::SellerFwdAdd
                                       field::SellerFwdCityStateZip};
 constexpr int kSeller1Address[] = {field::Seller1Addr1, field::Seller1Addr2, field::Seller1CityStateZip};
 constexpr std::size_t kFormListLimit = 1024 * 1024;  ///< bytes of the largest list of markers
-constexpr std::string_view kNewDocument = "[ NEW DOCUMENT ]";
 
 // clang-format off
 constexpr int kOptionalFields[] = {
@@ -36,149 +36,160 @@ bool IsAttorneyField(int n) {
 }
 
 /// One default or none: the field is filled silently, locked, and never seen.
-void FillSilently(int n, std::string_view value, SelectionState& screen) {
-    FieldHolder& holder = screen.job.txtField(n);
-    if (!screen.job.IsFilled(n)) {
-        screen.job.SetField(n, value);
+void FillSilently(int n, std::string_view value, JobInHand& hand) {
+    FieldHolder& holder = hand.job.txtField(n);
+    if (!hand.job.IsFilled(n)) {
+        hand.job.SetField(n, value);
         holder.top = 0;
     }
     holder.locked = true;
 }
 
-void AddField(int n, SelectionState& screen, const Office& office) {
-    FieldHolder& holder = screen.job.txtField(n);
+void AddField(int n, JobInHand& hand, const FirmContext& firm) {
+    FieldHolder& holder = hand.job.txtField(n);
     if (holder.relevant || holder.top == 0) return;
     if (IsAttorneyField(n)) {
-        const std::string value = FieldDefault(FieldMarker(n), screen, office);
+        const std::string value = FieldDefault(FieldMarker(n), hand, firm);
         if (!IsChoiceList(value)) {
-            FillSilently(n, value, screen);
+            FillSilently(n, value, hand);
             return;
         }
     }
     holder.relevant = true;
-    ++screen.relevantFieldCount;
-    if (!holder.locked) screen.job.ClearField(n);
+    ++hand.relevantFieldCount;
+    if (!holder.locked) hand.job.ClearField(n);
 }
 
-void StartAnew(SelectionState& screen) {
+void StartAnew(JobInHand& hand) {
     for (int n = 1; n <= kFields; ++n) {
-        FieldHolder& holder = screen.job.txtField(n);
-        if (!holder.locked) screen.job.SetField(n, "");
+        FieldHolder& holder = hand.job.txtField(n);
+        if (!holder.locked) hand.job.SetField(n, "");
         holder.relevant = false;
         // The property's own mark, a multi-family rental, is not of the documents' making.
         if (n != field::PropertyAddress1) holder.tag.clear();
     }
-    for (OptionButton& button : screen.options) button.enabled = false;
-    screen.lblJump.fill({});
-    screen.grid.clear();
-    screen.userMarkers.clear();
-    screen.relevantFieldCount = 0;
+    hand.groups.fill({});
+    hand.grid.clear();
+    hand.userMarkers.clear();
+    hand.relevantFieldCount = 0;
 }
 
-void EnableOptions(const DocumentFields& row, SelectionState& screen) {
-    for (const int option : row.options) screen.options[static_cast<std::size_t>(option)].enabled = true;
-    const bool isClosingStatement = row.document.starts_with("Closing Statement");
-    if (isClosingStatement && !screen.job.optConf(Condo)) screen.options[LandMultiFamily].enabled = true;
-}
+/// Collects what the documents of a list ask for.
+class NeedsReader {
+ public:
+    NeedsReader(const Job& job, const std::filesystem::path& customForms)
+        : job_(job), customForms_(customForms) {}
 
-void ApplyAddition(const Addition& addition, SelectionState& screen, const Office& office) {
-    if (screen.job.optConf(addition.option) == (addition.when == When::NotOption)) return;
-    AddFields(addition.fields, screen, office);
-    if (addition.when != When::Principal) return;
-    if (screen.job.IsFilled(field::Seller2Name))
-        AddField(field::PrincipalOfPower, screen, office);
-    else
-        screen.job.ClearField(field::PrincipalOfPower);
-}
+    void ReadEntry(std::string_view entry) {
+        if (const DocumentFields* row = FieldsOfDocument(entry)) return ReadDocument(*row);
+        const std::string_view custom = CustomDocumentName(entry);
+        if (!custom.empty()) ReadCustomDocument(custom);
+    }
 
-void ApplyDocument(const DocumentFields& row, SelectionState& screen, const Office& office) {
-    AddFields(row.fields, screen, office);
-    EnableOptions(row, screen);
-    for (const Addition& addition : row.additions) ApplyAddition(addition, screen, office);
-    if (!row.capacity.empty()) screen.job.txtField(field::Seller1Name).tag = row.capacity;
-}
+    JobNeeds Take() {
+        if (mailingAddress_) {
+            const bool forwards = job_.IsFilled(field::SellerFwdAddr1);
+            Add(forwards ? kForwardingAddress : kSeller1Address);
+        }
+        return std::move(needs_);
+    }
 
-void AddUserMarker(std::string marker, SelectionState& screen) {
-    auto& markers = screen.userMarkers;
-    if (std::find(markers.begin(), markers.end(), marker) == markers.end())
-        markers.push_back(std::move(marker));
-}
+ private:
+    void Add(std::span<const int> fields) {
+        for (const int n : fields) {
+            if (seen_[static_cast<std::size_t>(n)]) continue;
+            seen_[static_cast<std::size_t>(n)] = true;
+            needs_.fields.push_back(n);
+        }
+    }
 
-/// The markers that a custom document holds, as its list beside the document has them.
-void ApplyCustomDocument(std::string_view name, SelectionState& screen, const Office& office) {
-    const auto file = FindExisting(office.folders.CustomFormsFolder / PathOf(std::string(name) + ".inf"));
-    const std::string bytes = ReadFile(file, kFormListLimit);
-    RecordReader records(TextOf(file), bytes);
-    std::vector<int> fields = {field::DocumentDate};
-    while (records.Next()) {
-        const int n = static_cast<int>(records.Number(1));
-        if (n < 0 || n > kFields) records.Fail("there is no field " + std::to_string(n));
-        if (n == 0)
-            AddUserMarker(records.Text(0), screen);
+    void AddUserMarker(std::string marker) {
+        auto& markers = needs_.userMarkers;
+        if (std::find(markers.begin(), markers.end(), marker) == markers.end())
+            markers.push_back(std::move(marker));
+    }
+
+    void ReadDocument(const DocumentFields& row) {
+        Add(row.fields);
+        for (const int option : row.options) needs_.options.set(static_cast<std::size_t>(option));
+        if (row.document.starts_with(kClosingStatement) && !job_.optConf(Condo))
+            needs_.options.set(LandMultiFamily);
+        for (const Addition& addition : row.additions) ReadAddition(addition);
+        if (!row.capacity.empty()) needs_.capacity = row.capacity;
+        mailingAddress_ |= row.mailingAddress;
+    }
+
+    void ReadAddition(const Addition& addition) {
+        if (job_.optConf(addition.option) == (addition.when == When::NotOption)) return;
+        Add(addition.fields);
+        if (addition.when != When::Principal) return;
+        constexpr int kPrincipal[] = {field::PrincipalOfPower};
+        if (job_.IsFilled(field::Seller2Name))
+            Add(kPrincipal);
         else
-            fields.push_back(n);
+            needs_.principalIsSeller = true;
     }
-    AddFields(fields, screen, office);
-}
 
-bool ApplyEntry(const std::string& entry, SelectionState& screen, const Office& office) {
-    if (const DocumentFields* row = FieldsOfDocument(entry)) {
-        ApplyDocument(*row, screen, office);
-        return row->mailingAddress;
+    /// The markers that a custom document holds, as its list beside the document has them.
+    void ReadCustomDocument(std::string_view name) {
+        const auto file = FindExisting(customForms_ / PathOf(std::string(name) + ".inf"));
+        const std::string bytes = ReadFile(file, kFormListLimit);
+        RecordReader records(TextOf(file), bytes);
+        std::vector<int> fields = {field::DocumentDate};
+        while (records.Next()) {
+            const int n = static_cast<int>(records.Number(1));
+            if (n < 0 || n > kFields) records.Fail("there is no field " + std::to_string(n));
+            if (n == 0)
+                AddUserMarker(records.Text(0));
+            else
+                fields.push_back(n);
+        }
+        Add(fields);
     }
-    const std::string_view custom = CustomDocumentName(entry);
-    if (!custom.empty()) ApplyCustomDocument(custom, screen, office);
-    return false;
-}
 
-void ApplyJobList(SelectionState& screen, const Office& office) {
-    bool mailingAddress = false;
-    for (std::size_t i = 0; i < screen.List2.size(); ++i)
-        mailingAddress |= ApplyEntry(screen.List2[i].name, screen, office);
-    if (mailingAddress) {
-        const bool forwards = screen.job.IsFilled(field::SellerFwdAddr1);
-        AddFields(forwards ? kForwardingAddress : kSeller1Address, screen, office);
-    }
-    const std::string capacity = screen.job.txtField(field::Seller1Name).tag;
+    const Job& job_;
+    const std::filesystem::path& customForms_;
+    JobNeeds needs_;
+    std::array<bool, kFields + 1> seen_ = {};
+    bool mailingAddress_ = false;
+};
+
+void ApplyNeeds(const JobNeeds& needs, JobInHand& hand, const FirmContext& firm) {
+    AddFields(needs.fields, hand, firm);
+    for (const std::string& marker : needs.userMarkers)
+        if (std::find(hand.userMarkers.begin(), hand.userMarkers.end(), marker) == hand.userMarkers.end())
+            hand.userMarkers.push_back(marker);
+    if (needs.principalIsSeller) hand.job.ClearField(field::PrincipalOfPower);
+    std::string& capacity = hand.job.txtField(field::Seller1Name).tag;
+    if (!needs.capacity.empty()) capacity = needs.capacity;
     if (!capacity.empty())
-        screen.job.SetField(field::FiduciaryType, capacity);
-    else if (screen.job.optConf(EstateTrust) && !screen.List2.empty())
-        AddField(field::FiduciaryType, screen, office);
+        hand.job.SetField(field::FiduciaryType, std::string(capacity));
+    else if (hand.job.optConf(EstateTrust) && !hand.List2.empty())
+        AddField(field::FiduciaryType, hand, firm);
 }
 
 /// The first of several choices is what an attorney's field starts with.
-void StartWithFirstChoices(SelectionState& screen, const Office& office) {
+void StartWithFirstChoices(JobInHand& hand, const FirmContext& firm) {
     for (int n = field::SellerLawfirm; n <= field::SellerAttyFax; ++n) {
-        if (screen.job.IsFilled(n)) continue;
-        screen.job.SetField(n, FirstChoice(FieldDefault(FieldMarker(n), screen, office)));
+        if (hand.job.IsFilled(n)) continue;
+        hand.job.SetField(n, FirstChoice(FieldDefault(FieldMarker(n), hand, firm)));
     }
 }
 
 /// The choice that took documents off the list must be there to bring them back.
-void KeepWaysBack(SelectionState& screen) {
-    const auto enable = [&](std::initializer_list<int> options) {
-        for (const int n : options) screen.options[static_cast<std::size_t>(n)].enabled = true;
+OptionSet WaysBack(const JobInHand& hand) {
+    OptionSet options;
+    const auto add = [&](std::initializer_list<Option> ways) {
+        for (const Option n : ways) options.set(n);
     };
-    if (!screen.ParkedDocuments[0].empty()) enable({Person, Entity, Condo, Commercial});
-    if (!screen.ParkedDocuments[1].empty()) enable({OnePayoff, TwoPayoffs});
-}
-
-void ApplyExclusions(SelectionState& screen) {
-    const Job& job = screen.job;
-    const auto exclude = [&](int option, std::initializer_list<int> others) {
-        for (const int other : others)
-            if (job.optConf(other)) screen.options[static_cast<std::size_t>(option)].enabled = false;
-    };
-    exclude(TwoSellers, {EstateTrust, Entity});
-    exclude(Entity, {EstateTrust, PowerOfAttorney, TwoSellers});
-    exclude(PowerOfAttorney, {Entity});
-    exclude(EstateTrust, {Entity, TwoSellers});
-    if (screen.options[LandMultiFamily].enabled) screen.options[LandMultiFamily].visible = true;
+    if (!hand.ParkedDocuments[0].empty()) add({Person, Entity, Condo, Commercial});
+    if (!hand.ParkedDocuments[1].empty()) add({OnePayoff, TwoPayoffs});
+    return options;
 }
 
 /// In a template every user-defined field can be given a value.
-std::vector<std::string> AllUserMarkers(const Office& office) {
-    const auto file = FindExisting(office.folders.CustomFormsFolder / "userfields.lst");
+std::vector<std::string> AllUserMarkers(const FirmContext& firm) {
+    const auto file = FindExisting(firm.folders.CustomFormsFolder / "userfields.lst");
     std::vector<std::string> markers;
     if (!std::filesystem::exists(file)) return markers;
     const std::string names = FromWindows1252(ReadFile(file, kFormListLimit));
@@ -188,21 +199,6 @@ std::vector<std::string> AllUserMarkers(const Office& office) {
         at = end + 1;
     }
     return markers;
-}
-
-void ShowGuidance(SelectionState& screen) {
-    for (JumpLabel& label : screen.lblJump) label.current = false;
-    const auto first = std::find_if(screen.lblJump.begin(), screen.lblJump.end(),
-                                    [](const JumpLabel& label) { return label.enabled; });
-    if (first != screen.lblJump.end()) first->current = true;
-    screen.picInfo = " Click an item for edit";
-    if (screen.ScreenMode == screen_mode::kPresets) {
-        screen.picInfo += ".  Use scroll bar or jump labels to navigate";
-        return;
-    }
-    screen.picInfo += " (Double-Click if locked)";
-    if (screen.ScreenMode == screen_mode::kEdit)
-        screen.picInfo += ".  Use Enter, Tab, or Up/Down Arrow keys to navigate";
 }
 
 }  // namespace
@@ -218,12 +214,12 @@ std::string_view CustomDocumentName(std::string_view entry) {
     return entry.substr(2, entry.size() - 4);
 }
 
-void AddFields(std::span<const int> fields, SelectionState& screen, const Office& office) {
-    for (const int n : fields) AddField(n, screen, office);
+void AddFields(std::span<const int> fields, JobInHand& hand, const FirmContext& firm) {
+    for (const int n : fields) AddField(n, hand, firm);
 }
 
-void CountFields(SelectionState& screen) {
-    const Job& job = screen.job;
+void CountFields(JobInHand& hand) {
+    const Job& job = hand.job;
     int open = 0;
     int optional = 0;
     for (int n = 1; n <= kFields; ++n) {
@@ -232,34 +228,38 @@ void CountFields(SelectionState& screen) {
         if (IsOptionalField(n, job)) ++optional;
     }
     std::array<int, 7> openInGroup = {};
-    for (std::size_t i = 0; i + 1 < screen.grid.size(); ++i) {
-        const GridRow& row = screen.grid[i];
+    for (std::size_t i = 0; i + 1 < hand.grid.size(); ++i) {
+        const GridRow& row = hand.grid[i];
         if (row.label.ends_with('*'))
             ++openInGroup[static_cast<std::size_t>(GroupOfKey(row.key))];
         else if (row.kind == RowKind::User && row.value.empty())
             ++open;
     }
-    for (std::size_t group = 1; group < openInGroup.size(); ++group) {
-        JumpLabel& label = screen.lblJump[group];
-        label.complete = screen.ScreenMode == screen_mode::kJob && label.enabled && openInGroup[group] == 0;
+    for (std::size_t g = 1; g < openInGroup.size(); ++g) {
+        GridGroup& group = hand.groups[g];
+        group.complete = hand.mode == ScreenMode::Job && group.HasRows() && openInGroup[g] == 0;
     }
-    screen.total = screen.relevantFieldCount;
-    screen.remaining = open - optional;
+    hand.total = hand.relevantFieldCount;
+    hand.remaining = open - optional;
 }
 
-void RefreshFields(SelectionState& screen, const Office& office, bool headingsOnly) {
-    if (!headingsOnly) {
-        if (screen.ScreenMode == screen_mode::kJob) StartAnew(screen);
-        ApplyJobList(screen, office);
-        StartWithFirstChoices(screen, office);
-        KeepWaysBack(screen);
-        ApplyExclusions(screen);
-        if (screen.ScreenMode == screen_mode::kPresets) screen.userMarkers = AllUserMarkers(office);
-        RebuildRows(screen);
-    }
-    PlaceHeadings(screen);
-    if (screen.ScreenMode == screen_mode::kJob) CountFields(screen);
-    ShowGuidance(screen);
+JobNeeds NeedsOf(const std::vector<JobListLine>& list, const Job& job,
+                 const std::filesystem::path& customForms) {
+    NeedsReader reader(job, customForms);
+    for (const JobListLine& line : list) reader.ReadEntry(line.name);
+    return reader.Take();
+}
+
+OptionSet RefreshFields(JobInHand& hand, const FirmContext& firm) {
+    if (hand.mode == ScreenMode::Job) StartAnew(hand);
+    const JobNeeds needs = NeedsOf(hand.List2, hand.job, firm.folders.CustomFormsFolder);
+    ApplyNeeds(needs, hand, firm);
+    StartWithFirstChoices(hand, firm);
+    if (hand.mode == ScreenMode::Presets) hand.userMarkers = AllUserMarkers(firm);
+    RebuildRows(hand);
+    PlaceHeadings(hand);
+    if (hand.mode == ScreenMode::Job) CountFields(hand);
+    return needs.options | WaysBack(hand);
 }
 
 }  // namespace quillmark

@@ -1,11 +1,16 @@
+#include "session/create_command.h"
+
+#include <algorithm>
+
 #include "core/fields.h"
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
 #include "production/run/create_checks.h"
 #include "production/run/create_notices.h"
 #include "selection/relevant_fields.h"
-#include "session/info_bar.h"
-#include "session/main_screen.h"
+#include "session/state/buttons.h"
+#include "session/state/info_bar.h"
+#include "session/state/ready.h"
 #include "word/trace.h"
 
 namespace quillmark {
@@ -14,11 +19,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kReMake = "Re-Make";
-
 /// The document's date does not count: no job file holds it, and an undated job is dated on the day it is
 /// made.
-bool RequiredFieldsAreDone(const SelectionState& screen) {
+bool RequiredFieldsAreDone(const ScreenState& screen) {
     for (int n = field::DocumentDate + 1; n <= kFields; ++n) {
         const FieldHolder& holder = screen.job.txtField(n);
         if (holder.relevant && holder.text == FieldMarker(n) && !IsOptionalField(n, screen.job)) return false;
@@ -44,12 +47,12 @@ fs::path DocumentPath(const fs::path& target, const std::string& name, Shell& sh
     return FreeName(folder / PathOf((name.empty() ? "Untitled" : name) + "_QMF.docx"));
 }
 
-void ShowProgress(const CreateProgress& progress, SelectionState& screen) {
+void ShowProgress(const CreateProgress& progress, ScreenState& screen) {
     screen.progress = {true, progress.value, progress.maximum};
     if (progress.document > progress.documents) screen.message = " Finalizing Job Please Wait";
 }
 
-void EndWaiting(SelectionState& screen) {
+void EndWaiting(ScreenState& screen) {
     screen.waiting = false;
     screen.progress = {};
     screen.message.clear();
@@ -69,21 +72,22 @@ std::string InOneLine(std::string_view text) {
 
 }  // namespace
 
-void MainScreen::SetCreateTarget(fs::path to, fs::path trace) {
-    createTo_ = std::move(to);
-    createTrace_ = std::move(trace);
+void CreateCommand::SetTarget(fs::path to, fs::path trace) {
+    to_ = std::move(to);
+    trace_ = std::move(trace);
 }
 
-void MainScreen::Create() {
+void CreateCommand::Run() {
+    RequireReady(screen_);
     Require(!screen_.List2.empty(), "the job list is empty");
     lastDocument_.reset();
-    creating_ = true;
+    screen_.creating = true;
     try {
         EndFormerRun();
         if (MayCreate()) MakeDocuments();
-        creating_ = false;
+        screen_.creating = false;
     } catch (...) {
-        creating_ = false;
+        screen_.creating = false;
         const CreateError failure = CreateError::OfPresentException();
         EndFailedRun(failure);
         throw CreateError(failure.number(), failure.Message() + ": " + failure.what());
@@ -91,7 +95,7 @@ void MainScreen::Create() {
 }
 
 /// Of the document of the run before, Re-Make makes another one.
-void MainScreen::EndFormerRun() {
+void CreateCommand::EndFormerRun() {
     if (!run_) return;
     const std::unique_ptr<CreateRun> former = std::move(run_);
     try {
@@ -100,11 +104,11 @@ void MainScreen::EndFormerRun() {
         // The user may have closed it already.
         if (failure.number() != word::error::kServerGone) throw;
     }
-    LetRepaint();
+    machine_.LetRepaint();
 }
 
-bool MainScreen::MayCreate() {
-    if (screen_.cmdCreate.caption != kReMake && !RequiredFieldsAreDone(screen_) &&
+bool CreateCommand::MayCreate() {
+    if (screen_.createDoes != CreateDoes::ReMake && !RequiredFieldsAreDone(screen_) &&
         !machine_.dialogs.Confirm("  ALERT",
                                   "You have not completed all the required fields.\nProceed anyway ???",
                                   DialogButton::No))
@@ -114,66 +118,66 @@ bool MainScreen::MayCreate() {
         return false;
     }
     screen_.cmdOpen.enabled = false;
-    return MayOverwrite();
+    return files_.MayOverwrite();
 }
 
-CreateOrder MainScreen::OrderOfRun(const std::shared_ptr<std::string>& trace) {
+CreateOrder CreateCommand::OrderOfRun(const std::shared_ptr<std::string>& trace) {
     CreateOrder order;
     for (const JobListLine& line : screen_.List2) order.DocumentNames.push_back(line.name);
     order.LegalList = screen_.LegalList;
-    order.settings = settings_;
+    order.settings = firm_.settings();
     order.today = machine_.clock.Today();
     order.nameUsable = screen_.txtJobName.IsSaveable();
     order.dialogs = &machine_.dialogs;
     // The word processor outlives this run, and so must the trace that it writes to.
     order.startWord = [this, trace] {
         word::StartedWordProcessor started = machine_.startWord();
-        if (!createTrace_.empty())
+        if (!trace_.empty())
             started.application = word::Trace(
                 started.application, [trace](std::string_view line) { trace->append(line).append("\n"); });
         return started;
     };
     order.onProgress = [this](const CreateProgress& progress) {
         ShowProgress(progress, screen_);
-        LetRepaint();
+        machine_.LetRepaint();
     };
     return order;
 }
 
-void MainScreen::MakeDocuments() {
+void CreateCommand::MakeDocuments() {
     const NameBox& box = screen_.txtJobName;
     screen_.job.name = box.IsSaveable() ? box.text : std::string();
     const auto trace = std::make_shared<std::string>();
     auto run = std::make_unique<CreateRun>(screen_.job, OrderOfRun(trace));
     screen_.waiting = true;
     run->Produce();
-    const std::string notFed = FeedBooks();
+    const std::string notFed = files_.FeedBooks();
     run->PutValuesBack();
     fs::path document;
     run->Attempt([&] {
         document = SaveDocument(*run);
         if (box.IsSaveable()) KeepMadeJob();
         ShowNotices(run->CreateNotices());
-        TellOfBooks(notFed);
+        files_.TellOfBooks(notFed);
         run->RestoreCheckers();
         ShowAsMade();
     });
     run->Show();
     run->Attempt([&] {
-        if (!createTrace_.empty()) ReplaceFile(createTrace_, *trace);
+        if (!trace_.empty()) ReplaceFile(trace_, *trace);
     });
-    const bool opens = run->IsEmbedded() && createTo_.empty();
+    const bool opens = run->IsEmbedded() && to_.empty();
     run_ = std::move(run);
     lastDocument_ = document;
     if (opens) OpenDocument(document);
 }
 
 /// The file that the document is in now; empty while the word processor alone has it.
-fs::path MainScreen::SaveDocument(CreateRun& run) {
+fs::path CreateCommand::SaveDocument(CreateRun& run) {
     const std::string& name = screen_.job.name;
-    const bool keeps = run.IsEmbedded() || !createTo_.empty() || (settings_.wordAutoSave && !name.empty());
+    const bool keeps = run.IsEmbedded() || !to_.empty() || (firm_.settings().wordAutoSave && !name.empty());
     if (!keeps) return {};
-    fs::path file = DocumentPath(createTo_, name, machine_.shell);
+    fs::path file = DocumentPath(to_, name, machine_.shell);
     try {
         run.session().WordDoc.SaveAs(TextOf(file));
     } catch (const word::AutomationError& failure) {
@@ -185,22 +189,22 @@ fs::path MainScreen::SaveDocument(CreateRun& run) {
 }
 
 /// The job's file with what has been made for it.
-void MainScreen::KeepMadeJob() {
+void CreateCommand::KeepMadeJob() {
     std::string& history = screen_.job.JobDocuments;
     const std::string former = history;
     for (const JobListLine& line : screen_.List2)
         if (history.find(line.name) == history.npos) history += line.name + ":";
     try {
-        WriteJob();
+        files_.Write();
     } catch (...) {
         history = former;
         throw;
     }
-    CountAsSaved();
+    files_.CountAsSaved();
 }
 
-void MainScreen::ShowNotices(const std::string& letters) {
-    const std::string notices = settings_.documentAlerts ? TextOfNotices(letters) : std::string();
+void CreateCommand::ShowNotices(const std::string& letters) {
+    const std::string notices = firm_.settings().documentAlerts ? TextOfNotices(letters) : std::string();
     if (!notices.empty())
         machine_.dialogs.Tell("  IMPORTANT NOTICES ABOUT THE DOCUMENTS YOU JUST CREATED", notices,
                               DialogIcon::Information);
@@ -211,16 +215,16 @@ void MainScreen::ShowNotices(const std::string& letters) {
     if (!reminder.empty()) machine_.dialogs.Tell("  REMINDER", reminder, DialogIcon::Information);
 }
 
-void MainScreen::ShowAsMade() {
+void CreateCommand::ShowAsMade() {
     EndWaiting(screen_);
-    screen_.cmdCreate.caption = kReMake;
+    ShowCreate(CreateDoes::ReMake, screen_);
     screen_.cmdEnvelopes.enabled = screen_.cmdOP236.enabled = true;
     ShowInfo({{" Edit fields and Re-Make/Save OR click 'RESET' to clear & start over", InfoColour::Blue}},
              screen_);
-    LetRepaint();
+    machine_.LetRepaint();
 }
 
-void MainScreen::OpenDocument(const fs::path& document) {
+void CreateCommand::OpenDocument(const fs::path& document) {
     try {
         machine_.shell.Open(TextOf(document));
     } catch (const MachineError& failure) {
@@ -230,7 +234,7 @@ void MainScreen::OpenDocument(const fs::path& document) {
 }
 
 /// The word processor has gone by now. The job's own changes can be saved before the screen is empty.
-void MainScreen::EndFailedRun(const CreateError& failure) {
+void CreateCommand::EndFailedRun(const CreateError& failure) {
     screen_.waiting = false;
     machine_.dialogs.Tell(" FAILED !!!", failure.Message(), DialogIcon::Stop);
     EndWaiting(screen_);
@@ -238,18 +242,26 @@ void MainScreen::EndFailedRun(const CreateError& failure) {
         ShowInfo({{" ERROR:  ", InfoColour::Black}, {InOneLine(failure.what()), InfoColour::Red}}, screen_);
     };
     showError();
-    if (screen_.cmdOpen.caption == "SAVE") screen_.cmdOpen.enabled = true;
+    if (screen_.Saves()) screen_.cmdOpen.enabled = true;
     try {
-        ResetSession();
+        reset_();
     } catch (const std::exception& unsaved) {
         machine_.dialogs.Tell("  ALERT", unsaved.what(), DialogIcon::Stop);
     }
     showError();
-    LetRepaint();
+    machine_.LetRepaint();
 }
 
-void MainScreen::LetRepaint() const {
-    if (machine_.onProgress) machine_.onProgress();
+void CreateCommand::QuitWord() {
+    try {
+        if (run_) run_->session().WordApp.Quit();
+    } catch (const word::AutomationError&) {
+    }
+}
+
+void CreateCommand::Forget() {
+    run_.reset();
+    lastDocument_.reset();
 }
 
 }  // namespace quillmark

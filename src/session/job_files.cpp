@@ -1,4 +1,4 @@
-#include "core/job_file.h"
+#include "session/job_files.h"
 
 #include <fmt/format.h>
 
@@ -6,15 +6,18 @@
 #include <utility>
 
 #include "core/fields.h"
+#include "core/job_file.h"
 #include "core/text_conversions.h"
 #include "entry/address_book_fields.h"
+#include "entry/field_listing.h"
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
 #include "selection/document_catalogue.h"
-#include "selection/field_listing.h"
-#include "selection/option_buttons.h"
-#include "session/info_bar.h"
-#include "session/main_screen.h"
+#include "session/grid/refresh.h"
+#include "session/state/buttons.h"
+#include "session/state/info_bar.h"
+#include "session/state/ready.h"
+#include "session/state/stages.h"
 
 namespace quillmark {
 
@@ -35,25 +38,54 @@ auto RetriedWhileInUse(Step step) {
     }
 }
 
+bool IsDataFile(const fs::path& path) {
+    return Lowered(TextOf(path.extension())) == ".dat";
+}
+
+bool IsThere(const fs::path& path) {
+    std::error_code ignored;
+    return fs::exists(path, ignored);
+}
+
+/// A job file that stands elsewhere may have its pictures with it.
+JobSource SourceOf(const fs::path& file, const Folders& folders) {
+    const fs::path beside = fs::absolute(file).parent_path() / "images";
+    return {file, TextOf(file.stem()), IsThere(beside) ? beside : folders.ImagesFolder};
+}
+
 }  // namespace
 
-bool MainScreen::JobExists(std::string_view name) const {
-    if (screen_.txtJobName.locked || screen_.cmdCreate.caption == "Re-Make") return false;
-    return fs::exists(JobFilePath(folders_, name));
+JobSource FindJob(const std::string& text, const Folders& folders) {
+    const fs::path path = PathOf(text);
+    const bool isPath = path.has_parent_path() || IsDataFile(path);
+    if (isPath && IsThere(path)) return SourceOf(path, folders);
+    const fs::path inFolder = JobFilePath(folders, IsDataFile(path) ? TextOf(path.stem()) : text);
+    if (!path.has_parent_path() && IsThere(inFolder)) return SourceOf(inFolder, folders);
+    if (isPath) throw FileError(path, FileError::Kind::NotFound, "there is no such job file");
+    throw FileError(inFolder, FileError::Kind::NotFound, "there is no such job");
+}
+
+JobSource JobInFolder(std::string_view name, const Folders& folders) {
+    return {JobFilePath(folders, name), std::string(name), folders.ImagesFolder};
+}
+
+bool JobFiles::Exists(std::string_view name) const {
+    if (screen_.txtJobName.locked || screen_.createDoes == CreateDoes::ReMake) return false;
+    return fs::exists(JobFilePath(firm_.folders(), name));
 }
 
 /// Another computer has saved the job since it was opened here.
-bool MainScreen::ChangedByOthers() const {
-    const fs::path file = JobFilePath(folders_, screen_.txtJobName.text);
+bool JobFiles::ChangedByOthers() const {
+    const fs::path file = JobFilePath(firm_.folders(), screen_.txtJobName.text);
     if (!screen_.txtJobName.locked || knownFile_.empty() || !fs::exists(file)) return false;
     return RetriedWhileInUse([&] { return ReadFile(file, kJobFileLimit); }) != knownFile_;
 }
 
-bool MainScreen::MayOverwrite() {
+bool JobFiles::MayOverwrite() {
     NameBox& box = screen_.txtJobName;
-    if (!JobExists(box.text) && !ChangedByOthers()) return true;
-    const InfoColour name = creating_ ? InfoColour::Red : InfoColour::Black;
-    const InfoColour rest = creating_ ? InfoColour::Black : InfoColour::Red;
+    if (!Exists(box.text) && !ChangedByOthers()) return true;
+    const InfoColour name = screen_.creating ? InfoColour::Red : InfoColour::Black;
+    const InfoColour rest = screen_.creating ? InfoColour::Black : InfoColour::Red;
     ShowInfo({{" WARNING:  A file by the name  ", rest},
               {box.text, name},
               {"  already exists in the database!", rest}},
@@ -69,156 +101,144 @@ bool MainScreen::MayOverwrite() {
         return true;
     }
     box.enabled = true;
-    FocusName();
+    nameBox_.Focus();
     screen_.picInfo = " Choose a different name for this file or click RESET to start over";
-    screen_.cmdOpen.enabled = screen_.cmdOpen.caption == "SAVE";
+    screen_.cmdOpen.enabled = screen_.Saves();
     return false;
 }
 
-AddressBooks MainScreen::Books() const {
-    return {folders_.DatabasePath, machine_.clock, machine_.waitForBooks};
-}
-
-/// Adds the job's addresses to the books. Gives what kept any of them out, a line each: the books are a
-/// convenience, and nothing about them may stand in the way of the job's own file.
-std::string MainScreen::FeedBooks() const {
+std::string JobFiles::FeedBooks() const {
     try {
-        return fmt::format("{}", fmt::join(SaveToDatabases(screen_.job, Books()).leftOut, "\n"));
+        return fmt::format("{}", fmt::join(SaveToDatabases(screen_.job, firm_.Books()).leftOut, "\n"));
     } catch (const std::exception& failure) {
         return failure.what();
     }
 }
 
-void MainScreen::TellOfBooks(const std::string& notFed) {
+void JobFiles::TellOfBooks(const std::string& notFed) {
     if (notFed.empty()) return;
     machine_.dialogs.Tell("  ALERT",
                           "Addresses of this job were not added to the address databases.\n\n" + notFed,
                           DialogIcon::Warning);
 }
 
-void MainScreen::Save() {
-    if (SettingsListShown()) return SaveSettings();
-    Require(screen_.txtJobName.IsSaveable(), "the job has no name to save it under");
-    SaveJob();
-}
-
-void MainScreen::SaveJob() {
+void JobFiles::Save() {
     NameBox& box = screen_.txtJobName;
-    if (screen_.ScreenMode == screen_mode::kPresets && !IsTemplateName(box.text))
-        box.text = TemplateName(box.text);
+    Require(box.IsSaveable(), "the job has no name to save it under");
+    if (screen_.mode == ScreenMode::Presets && !IsTemplateName(box.text)) box.text = TemplateName(box.text);
     screen_.job.name = box.text;
     if (!MayOverwrite()) return;
     const std::string notFed = FeedBooks();
-    WriteJob();
+    Write();
     CountAsSaved();
     TellOfBooks(notFed);
 }
 
-void MainScreen::WriteJob() {
+void JobFiles::Write() {
     Job& job = screen_.job;
     const std::string& attorney = job.D(field::SellerAtty);
     const std::string& juris = job.D(field::Part(1, field::SellerAtty));
     if (attorney.find('/') == std::string::npos && !juris.empty())
         job.SetValue(field::SellerAtty, attorney + "/" + juris);
-    RetriedWhileInUse([&] { SaveJobFiles(folders_, job); });
+    RetriedWhileInUse([&] { SaveJobFiles(firm_.folders(), job); });
     knownFile_ = JobFileRecords(job);
 }
 
-/// After a save there is nothing more to save, and the name belongs to a file.
-void MainScreen::CountAsSaved() {
+void JobFiles::CountAsSaved() {
     screen_.txtJobName.locked = true;
     screen_.cmdOpen.enabled = false;
-    screen_.cmdPrintFList.visible = screen_.ScreenMode == screen_mode::kJob && !screen_.List2.empty();
-    screen_.cmdNameAs.caption = "Rename";
-    if (screen_.ScreenMode != screen_mode::kEdit) return;
+    screen_.cmdPrintFList.visible = screen_.mode == ScreenMode::Job && !screen_.List2.empty();
+    ShowNameAs(NameAsDoes::Rename, screen_);
+    if (screen_.mode != ScreenMode::Edit) return;
     screen_.cmdNameAs.enabled = true;
     if (screen_.currentRow < 0 || screen_.currentRow >= static_cast<int>(screen_.grid.size())) return;
-    SetRowState(screen_.grid[static_cast<std::size_t>(screen_.currentRow)], "OFF", screen_);
+    SetLocked(screen_.grid[static_cast<std::size_t>(screen_.currentRow)], false, screen_);
 }
 
-void MainScreen::LoadJob(std::string_view name, bool asTemplate) {
+void JobFiles::Load(std::string_view name, bool asTemplate) {
     if (name == kNewTemplateEntry) {
         screen_.txtJobName.text.clear();
-        CloseBrowser();
-        Refresh();
-        return;
+        screen_.browserOpen = false;
+        return Refresh(screen_, firm_.Context(), editor_);
     }
-    const fs::path file = JobFilePath(folders_, name);
-    if (!fs::exists(file)) {
+    const JobSource source = JobInFolder(name, firm_.folders());
+    if (!fs::exists(source.file)) {
         machine_.dialogs.Tell("", "File No Longer Exists", DialogIcon::Warning);
         return;
     }
+    LoadFrom(source, asTemplate);
+}
+
+void JobFiles::LoadFrom(const JobSource& source, bool asTemplate) {
     Job& job = screen_.job;
-    const std::string former = std::exchange(job.name, std::string(name));
+    const std::string former = std::exchange(job.name, source.name);
     try {
-        knownFile_ = RetriedWhileInUse([&] { return ReadFile(file, kJobFileLimit); });
-        RetriedWhileInUse([&] { ReadJobFile(folders_, file, job, asTemplate); });
+        Folders folders = firm_.folders();
+        folders.ImagesFolder = source.ImagesFolder;
+        knownFile_ = RetriedWhileInUse([&] { return ReadJobFile(folders, source.file, job, asTemplate); });
     } catch (...) {
         job.name = former;
         throw;
     }
     NameBox& box = screen_.txtJobName;
     box.locked = true;
-    CloseBrowser();
-    screen_.browsedFile = name;
+    screen_.browserOpen = false;
+    screen_.fromTemplate = IsTemplateName(source.name);
     if (asTemplate) {
-        box.text = name;
-        Refresh();
+        box.text = source.name;
+        Refresh(screen_, firm_.Context(), editor_);
         screen_.currentRow = screen_.grid.empty() ? -1 : 0;
         return;
     }
     FillList2FromHistory();
     if (box.text.empty()) {
-        box.text = name;
+        box.text = source.name;
         ShowAsOpened();
     }
-    Refresh();
+    Refresh(screen_, firm_.Context(), editor_);
     screen_.cmdCreate.enabled = !screen_.List2.empty();
-    ShowNameGuidance();
+    nameBox_.ShowGuidance();
 }
 
-void MainScreen::ShowAsOpened() {
-    screen_.cmdOpen = {"EDIT", " edit file data ", true, true};
+void JobFiles::ShowAsOpened() {
+    Enter(Stage::Opened, screen_);
     screen_.cmdEnvelopes.enabled = screen_.cmdOP236.enabled = true;
-    screen_.cmdNameAs = {"Rename", "", true, true};
-    screen_.cmdTemplate.enabled = screen_.cmdPackages.enabled = screen_.cmdCustom.enabled = false;
+    ShowNameAs(NameAsDoes::Rename, screen_);
+    screen_.cmdNameAs.enabled = screen_.cmdNameAs.visible = true;
 }
 
 /// The documents once made for the job are its job list again.
-void MainScreen::FillList2FromHistory() {
+void JobFiles::FillList2FromHistory() {
     screen_.List2.clear();
     for (std::string& name : DocumentsOf(screen_.job.JobDocuments))
         screen_.List2.push_back({std::move(name), false});
     screen_.List2Enabled = !screen_.List2.empty();
-    screen_.List2Tooltip = screen_.List2.empty() ? "" : " Click to select doc(s) for legal size (8.5 x 14) ";
 }
 
-void MainScreen::Spawn(std::string_view entry) {
+void JobFiles::Spawn(std::string_view entry) {
     constexpr std::size_t kBegin = 2;  // "{ "
     constexpr std::size_t kEnd = 11;   // "_template }"
-    Require(screen_.templateBeingSet && browserOpen_, "the template browser is not open");
     Require(IsTemplateName(entry) && entry.size() > kBegin + kEnd, "no template is selected");
-    if (!fs::exists(JobFilePath(folders_, entry))) {
+    const JobSource source = JobInFolder(entry, firm_.folders());
+    if (!fs::exists(source.file)) {
         machine_.dialogs.Tell("", "File No Longer Exists", DialogIcon::Warning);
         return;
     }
     screen_.List1Enabled = true;
-    for (OptionButton& option : screen_.options) option.enabled = false;
-    screen_.options[LandMultiFamily].visible = false;
+    Enter(Stage::Spawned, screen_);
     screen_.templateBeingSet = false;
-    screen_.ScreenMode = screen_mode::kJob;
     NameBox& box = screen_.txtJobName;
     box.text = Lowered(entry.substr(kBegin, entry.size() - kBegin - kEnd)) + " - ";
-    LoadJob(entry, false);
+    LoadFrom(source, false);
     screen_.job.name = box.text;
     screen_.job.JobDocuments.clear();
     screen_.List2.clear();
     box.locked = false;
-    NameChanged();
-    FocusName();
+    nameBox_.Changed();
+    nameBox_.Focus();
 }
 
-std::optional<std::string> MainScreen::AskForName(bool rename) {
+std::optional<std::string> JobFiles::AskForName(bool rename) {
     InputDialog box{
         " NAME AS ...",
         "ENTER A NAME FOR THE NEW FILE\n\nNote:  This allows you to save the current session as\na new "
@@ -237,9 +257,9 @@ std::optional<std::string> MainScreen::AskForName(bool rename) {
     }
 }
 
-void MainScreen::NameJob() {
+void JobFiles::NameJob() {
     NameBox& box = screen_.txtJobName;
-    if (screen_.cmdNameAs.caption == "Rename") {
+    if (screen_.nameAsDoes == NameAsDoes::Rename) {
         while (const auto name = AskForName(true))
             if (Rename(*name)) return;
         return;
@@ -253,9 +273,9 @@ void MainScreen::NameJob() {
     screen_.job.JobDocuments.clear();
 }
 
-bool MainScreen::Rename(const std::string& name) {
+bool JobFiles::Rename(const std::string& name) {
     NameBox& box = screen_.txtJobName;
-    if (!RetriedWhileInUse([&] { return RenameJobFiles(folders_, box.text, name); })) {
+    if (!RetriedWhileInUse([&] { return RenameJobFiles(firm_.folders(), box.text, name); })) {
         machine_.dialogs.Tell("", "A file with this name already exists,\nplease try again.",
                               DialogIcon::Warning);
         return false;
@@ -263,15 +283,6 @@ bool MainScreen::Rename(const std::string& name) {
     box.text = name;
     screen_.job.name = name;
     return true;
-}
-
-void MainScreen::OpenBrowser(bool templates) {
-    screen_.templateBeingSet = templates;
-    browserOpen_ = true;
-}
-
-void MainScreen::CloseBrowser() {
-    browserOpen_ = false;
 }
 
 }  // namespace quillmark

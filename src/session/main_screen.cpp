@@ -1,71 +1,67 @@
 #include "session/main_screen.h"
 
-#include <algorithm>
-#include <iterator>
-
 #include "core/field_registry.h"
-#include "entry/note_cells.h"
-#include "entry/smart_fields.h"
+#include "core/fields.h"
+#include "core/job_file.h"
+#include "production/run/field_list.h"
 #include "selection/field_defaults.h"
-#include "selection/job_list.h"
-#include "selection/relevant_fields.h"
+#include "session/grid/refresh.h"
+#include "session/letter.h"
+#include "session/state/buttons.h"
+#include "session/state/ready.h"
+#include "session/state/stages.h"
+#include "session/upkeep.h"
 
 namespace quillmark {
 
-namespace {
-
-struct NamedButton {
-    std::string_view name;
-    Button SelectionState::*button;
-};
-
-// clang-format off
-constexpr NamedButton kButtons[] = {
-    {"cmdOpen",       &SelectionState::cmdOpen},
-    {"cmdCreate",     &SelectionState::cmdCreate},
-    {"cmdReset",      &SelectionState::cmdReset},
-    {"cmdExit",       &SelectionState::cmdExit},
-    {"cmdTemplate",   &SelectionState::cmdTemplate},
-    {"cmdPackages",   &SelectionState::cmdPackages},
-    {"cmdCustom",     &SelectionState::cmdCustom},
-    {"cmdNameAs",     &SelectionState::cmdNameAs},
-    {"cmdEnvelopes",  &SelectionState::cmdEnvelopes},
-    {"cmdOP236",      &SelectionState::cmdOP236},
-    {"cmdPrintFList", &SelectionState::cmdPrintFList},
-    {"cmdSelect",     &SelectionState::cmdSelect},
-};
-// clang-format on
-
-const Button* FindButton(const SelectionState& screen, std::string_view name) {
-    const auto found = std::find_if(std::begin(kButtons), std::end(kButtons),
-                                    [&](const NamedButton& button) { return button.name == name; });
-    return found == std::end(kButtons) ? nullptr : &(screen.*(found->button));
-}
-
-bool IsInTopBar(std::string_view button) {
-    constexpr std::string_view kTopBar[] = {"cmdOpen",     "cmdCreate",   "cmdReset", "cmdExit",
-                                            "cmdTemplate", "cmdPackages", "cmdCustom"};
-    return std::find(std::begin(kTopBar), std::end(kTopBar), button) != std::end(kTopBar);
-}
-
-bool Lists(const std::vector<std::string>& lines, std::string_view line) {
-    return std::find(lines.begin(), lines.end(), line) != lines.end();
-}
-
-}  // namespace
-
 MainScreen::MainScreen(std::filesystem::path programFolder, Machine machine)
-    : programFolder_(std::move(programFolder)),
-      machine_(std::move(machine)),
-      office_{settings_, folders_, firmDefaults_, machine_.clock, machine_.dialogs},
-      editor_(screen_, office_, AroundGrid()) {
+    : machine_(std::move(machine)),
+      firm_(std::move(programFolder), machine_),
+      editor_(screen_, firm_.Context(), machine_.dialogs, AroundGrid()),
+      steps_(screen_, editor_, firm_.Context(), machine_.dialogs, [this] { return firm_.Books(); }),
+      nameBox_(screen_, editor_, machine_, firm_.ProgramFolder(), AroundName()),
+      documents_(screen_, editor_, firm_.Context(), machine_.dialogs),
+      files_(screen_, editor_, nameBox_, firm_, machine_),
+      create_(screen_, files_, firm_, machine_, [this] { ResetSession(); }),
+      settings_(screen_, firm_, machine_, [this] { BeginFieldEntry(); }),
+      clients_(screen_, firm_, machine_,
+               {.startAnew = [this] { StartAnew(); },
+                .setDefaults =
+                    [this] {
+                        TypeName("DEFAULTS");
+                        EnterName();
+                    }}),
+      sideWindows_(screen_, editor_, firm_, machine_,
+                   {.isClosed = [this] { return clients_.IsOpen(); },
+                    .settingsShown = [this] { return settings_.IsShown(); },
+                    .openRow = [this](int row) { steps_.VisitRow(row); },
+                    .fieldChanged = [this](int n) { FieldChanged(n); }}) {
     const auto choices = [this](int n) {
-        const std::string value = FieldDefault(FieldMarker(n), screen_, office_);
+        const std::string value = FieldDefault(FieldMarker(n), screen_, firm_.Context());
         return IsChoiceList(value) ? value : std::string();
     };
     AttachSmartFields(screen_.job, {.choices = choices,
                                     .templateBeingSet = [this] { return screen_.templateBeingSet; },
                                     .refused = [this](const BadFieldInput& bad) { TellBadInput(bad); }});
+}
+
+GridSurroundings MainScreen::AroundGrid() {
+    return {.focusName = [this] { FocusName(); },
+            .beginFieldEntry = [this] { BeginFieldEntry(); },
+            .fieldChanged = [this](int n) { FieldChanged(n); },
+            .books = [this] { return firm_.Books(); },
+            .progress = [this] { machine_.LetRepaint(); }};
+}
+
+NameSurroundings MainScreen::AroundName() {
+    return {.reset = [this] { ResetSession(); },
+            .showSettings = [this] { settings_.Show(); },
+            .isClosed = [this] { return clients_.IsOpen(); },
+            .openBackup =
+                [this] {
+                    machine_.dialogs.Tell("  BACKUP", "The backup tool is not part of this version.",
+                                          DialogIcon::Information);
+                }};
 }
 
 void MainScreen::TellBadInput(const BadFieldInput& bad) {
@@ -74,24 +70,53 @@ void MainScreen::TellBadInput(const BadFieldInput& bad) {
                           "BAD INPUT\nPlease try a different format.", DialogIcon::Warning);
 }
 
+bool MainScreen::Start() {
+    if (EndsAtStart(firm_.ProgramFolder(), machine_)) {
+        screen_.ended = true;
+        return false;
+    }
+    firm_.Read();
+    if (firm_.DataIsNewer()) {
+        machine_.dialogs.Tell("", "UPGRADE REQUIRED, please visit https://www.quillmark.example",
+                              DialogIcon::Warning);
+        screen_.ended = true;
+        return false;
+    }
+    firm_.Serve({});
+    documents_.Offer();
+    if (firm_.IsUnset())
+        machine_.dialogs.Tell("IMPORTANT",
+                              "Your company defaults have not been set !!\n(see Page 3 of User's Guide for "
+                              "instructions)",
+                              DialogIcon::Warning);
+    StartAnew();
+    if (firm_.settings().paraPro) clients_.Open();
+    return true;
+}
+
 void MainScreen::Click(std::string_view name) {
-    const Button* button = FindButton(screen_, name);
+    RequireReady(screen_);
+    const Button* button = FindButton(name, screen_);
     Require(button != nullptr, "there is no button \"" + std::string(name) + "\"");
     Require(button->enabled && button->visible,
             std::string(name) + " is " + (button->visible ? "disabled" : "hidden"));
     editor_.LoseFocus(IsInTopBar(name) ? ScreenFocus::Buttons : ScreenFocus::Elsewhere);
+    if (name == "cmdOpen") return OpenJobOrSave();
     if (name == "cmdReset") return ResetSession();
-    if (name == "cmdExit") return screen_.cmdExit.caption == "EMAIL" ? Mail() : End();
-    if (name == "cmdCreate") return Create();
-    if (name == "cmdNameAs") return NameJob();
+    if (name == "cmdCreate") return create_.Run();
+    if (name == "cmdNameAs") return files_.NameJob();
     if (name == "cmdTemplate") return Templates();
-    if (name == "cmdSelect") return AskForClient();
+    if (name == "cmdSelect") return clients_.Open();
     if (name == "cmdPrintFList") return PrintFieldList();
-    if (name == "cmdOpen") {
-        if (screen_.cmdOpen.caption == "OPEN") return OpenBrowser(false);
-        return screen_.cmdOpen.caption == "EDIT" ? Edit() : Save();
-    }
-    throw NotAllowed(std::string(name) + " leads to a screen of its own");
+    Require(name == "cmdExit", std::string(name) + " leads to a screen of its own");
+    if (screen_.exitDoes == ExitDoes::Mail)
+        return MailBuyersAttorney(screen_, firm_.Context(), machine_.shell);
+    End();
+}
+
+void MainScreen::OpenJobOrSave() {
+    if (screen_.openDoes == OpenDoes::OpenJob) return OpenBrowser(false);
+    screen_.openDoes == OpenDoes::EditJob ? Edit() : Save();
 }
 
 void MainScreen::Close() {
@@ -99,74 +124,91 @@ void MainScreen::Close() {
     End();
 }
 
-void MainScreen::FocusList1() {
-    Require(screen_.List1Enabled, "the choice of documents is closed");
-    editor_.LoseFocus(ScreenFocus::Documents);
-    screen_.picInfo = " Double-Click documents to add them to the job list";
+void MainScreen::End() {
+    if (AsksToSave()) Save();
+    screen_.ended = true;
 }
 
-void MainScreen::FocusList2() {
-    Require(screen_.List2Enabled, "the job list is closed");
-    editor_.LoseFocus(ScreenFocus::Documents);
-    screen_.picInfo = " Double-Click an item to remove it from the job list";
+bool MainScreen::AsksToSave() {
+    return screen_.HasUnsavedChanges() &&
+           machine_.dialogs.Confirm("  ALERT", "You did not save your changes.\nSave them now ???");
 }
 
-void MainScreen::PickDocument(std::string_view line) {
-    Require(screen_.List1Enabled, "the choice of documents is closed");
-    Require(Lists(screen_.List1, line), "List1 has no line \"" + std::string(line) + "\"");
-    editor_.LoseFocus(ScreenFocus::Documents);
-    PickLine(line, screen_, office_);
-    RowsHaveChanged();
+void MainScreen::Save() {
+    settings_.IsShown() ? settings_.Save() : files_.Save();
 }
 
-void MainScreen::DropDocument(std::string_view line) {
-    Require(screen_.List2Enabled, "the job list is closed");
-    const auto found = std::find_if(screen_.List2.begin(), screen_.List2.end(),
-                                    [&](const JobListLine& listed) { return listed.name == line; });
-    Require(found != screen_.List2.end(), "List2 has no line \"" + std::string(line) + "\"");
-    editor_.LoseFocus(ScreenFocus::Documents);
-    DropLine(static_cast<std::size_t>(found - screen_.List2.begin()), screen_, office_);
-    RowsHaveChanged();
+void MainScreen::ResetSession() {
+    create_.QuitWord();
+    if (AsksToSave()) return Save();
+    StartAnew();
 }
 
-void MainScreen::SelectLegal(const std::vector<std::string>& lines) {
-    const ListAction action = SelectLegalSize(lines, screen_);
-    Require(action != ListAction::ListDisabled, "the job list is closed");
-    Require(action != ListAction::NoSuchLine, "the job list does not hold all of these lines");
-}
-
-void MainScreen::ClickOption(int n) {
-    RequireOption(n, quillmark::ClickOption(n, screen_, office_));
-    RowsHaveChanged();
-}
-
-void MainScreen::DoubleClickOption(int n) {
-    RequireOption(n, quillmark::DoubleClickOption(n, screen_, office_));
-    RowsHaveChanged();
-}
-
-void MainScreen::RequireOption(int n, OptionAction action) const {
-    Require(action != OptionAction::NoSuchOption, "there is no option " + std::to_string(n));
-    Require(action != OptionAction::Disabled, "option " + std::to_string(n) + " is disabled");
-    Require(action != OptionAction::Hidden, "option " + std::to_string(n) + " is hidden");
-}
-
-void MainScreen::Require(bool condition, const std::string& otherwise) const {
-    if (ended_) throw NotAllowed("the session has ended");
-    if (creating_) throw NotAllowed("documents are being made");
-    if (!condition) throw NotAllowed(otherwise);
-}
-
-void MainScreen::Refresh(bool headingsOnly) {
-    RefreshFields(screen_, office_, headingsOnly);
-    RowsHaveChanged();
-}
-
-/// Values that came from outside show their tags as if they had been typed here.
-void MainScreen::RowsHaveChanged() {
-    ShowAllFieldNotes(screen_);
+void MainScreen::StartAnew() {
+    ScreenState fresh;
+    fresh.job = std::move(screen_.job);
+    fresh.job.Reset();
+    fresh.List1 = std::move(screen_.List1);
+    screen_ = std::move(fresh);
+    for (int n = 1; n <= kFields; ++n) screen_.job.SetField(n, "");
+    ResetButtons(firm_.ServesClient(), screen_);
+    Enter(Stage::Idle, screen_);
+    ShowOptionTooltips(screen_);
     editor_.Forget();
-    ShowExit();
+    settings_.Close();
+    files_.Forget();
+    create_.Forget();
+    sideWindows_.CloseAll();
+    FocusName();
+}
+
+void MainScreen::BeginFieldEntry() {
+    if (!screen_.txtJobName.enabled) return;
+    if (!screen_.FieldEntryStarted) screen_.txtJobName.enabled = false;
+    documents_.CloseChoice();
+    for (OptionButton& option : screen_.options) option.enabled = false;
+    if (screen_.mode == ScreenMode::Job) screen_.FieldEntryStarted = true;
+    screen_.cmdTemplate.enabled = false;
+}
+
+void MainScreen::FieldChanged(int n) {
+    ShowExit(screen_);
+    if (n != field::DocumentDate) CountFieldChange(screen_);
+}
+
+void MainScreen::Edit() {
+    documents_.CloseChoice();
+    Enter(Stage::Editing, screen_);
+    Refresh(screen_, firm_.Context(), editor_);
+    editor_.LoseFocus(ScreenFocus::Grid);
+    screen_.cmdNameAs.enabled = false;
+    screen_.picInfo = " Click an item for edit (Double-Click if locked)";
+}
+
+void MainScreen::Templates() {
+    Enter(Stage::Template, screen_);
+    OpenBrowser(true);
+}
+
+void MainScreen::OpenBrowser(bool templates) {
+    screen_.templateBeingSet = templates;
+    screen_.browserOpen = true;
+}
+
+void MainScreen::Spawn(std::string_view entry) {
+    RequireReady(screen_);
+    Require(screen_.templateBeingSet && screen_.browserOpen, "the template browser is not open");
+    files_.Spawn(entry);
+}
+
+void MainScreen::PrintFieldList() {
+    Require(machine_.printer != nullptr, "there is no printer to print the field list on");
+    const NameBox& box = screen_.txtJobName;
+    try {
+        machine_.printer->Print(FieldList(screen_, box.IsSaveable() ? box.text : std::string()));
+    } catch (const MachineError& failure) {
+        machine_.dialogs.Tell("  ALERT", failure.what(), DialogIcon::Warning);
+    }
 }
 
 }  // namespace quillmark

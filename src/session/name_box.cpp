@@ -1,10 +1,9 @@
-#include <algorithm>
+#include "session/name_box.h"
 
 #include "core/job_file.h"
-#include "core/text_conversions.h"
 #include "platform/code_page.h"
-#include "platform/paths.h"
-#include "session/main_screen.h"
+#include "session/state/buttons.h"
+#include "session/state/ready.h"
 #include "session/upkeep.h"
 
 namespace quillmark {
@@ -19,7 +18,20 @@ bool IsOneOf(std::string_view text, std::string_view capitals) {
 
 }  // namespace
 
-void MainScreen::FocusName() {
+NameCommands::NameCommands(ScreenState& screen, GridEditor& editor, const Machine& machine,
+                           const std::filesystem::path& programFolder, NameSurroundings around)
+    : screen_(screen),
+      editor_(editor),
+      machine_(machine),
+      programFolder_(programFolder),
+      around_(std::move(around)) {}
+
+void NameCommands::RequireOpen() const {
+    RequireReady(screen_);
+    Require(screen_.txtJobName.enabled && !around_.isClosed(), "the name box is disabled");
+}
+
+void NameCommands::Focus() {
     editor_.LoseFocus(ScreenFocus::NameBox);
     NameBox& box = screen_.txtJobName;
     if (box.noSave) {
@@ -27,10 +39,10 @@ void MainScreen::FocusName() {
         box.text.clear();
         screen_.job.name.clear();
     }
-    ShowNameGuidance();
+    ShowGuidance();
 }
 
-void MainScreen::ShowNameGuidance() {
+void NameCommands::ShowGuidance() {
     const NameBox& box = screen_.txtJobName;
     if (screen_.templateBeingSet) {
         screen_.picInfo =
@@ -47,11 +59,11 @@ void MainScreen::ShowNameGuidance() {
     }
 }
 
-void MainScreen::TypeName(std::string_view text) {
+void NameCommands::Type(std::string_view text) {
     NameBox& box = screen_.txtJobName;
-    Require(box.enabled && !choosingClient_, "the name box is disabled");
+    RequireOpen();
     Require(!box.locked, "the name box is locked");
-    FocusName();
+    Focus();
     // The focus has selected an earlier name, which the first key replaces; an incomplete one is completed.
     const bool completes = box.text.ends_with(" - ") && !text.starts_with(box.text);
     std::string typed = completes ? box.text : std::string();
@@ -59,74 +71,72 @@ void MainScreen::TypeName(std::string_view text) {
         if (HoldsIllegalNameCharacter({&key, 1})) continue;
         typed += key;
         box.text = typed;
-        NameChanged();
-        if (box.text != typed || ended_) return;
+        Changed();
+        if (box.text != typed || screen_.ended) return;
     }
     if (text.empty() && !box.text.empty()) {
         box.text.clear();
-        NameChanged();
+        Changed();
     }
 }
 
-void MainScreen::EditName(std::string_view text) {
+void NameCommands::Edit(std::string_view text) {
     NameBox& box = screen_.txtJobName;
-    Require(box.enabled && !choosingClient_, "the name box is disabled");
+    RequireOpen();
     Require(!box.locked, "the name box is locked");
-    if (box.noSave) FocusName();
+    if (box.noSave) Focus();
     box.text.clear();
     for (const char key : text)
         if (!HoldsIllegalNameCharacter({&key, 1})) box.text += key;
-    NameChanged();
+    Changed();
 }
 
-void MainScreen::NameChanged() {
+void NameCommands::Changed() {
     const std::string& name = screen_.txtJobName.text;
     screen_.job.name = name;
     if (name == "upgrade") return OfferUpgrade();
     if (IsOneOf(name, "BACKUP")) {
         screen_.txtJobName.text.clear();
-        ResetSession();
-        machine_.dialogs.Tell("  BACKUP", "The backup tool is not part of this version.",
-                              DialogIcon::Information);
-        return;
+        around_.reset();
+        return around_.openBackup();
     }
-    if (screen_.ScreenMode == screen_mode::kPresets) {
+    if (screen_.mode == ScreenMode::Presets) {
         screen_.cmdOpen.enabled = !name.empty() && !name.starts_with('{');
         return;
     }
     const bool idle = name.empty() && screen_.List2.empty();
-    if (idle || screen_.cmdOpen.caption == "OPEN")
+    if (idle || screen_.openDoes == OpenDoes::OpenJob)
         screen_.cmdOpen.enabled = idle;
     else
         screen_.cmdOpen.enabled = !name.empty() && !name.ends_with(" - ");
-    screen_.cmdTemplate.enabled = screen_.cmdPackages.enabled = screen_.cmdCustom.enabled = idle;
+    EnableOtherWaysIn(idle, screen_);
 }
 
-void MainScreen::OfferUpgrade() {
+void NameCommands::OfferUpgrade() {
     const bool upgrades = machine_.dialogs.Show({"  UPGRADE SCRIPT",
                                                  "Run upgrade script ???",
                                                  {DialogButton::OK, DialogButton::Cancel},
                                                  DialogButton::OK,
                                                  DialogIcon::Question}) == DialogButton::OK;
     screen_.txtJobName.text.clear();
-    NameChanged();
+    Changed();
     if (!upgrades) return;
     try {
         StartUpgrade(programFolder_, machine_.shell);
-        ended_ = true;
+        screen_.ended = true;
     } catch (const MachineError& failure) {
         machine_.dialogs.Tell("  UPGRADE SCRIPT", failure.what(), DialogIcon::Warning);
     }
 }
 
-void MainScreen::EnterName() {
-    NameBox& box = screen_.txtJobName;
-    Require(box.enabled && !choosingClient_, "the name box is disabled");
+void NameCommands::Enter() {
+    RequireOpen();
+    const NameBox& box = screen_.txtJobName;
     if (IsOneOf(box.text, kDefaultsName)) {
-        ResetSession();
+        around_.reset();
         screen_.txtJobName.text = kDefaultsName;
         screen_.job.name = kDefaultsName;
-        ShowSettings();
+        around_.showSettings();
     } else if (screen_.templateBeingSet && !box.text.empty()) {
         editor_.LoseFocus(ScreenFocus::Grid);
         screen_.picInfo = " Set option buttons & default field-values for this template";

@@ -1,11 +1,14 @@
+#include "session/settings_list.h"
+
 #include <algorithm>
 
 #include "core/field_registry.h"
 #include "core/fields.h"
 #include "core/text_conversions.h"
 #include "platform/code_page.h"
-#include "platform/paths.h"
-#include "session/main_screen.h"
+#include "session/state/buttons.h"
+#include "session/state/ready.h"
+#include "session/state/stages.h"
 
 namespace quillmark {
 
@@ -91,38 +94,38 @@ SettingsRow DefaultRow(int n, std::string_view value) {
 
 }  // namespace
 
-void MainScreen::ShowSettings() {
-    List3_.clear();
+void SettingsList::Show() {
+    rows_.clear();
     for (const int n : kFirmFields) {
         screen_.job.txtField(n).relevant = true;
-        const std::string value = firmDefaults_.ValueOf(FieldMarker(n));
-        List3_.push_back(DefaultRow(n, value == FieldMarker(n) ? "" : value));
+        const std::string value = firm_.defaults().ValueOf(FieldMarker(n));
+        rows_.push_back(DefaultRow(n, value == FieldMarker(n) ? "" : value));
     }
-    List3_.push_back({});
-    List3_.push_back({0, std::string(kPathLabel) + settings_.databasePath, {}});
+    rows_.push_back({});
+    rows_.push_back({0, std::string(kPathLabel) + firm_.settings().databasePath, {}});
     for (const AnswerRow& answer : kAnswers) {
-        if (&answer == &kAnswers.back()) List3_.push_back({});
-        List3_.push_back({0, std::string(answer.label) + answer.get(settings_), {}});
+        if (&answer == &kAnswers.back()) rows_.push_back({});
+        rows_.push_back({0, std::string(answer.label) + answer.get(firm_.settings()), {}});
     }
-    screen_.ScreenMode = screen_mode::kPresets;
+    Enter(Stage::FirmDefaults, screen_);
     screen_.txtJobName.enabled = false;
     screen_.List1Enabled = screen_.List2Enabled = false;
-    screen_.cmdOpen = {"SAVE", " save settings ", true, true};
-    screen_.cmdTemplate.enabled = screen_.cmdPackages.enabled = screen_.cmdCustom.enabled = false;
     screen_.picInfo =
         " Select an item to see description.  Dbl-Click to edit  (use \";\" separator for multiple choice)";
 }
 
-void MainScreen::SelectSetting(std::size_t row) {
-    Require(row < List3_.size(), "the settings list has no such row");
-    if (List3_[row].field > 0) screen_.picInfo = FieldDescription(List3_[row].field, screen_.job);
+void SettingsList::Select(std::size_t row) {
+    RequireReady(screen_);
+    Require(row < rows_.size(), "the settings list has no such row");
+    if (rows_[row].field > 0) screen_.picInfo = FieldDescription(rows_[row].field, screen_.job);
 }
 
-void MainScreen::EditSetting(std::size_t row) {
-    Require(row < List3_.size(), "the settings list has no such row");
-    SettingsRow& chosen = List3_[row];
+void SettingsList::Edit(std::size_t row) {
+    RequireReady(screen_);
+    Require(row < rows_.size(), "the settings list has no such row");
+    SettingsRow& chosen = rows_[row];
     Require(!chosen.text.empty(), "this row of the settings list is blank");
-    BeginFieldEntry();
+    beginFieldEntry_();
     if (chosen.field > 0)
         EditDefault(chosen);
     else if (chosen.text.starts_with(kPathLabel))
@@ -131,19 +134,19 @@ void MainScreen::EditSetting(std::size_t row) {
         EditAnswer(chosen);
 }
 
-void MainScreen::EditDefault(SettingsRow& row) {
-    if (row.field == field::SellerLawfirm && settings_.paraPro && !client_.empty()) return;
+void SettingsList::EditDefault(SettingsRow& row) {
+    if (row.field == field::SellerLawfirm && firm_.ServesClient()) return;
     const std::string marker(FieldMarker(row.field));
     auto answer = machine_.dialogs.Ask({" EDIT FIELD VALUE", "Enter new value for  " + marker, row.value});
     if (!answer) return;
     std::replace(answer->begin(), answer->end(), '"', '\'');
     row = DefaultRow(row.field, *answer == marker ? "" : ShownForm(row.field, *answer, screen_.job));
-    screen_.cmdOpen = {"SAVE", " save settings ", true, true};
+    ShowOpen(OpenDoes::SaveSettings, true, screen_);
 }
 
-void MainScreen::EditPath(SettingsRow& row) {
-    const auto answer = machine_.dialogs.Ask(
-        {" EDIT DATA PATH", "Enter complete database path ...", ReadSettings(programFolder_).databasePath});
+void SettingsList::EditPath(SettingsRow& row) {
+    const auto answer = machine_.dialogs.Ask({" EDIT DATA PATH", "Enter complete database path ...",
+                                              ReadSettings(firm_.ProgramFolder()).databasePath});
     if (!answer || answer->empty()) return;
     std::string path = Lowered(*answer);
     if (path.front() < 'a' || path.front() > 'z') {
@@ -151,41 +154,37 @@ void MainScreen::EditPath(SettingsRow& row) {
         return;
     }
     if (!path.ends_with('\\')) path += '\\';
-    settings_.databasePath = path;
-    dataPathLost_ = false;
-    folders_ = FoldersOf(programFolder_, settings_, client_);
+    firm_.ChangeDatabasePath(path);
     row.text = std::string(kPathLabel) + path;
-    screen_.cmdOpen = {"SAVE", " save settings ", true, true};
+    ShowOpen(OpenDoes::SaveSettings, true, screen_);
 }
 
-void MainScreen::EditAnswer(SettingsRow& row) {
+void SettingsList::EditAnswer(SettingsRow& row) {
     const AnswerRow& setting = *FindAnswer(row.text);
-    const std::string present = setting.get(settings_);
+    const std::string present = setting.get(firm_.settings());
     const auto typed =
         machine_.dialogs.Ask({std::string(setting.title), std::string(setting.prompt), present});
     if (!typed) return;
     const std::string answer = UpperCase(Trimmed(*typed));
     if (std::find(setting.accepted.begin(), setting.accepted.end(), answer) == setting.accepted.end()) return;
-    setting.set(settings_, answer);
+    setting.set(firm_.ChangeSettings(), answer);
     row.text = std::string(setting.label) + answer;
-    screen_.cmdOpen = {"SAVE", " save settings ", true, true};
+    ShowOpen(OpenDoes::SaveSettings, true, screen_);
     if (&setting != &kAnswers.back() || answer == present) return;
     machine_.dialogs.Tell(
         "",
         "Changing the Para-Pro option requires a re-start of the program.  \nQuillmark will now "
         "shut-down.");
-    SaveSettings();
-    ended_ = true;
+    Save();
+    screen_.ended = true;
 }
 
-void MainScreen::SaveSettings() {
+void SettingsList::Save() {
     FirmDefaults defaults;
-    for (const SettingsRow& row : List3_) {
+    for (const SettingsRow& row : rows_) {
         if (row.field > 0) defaults.Set(FieldMarker(row.field), row.value);
     }
-    WriteFirmDefaults(folders_.firmDefaultsFile, defaults);
-    WriteSettings(programFolder_, settings_);
-    firmDefaults_ = std::move(defaults);
+    firm_.Keep(std::move(defaults));
     for (OptionButton& option : screen_.options) option.enabled = false;
     screen_.cmdOpen.enabled = false;
 }

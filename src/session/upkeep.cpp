@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "core/text_conversions.h"
+#include "session/machine.h"
 
 namespace quillmark {
 
@@ -42,7 +43,22 @@ std::optional<std::chrono::year_month_day> ReleaseDate(HttpClient& http) {
     return ReadDate(answer->substr(0, kDate));
 }
 
+std::chrono::year_month_day DateOf(const fs::path& file) {
+    const auto written = std::chrono::file_clock::to_sys(fs::last_write_time(file));
+    return std::chrono::year_month_day{std::chrono::floor<std::chrono::days>(written)};
+}
+
 }  // namespace
+
+bool EndsAtStart(const fs::path& programFolder, const Machine& machine) {
+    if (machine.handOver && machine.handOver()) return true;
+    if (RunPatch(programFolder, machine.shell, machine.dialogs)) return true;
+    if (machine.http && fs::exists(machine.programFile) &&
+        OffersUpgrade(programFolder, DateOf(machine.programFile), *machine.http, machine.shell,
+                      machine.dialogs))
+        return true;
+    return RestoresStrandedFiles(programFolder, StoreFolderOf(programFolder, machine.shell), machine.dialogs);
+}
 
 fs::path StoreFolderOf(const fs::path& programFolder, Shell& shell) {
     try {

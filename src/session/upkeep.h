@@ -12,6 +12,12 @@
 /// put aside. Where a system has nothing of the kind, there is nothing to do.
 namespace quillmark {
 
+struct Machine;
+
+/// All of it, in order. True when the program is to end: another copy of it has been brought to the front, or
+/// a step below wants so.
+bool EndsAtStart(const std::filesystem::path& programFolder, const Machine& machine);
+
 /// Where the system's file virtualisation keeps this install's files: "VirtualStore" below the local
 /// application data, with the program folder's path; the program folder itself if there is no such folder.
 std::filesystem::path StoreFolderOf(const std::filesystem::path& programFolder, Shell& shell);

@@ -5,9 +5,8 @@
 #include <cmath>
 #include <random>
 
-#include "entry/questions.h"
+#include "entry/field_listing.h"
 #include "entry/smart_fields.h"
-#include "selection/field_listing.h"
 #include "selection/field_rows.h"
 
 namespace quillmark {
@@ -147,22 +146,16 @@ TEST_F(Calculator, DaysAndAmountsAddUp) {
 }
 
 TEST_F(Calculator, HandsAmountsOverAsCredits) {
-    SelectionState screen;
-    AttachSmartFields(screen.job);
-    for (const int n : {170, 171, 174, 194}) screen.job.txtField(n).relevant = true;
-    RebuildRows(screen);
+    JobInHand hand;
+    AttachSmartFields(hand.job);
+    for (const int n : {170, 171, 174, 194}) hand.job.txtField(n).relevant = true;
+    RebuildRows(hand);
     auto calculator = On(year(2026) / 3 / 9);
     Enter(calculator, "4812.50");
 
-    Settings settings;
-    Folders folders;
-    FirmDefaults defaults;
-    ScriptedDialogs dialogs{{}, ScriptedDialogs::WhenUnanswered::Fail};
-    const Office office{settings, folders, defaults, *clock, dialogs};
     const auto handOver = [&](int n, CreditTo side) {
-        const auto dialogue = FieldQuestions(screen, office, {.column = NoteColumnOf(side)});
-        UpdateListing(n, HandOverValue(calculator, side, n), screen, office, dialogue);
-        return screen.job.D(n);
+        UpdateListing(n, HandOverValue(calculator, side, n), hand);
+        return hand.job.D(n);
     };
     EXPECT_EQ(handOver(194, CreditTo::Buyer), "$3,309.42 = U");
     EXPECT_EQ(handOver(194, CreditTo::Seller), "$1,503.08 = P");
@@ -170,7 +163,7 @@ TEST_F(Calculator, HandsAmountsOverAsCredits) {
     EXPECT_EQ(handOver(171, CreditTo::Seller), "$1,503.08 = P");
     EXPECT_EQ(handOver(170, CreditTo::Buyer), "$3,309.42 - U");
     EXPECT_EQ(handOver(174, CreditTo::Seller), "$1,503.08");
-    EXPECT_EQ(FindRow(194, screen)->lit, (std::array{true, false}));
+    EXPECT_EQ(FindRow(194, hand)->lit, (std::array{true, false}));
 }
 
 }  // namespace

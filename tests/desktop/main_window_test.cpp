@@ -166,7 +166,7 @@ TEST_F(MainWindowTest, TheEditorKeepsToItsCellAndItsRules) {
     QTest::mouseClick(&Control("cmdPrintFList"), Qt::LeftButton);
     EXPECT_EQ(State().job.D(21), "Ida Gray") << "leaving the editor commits";
 
-    const int heading = State().lblJump[2].headingRow;
+    const int heading = State().groups[2].headingRow;
     Click(heading);
     EXPECT_EQ(Visible("txtEdit"), nullptr);
 }

@@ -34,7 +34,7 @@ class BrowserTest : public SideWindowTest {
  protected:
     void Open(bool templates) {
         screen->Click(templates ? "cmdTemplate" : "cmdOpen");
-        browser.emplace(screen->OfficeFolders(), templates, dialogs);
+        browser.emplace(screen->FirmAround().folders, templates, dialogs);
         window.emplace(*screen, *browser, &parent);
         list = window->findChild<LinesView*>();
         Show(*window);
@@ -115,7 +115,7 @@ TEST_F(BrowserTest, EscapeLeavesTheTemplatesAndSpawnMakesAJob) {
 
     Open(true);
     Press(*window, Qt::Key_Escape);
-    EXPECT_EQ(State().ScreenMode, screen_mode::kJob);
+    EXPECT_EQ(State().mode, ScreenMode::Job);
     EXPECT_FALSE(window->isVisible());
 
     Open(true);
@@ -159,7 +159,7 @@ TEST_F(BrowserTest, OneMoreLetterIsShownWithinAFrameAmongTenThousandJobs) {
 
 TEST_F(SideWindowTest, APackageIsMadeRenamedAndLeftAtTheKeyboard) {
     Start();
-    PackageEditor editor(State(), screen->OfficeAround());
+    PackageEditor editor(State().List1, screen->FirmAround().folders, screen->Person());
     PackagesWindow window(editor, &parent);
     Show(window);
     const auto lists = window.findChildren<LinesView*>();
@@ -345,13 +345,13 @@ TEST_F(SideWindowTest, EveryWindowIsReachableByKeyboardAndSpeech) {
     WriteData("Attorneys.lst", "A _ A _ 1 _  _ H _ 2 _ 3 _ \r\n");
     Start();
     {
-        FileBrowser browser(screen->OfficeFolders(), false, dialogs);
+        FileBrowser browser(screen->FirmAround().folders, false, dialogs);
         BrowserWindow window(*screen, browser, &parent);
         Show(window);
         ExpectReachable(window);
     }
     {
-        PackageEditor editor(State(), screen->OfficeAround());
+        PackageEditor editor(State().List1, screen->FirmAround().folders, screen->Person());
         PackagesWindow window(editor, &parent);
         Show(window);
         ExpectReachable(window);

@@ -6,35 +6,46 @@
 #include <string_view>
 #include <vector>
 
+#include "entry/field_listing.h"
 #include "entry/note_cells.h"
 #include "entry/questions.h"
 #include "entry/smart_fields.h"
+#include "platform/dialogs.h"
 #include "selection/field_rows.h"
+#include "selection/firm_context.h"
 
 namespace quillmark::test {
 
 /// A job under way with its grid and the person before it. A box that was not expected fails the test.
 class Desk : public ::testing::Test {
  protected:
-    Desk() { AttachSmartFields(screen.job); }
+    Desk() { AttachSmartFields(hand.job); }
 
     void List(std::initializer_list<int> fields) {
-        for (const int n : fields) screen.job.txtField(n).relevant = true;
-        RebuildRows(screen);
+        for (const int n : fields) hand.job.txtField(n).relevant = true;
+        RebuildRows(hand);
     }
     void Answer(ScriptedDialogs::Answers answers) { dialogs.SetAnswers(std::move(answers)); }
 
-    /// Commits an entry as from the grid; the value that the field then has.
-    std::string Enter(int n, std::string_view text, EntryPoint from = {}) {
-        UpdateListing(n, text, screen, office, FieldQuestions(screen, office, from));
+    /// Commits an entry as from the grid, asking its questions; the value that the field then has.
+    std::string Enter(int n, std::string_view text) {
+        std::vector<bool> answers;
+        for (;;) {
+            const QuestionStep step = NextQuestion(n, text, answers, hand);
+            if (!step.question) {
+                UpdateListing(n, text, hand, {.tag = step.tag});
+                break;
+            }
+            answers.push_back(dialogs.Confirm(step.question->title, step.question->text));
+        }
         EXPECT_EQ(dialogs.AnswersLeft(), 0u) << "field " << n << ": a question did not come";
-        return screen.job.D(n);
+        return hand.job.D(n);
     }
     std::string Click(int n, int column) {
-        ShowFieldNotes(n, *FindRow(n, screen), column, screen);
-        return screen.job.D(n);
+        ShowFieldNotes(n, *FindRow(n, hand), column, hand);
+        return hand.job.D(n);
     }
-    const GridRow& Row(int n) { return *FindRow(n, screen); }
+    const GridRow& Row(int n) { return *FindRow(n, hand); }
     std::size_t BoxesShown() { return dialogs.TakeShown().size(); }
 
     Settings settings;
@@ -42,8 +53,8 @@ class Desk : public ::testing::Test {
     FirmDefaults firmDefaults;
     FixedClock clock{std::chrono::year(2026) / 3 / 9};
     ScriptedDialogs dialogs{{}, ScriptedDialogs::WhenUnanswered::Fail};
-    Office office{settings, folders, firmDefaults, clock, dialogs};
-    SelectionState screen;
+    FirmContext firm{settings, folders, firmDefaults, clock};
+    JobInHand hand;
 };
 
 }  // namespace quillmark::test

@@ -14,8 +14,8 @@ class Notes : public test::Desk {
     Notes() { List({86, 88, 99, 100, 117, 118, 170, 171, 175, 177, 193, 194, 195, 196}); }
 
     void Draw(int n, std::string_view value) {
-        screen.job.SetField(n, value);
-        DrawRow(*FindRow(n, screen), screen);
+        hand.job.SetField(n, value);
+        DrawRow(*FindRow(n, hand), hand);
     }
 };
 
@@ -61,25 +61,25 @@ TEST_F(Notes, ValuesFromOutsideTakeTheirFinalForm) {
     Draw(88, "$8,000.00");
     Draw(100, "$90,000.00 = T");
     Draw(177, "$0.00");
-    ShowAllFieldNotes(screen);
-    EXPECT_EQ(screen.job.D(170), "$1,000.00 - U");
-    EXPECT_EQ(screen.job.D(175), "$1,000.00 - P");
-    EXPECT_EQ(screen.job.D(171), "$480.00 = P");
-    EXPECT_EQ(screen.job.D(86), "$9,000.00 - B");
-    EXPECT_EQ(screen.job.D(88), "$8,000.00 - N");
-    EXPECT_EQ(screen.job.D(100), "$90,000.00 = T");
-    EXPECT_EQ(screen.job.D(177), "$0.00");
+    ShowAllFieldNotes(hand);
+    EXPECT_EQ(hand.job.D(170), "$1,000.00 - U");
+    EXPECT_EQ(hand.job.D(175), "$1,000.00 - P");
+    EXPECT_EQ(hand.job.D(171), "$480.00 = P");
+    EXPECT_EQ(hand.job.D(86), "$9,000.00 - B");
+    EXPECT_EQ(hand.job.D(88), "$8,000.00 - N");
+    EXPECT_EQ(hand.job.D(100), "$90,000.00 = T");
+    EXPECT_EQ(hand.job.D(177), "$0.00");
 }
 
 TEST_F(Notes, ClicksValueAndDrawingAgree) {
     std::mt19937 random(1041);
-    screen.List2.push_back({"Payoff / SMS"});
+    hand.List2.push_back({"Payoff / SMS"});
     const std::vector<int> fields = {86, 88, 99, 100, 117, 118, 170, 171, 175, 177, 193, 196};
     for (int step = 0; step < 5000; ++step) {
         const int n = fields[random() % fields.size()];
-        const bool reenter = !screen.job.IsFilled(n) || random() % 4 == 0;
+        const bool reenter = !hand.job.IsFilled(n) || random() % 4 == 0;
         const LitCells before = Row(n).lit;
-        if (reenter) screen.job.SetField(n, std::to_string(1 + random() % 9000));
+        if (reenter) hand.job.SetField(n, std::to_string(1 + random() % 9000));
         const int column = reenter ? 0 : 2 + static_cast<int>(random() % 2);
         const std::string value = Click(n, column);
         const LitCells lit = Row(n).lit;
@@ -88,7 +88,7 @@ TEST_F(Notes, ClicksValueAndDrawingAgree) {
         if (!read.tag.empty()) {
             ASSERT_EQ(CellsLitBy(read.tag, TagFamilyOf(n)), lit) << n << ": " << value;
         }
-        const bool binderTaken = (n == 86 || n == 88) && TakesBinder(screen.job.D(PairedField(n)));
+        const bool binderTaken = (n == 86 || n == 88) && TakesBinder(hand.job.D(PairedField(n)));
         if (reenter && !binderTaken) {
             ASSERT_EQ(lit, before) << n << ": the cells are the memory of the tag";
         }
@@ -98,9 +98,9 @@ TEST_F(Notes, ClicksValueAndDrawingAgree) {
             const LitCells flipped = {before[0] != first, before[1] == first};
             ASSERT_EQ(lit, twoFacts ? flipped : LitCells({first, !first})) << n << ": " << value;
         }
-        ASSERT_FALSE(TakesBinder(screen.job.D(86)) && TakesBinder(screen.job.D(88)));
-        ShowFieldNotes(n, *FindRow(n, screen), 0, screen);
-        ASSERT_EQ(screen.job.D(n), value) << n << ": drawn once more";
+        ASSERT_FALSE(TakesBinder(hand.job.D(86)) && TakesBinder(hand.job.D(88)));
+        ShowFieldNotes(n, *FindRow(n, hand), 0, hand);
+        ASSERT_EQ(hand.job.D(n), value) << n << ": drawn once more";
     }
 }
 

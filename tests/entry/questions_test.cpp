@@ -15,9 +15,9 @@ class Questions : public test::Desk {
  protected:
     Questions() {
         List({86, 88, 99, 100, 117, 118, 170, 171, 173, 175, 177, 182, 193, 196});
-        screen.job.SetField(85, "Shoreline Realty");
+        hand.job.SetField(85, "Shoreline Realty");
     }
-    void ListSmsPayoff() { screen.List2.push_back({"Payoff Letter / SMS"}); }
+    void ListSmsPayoff() { hand.List2.push_back({"Payoff Letter / SMS"}); }
 };
 
 TEST_F(Questions, ATaxIsPaidOrNot) {
@@ -73,7 +73,7 @@ TEST_F(Questions, APayoffIsAskedAboutWhereItShowsNoteCells) {
     EXPECT_EQ(shown.at(0).title, "payoff 1 amount     $90,000.00");
     EXPECT_EQ(shown.at(0).text, "Does this amount include the charge \nfor recording the release ?");
     EXPECT_EQ(shown.at(1).text, "Is MERS the releasor \nof this mortgage ?");
-    screen.List2.clear();
+    hand.List2.clear();
     EXPECT_EQ(Enter(100, "91000"), "$91,000.00 = R") << "a row that has note cells keeps them";
     EXPECT_EQ(Click(100, 2), "$91,000.00 = T");
     EXPECT_EQ(Enter(118, "1000 - d"), "$1,000.00 - D") << "no cells, no state";
@@ -118,55 +118,20 @@ TEST_F(Questions, WhatIsNoAmountOrHasATagIsNotAskedAbout) {
     EXPECT_EQ(Enter(170, "1000 - paid"), "$1,000.00 - U") << "the last letter is neither of the two";
 }
 
-TEST_F(Questions, ForceAndNoteColumnsDecideOverFirstEntry) {
-    EXPECT_EQ(Enter(170, "1000", {.column = 2}), "$1,000.00");
-    Answer({"No"});
-    EXPECT_EQ(Enter(170, "1500", {.column = 3, .force = true}), "$1,500.00 - U");
-}
-
 TEST_F(Questions, ATemplateIsAskedAboutInEmptyFieldsToo) {
-    screen.job.SetField(170, "");
+    hand.job.SetField(170, "");
     EXPECT_EQ(Enter(170, "1000"), "$1,000.00");
-    screen.ScreenMode = screen_mode::kPresets;
-    screen.job.SetField(175, "");
+    hand.mode = ScreenMode::Presets;
+    hand.job.SetField(175, "");
     Answer({"No"});
     EXPECT_EQ(Enter(175, "200"), "$200.00 - U");
 }
 
-/// Answers every question with Yes and notes what the screen was like meanwhile.
-class Watcher final : public Dialogs {
- public:
-    Watcher(const int& EditRow, const Job& job) : EditRow_(EditRow), job_(job) {}
-    DialogButton Show(const MessageDialog&) override {
-        EXPECT_EQ(EditRow_, -1);
-        stored = job_.D(100);
-        return DialogButton::Yes;
-    }
-    std::optional<std::string> Ask(const InputDialog&) override { return std::nullopt; }
-    std::string stored;
-
- private:
-    const int& EditRow_;
-    const Job& job_;
-};
-
-TEST_F(Questions, NoSecondEditBeginsWhileAQuestionStands) {
-    ListSmsPayoff();
-    int EditRow = 7;
-    Watcher watcher(EditRow, screen.job);
-    const Office watched{settings, folders, firmDefaults, clock, watcher};
-    const auto dialogue = FieldQuestions(screen, watched, {.EditRow = &EditRow});
-    UpdateListing(100, "1000", screen, watched, dialogue);
-    EXPECT_EQ(EditRow, 7);
-    EXPECT_EQ(watcher.stored, "$1,000.00") << "the amount is stored before the questions come";
-    EXPECT_EQ(screen.job.D(100), "$1,000.00 = R");
-}
-
 /// How many questions an entry raises, told in the words of the rules and not of the code.
-std::size_t QuestionsDue(int n, const std::string& text, const SelectionState& screen) {
-    const Job& job = screen.job;
+std::size_t QuestionsDue(int n, const std::string& text, const JobInHand& hand) {
+    const Job& job = hand.job;
     if (text.empty() || job.IsFilled(n)) return 0;
-    const bool sms = !screen.List2.empty();
+    const bool sms = !hand.List2.empty();
     if (n == 99 || n == 117) {
         if (text.ends_with(" (E)") || text.ends_with(" (M)")) return 0;
         return job.D(n == 99 ? 117 : 99).ends_with(" (E)") ? 0 : 1;
@@ -189,19 +154,19 @@ TEST_F(Questions, RandomEntriesAreAskedAboutExactlyWhenDue) {
         const int n = fields[random() % fields.size()];
         std::string text = texts[random() % texts.size()];
         if ((n == 86 || n == 88) && text.find('=') != text.npos) text = "700";
-        if (random() % 10 == 0) screen.List2.empty() ? ListSmsPayoff() : screen.List2.clear();
-        if (n == 100 || n == 118) RebuildRows(screen);
-        const auto due = text == screen.job.txtField(n).text ? 0 : QuestionsDue(n, text, screen);
+        if (random() % 10 == 0) hand.List2.empty() ? ListSmsPayoff() : hand.List2.clear();
+        if (n == 100 || n == 118) RebuildRows(hand);
+        const auto due = text == hand.job.txtField(n).text ? 0 : QuestionsDue(n, text, hand);
         ScriptedDialogs::Answers answers;
         for (std::size_t i = 0; i < due; ++i) answers.emplace_back(random() % 2 ? "Yes" : "No");
         Answer(answers);
         ASSERT_NO_THROW(Enter(n, text)) << "step " << step << ": field " << n << ", \"" << text << "\"";
         ASSERT_EQ(dialogs.AnswersLeft(), 0u) << "step " << step << ": field " << n << ", \"" << text << "\"";
 
-        const std::string stored = screen.job.D(n);
-        screen.job.RunChangeRule(n);
-        ShowFieldNotes(n, *FindRow(n, screen), 0, screen);
-        ASSERT_EQ(screen.job.D(n), stored) << "step " << step << ": stored and drawn once more";
+        const std::string stored = hand.job.D(n);
+        hand.job.RunChangeRule(n);
+        ShowFieldNotes(n, *FindRow(n, hand), 0, hand);
+        ASSERT_EQ(hand.job.D(n), stored) << "step " << step << ": stored and drawn once more";
     }
 }
 

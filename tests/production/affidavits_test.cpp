@@ -132,9 +132,8 @@ std::vector<std::string> TitleInsurers() {
     Folders folders;
     FirmDefaults firmDefaults;
     const FixedClock clock{std::chrono::year(2024) / 5 / 2};
-    ScriptedDialogs dialogs{{}, ScriptedDialogs::WhenUnanswered::Fail};
-    std::string list = FieldDefault("[buyer title insur co]", SelectionState(),
-                                    {settings, folders, firmDefaults, clock, dialogs});
+    std::string list =
+        FieldDefault("[buyer title insur co]", JobInHand(), {settings, folders, firmDefaults, clock});
     std::vector<std::string> companies;
     for (std::size_t end; (end = list.find("; ")) != std::string::npos; list.erase(0, end + 2))
         companies.push_back(list.substr(0, end));

@@ -13,11 +13,14 @@ using ::testing::ElementsAre;
 const std::string kHeading = "QUILL MARK Field List >  ";
 const std::string kRule(30, '_');
 
-SelectionState ScreenWith(std::vector<std::string> documents) {
-    SelectionState screen;
-    screen.job = SampleDeal();
-    for (std::string& name : documents) screen.List2.push_back({std::move(name)});
-    return screen;
+std::string fileName;  ///< of the job, empty for none
+
+JobInHand HandWith(std::vector<std::string> documents) {
+    fileName.clear();
+    JobInHand hand;
+    hand.job = SampleDeal();
+    for (std::string& name : documents) hand.List2.push_back({std::move(name)});
+    return hand;
 }
 
 GridRow Row(RowKind kind, std::string label, std::string value) {
@@ -32,26 +35,26 @@ TEST(FieldList, DocumentsBreakAfterTheColumnsOfThePaper) {
     // The apostrophe of this entry is three bytes.
     const std::string entry = "Secretary’s Certificate / Corporate";
     const std::size_t characters = entry.size() - 2;
-    SelectionState screen = ScreenWith({entry, std::string(89 - characters - 2, 'x')});
-    EXPECT_THAT(FieldList(screen).lines, ElementsAre(kHeading + entry + "; " + screen.List2[1].name,
-                                                     "* asterisks denote required fields"));
-    screen.List2[1].name += 'y' + std::string(120, 'z');
-    const auto lines = FieldList(screen).lines;
+    JobInHand hand = HandWith({entry, std::string(89 - characters - 2, 'x')});
+    EXPECT_THAT(FieldList(hand, fileName).lines, ElementsAre(kHeading + entry + "; " + hand.List2[1].name,
+                                                             "* asterisks denote required fields"));
+    hand.List2[1].name += 'y' + std::string(120, 'z');
+    const auto lines = FieldList(hand, fileName).lines;
     ASSERT_EQ(lines.size(), 4U);
     EXPECT_EQ(lines[1], "y" + std::string(119, 'z'));
     EXPECT_EQ(lines[2], "z");
 }
 
 TEST(FieldList, FieldsShowTheirValueOrARuleToWriteOn) {
-    SelectionState screen = ScreenWith({"Deed / Warranty", "Schedule A"});
-    screen.txtJobName.text = "Hollis";
+    JobInHand hand = HandWith({"Deed / Warranty", "Schedule A"});
+    fileName = "Hollis";
     for (const int n : {field::Seller1Name, field::Buyer1Addr2, field::SellerAttyAddr2, field::ClosingDate,
                         field::SchedADescription, field::OtherDisbursement2})
-        screen.job.txtField(n).relevant = true;
-    screen.grid = {Row(RowKind::Heading, " USER-DEFINED~~~", ""),
-                   Row(RowKind::User, "[number of the parking space]", ""),
-                   Row(RowKind::User, "[hoa]", "Harbor View")};
-    const PrintJob list = FieldList(screen);
+        hand.job.txtField(n).relevant = true;
+    hand.grid = {Row(RowKind::Heading, " USER-DEFINED~~~", ""),
+                 Row(RowKind::User, "[number of the parking space]", ""),
+                 Row(RowKind::User, "[hoa]", "Harbor View")};
+    const PrintJob list = FieldList(hand, fileName);
     EXPECT_EQ(list.name, "Field List");
     EXPECT_EQ(list.font, "Courier New");
     EXPECT_THAT(list.lines,
@@ -70,10 +73,10 @@ TEST(FieldList, FieldsShowTheirValueOrARuleToWriteOn) {
 }
 
 TEST(FieldList, WithoutDocumentsThereIsTheHeadingAndTheName) {
-    SelectionState screen = ScreenWith({});
-    EXPECT_THAT(FieldList(screen).lines, ElementsAre(kHeading));
-    screen.txtJobName.text = "Hollis";
-    EXPECT_THAT(FieldList(screen).lines, ElementsAre(kHeading, "File Name: Hollis"));
+    JobInHand hand = HandWith({});
+    EXPECT_THAT(FieldList(hand, fileName).lines, ElementsAre(kHeading));
+    fileName = "Hollis";
+    EXPECT_THAT(FieldList(hand, fileName).lines, ElementsAre(kHeading, "File Name: Hollis"));
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ class GridEditing : public OfficeTest {
 
 TEST_F(GridEditing, EnterGoesDownOverHeadingsAndStaysOnTheLastRow) {
     StartWith({"Deed / Warranty"});
-    screen->ClickGrid(State().lblJump[2].headingRow, 1);
+    screen->ClickGrid(State().groups[2].headingRow, 1);
     EXPECT_FALSE(Editor().IsOpen()) << "a heading opens nothing";
     Click(21);
     EXPECT_FALSE(State().List1Enabled);
@@ -286,8 +286,8 @@ TEST_F(GridEditing, LeavingTheEditorCommitsExceptForTheTopBarWithNothingToSave) 
     EXPECT_EQ("$6.00 - N", Value(86)) << "what was typed is kept";
     EXPECT_EQ(RowOf(76), Editor().EditRow);
     screen->ClickJumpLabel(3);
-    EXPECT_EQ(State().lblJump[3].headingRow, Editor().topRow);
-    EXPECT_TRUE(State().lblJump[3].current);
+    EXPECT_EQ(State().groups[3].headingRow, Editor().topRow);
+    EXPECT_TRUE(State().lblJump(3).current);
     Answer({"Yes"});
     screen->EnterField(170, "4812.5", EntryWay::Type);
     Click(170, 3);

@@ -4,7 +4,7 @@
 
 #include "core/field_registry.h"
 #include "selection/option_tags.h"
-#include "session/field_editor.h"
+#include "session/grid/editor_texts.h"
 #include "session/office_fixture.h"
 
 namespace quillmark {

@@ -75,7 +75,7 @@ TEST_F(JobFilesTest, ASavedJobComesBackWhole) {
     EXPECT_EQ("EDIT", State().cmdOpen.caption);
     EXPECT_TRUE(State().cmdOP236.enabled);
     screen->Click("cmdOpen");
-    EXPECT_EQ("edit mode", State().ScreenMode);
+    EXPECT_EQ(ScreenMode::Edit, State().mode);
     EXPECT_THROW(screen->EnterField(21, "Ann Abbott", EntryWay::Type), NotAllowed) << "locked";
     Answer({"Yes"});
     screen->UnlockRow(21);
@@ -165,7 +165,7 @@ TEST_F(JobFilesTest, ATemplateSpawnsJobsWithItsValuesLocked) {
     screen->Click("cmdTemplate");
     screen->Spawn("{ REGENCY_template }");
     EXPECT_EQ("regency - ", State().txtJobName.text);
-    EXPECT_EQ("", State().ScreenMode);
+    EXPECT_EQ(ScreenMode::Job, State().mode);
     EXPECT_EQ("1 Regency Circle", State().job.D(70));
     EXPECT_TRUE(State().job.txtField(70).locked);
     EXPECT_TRUE(State().job.optConf(Condo));
@@ -207,9 +207,9 @@ TEST_F(SettingsTest, ADataPathThatIsNotThereFallsBackToTheLocalFolder) {
                "\"z:\\\\office\\\\data\\\\\"\r\n\"n\"\r\n\"n\"\r\n\"n\"\r\n\"n\"\r\n");
     Start();
     EXPECT_NE(std::string::npos, LastBox().find("UNABLE TO CONNECT TO DATABASE @ ..."));
-    EXPECT_EQ(scratch.path() / "data", screen->OfficeFolders().JobFolder);
-    EXPECT_FALSE(screen->OfficeSettings().documentAlerts);
-    EXPECT_TRUE(screen->OfficeSettings().leapYears);
+    EXPECT_EQ(scratch.path() / "data", screen->FirmAround().folders.JobFolder);
+    EXPECT_FALSE(screen->FirmAround().settings.documentAlerts);
+    EXPECT_TRUE(screen->FirmAround().settings.leapYears);
     screen->TypeName("DEFAULTS");
     screen->EnterName();
     Answer({"Y"});

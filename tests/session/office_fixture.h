@@ -59,7 +59,7 @@ class OfficeTest : public ::testing::Test {
         screen->Start();
         return *screen;
     }
-    const SelectionState& State() const { return screen->State(); }
+    const ScreenState& State() const { return screen->State(); }
     void Answer(ScriptedDialogs::Answers answers) { dialogs.SetAnswers(std::move(answers)); }
     std::filesystem::path JobFile(std::string_view name) const {
         return scratch.path() / "data" / (std::string(name) + ".dat");

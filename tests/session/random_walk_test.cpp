@@ -200,7 +200,7 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
     void Button() {
         const std::string& button = OneOf(kButtons);
         Note("click " + button);
-        const bool saves = button == "cmdOpen" && State().cmdOpen.caption == "SAVE";
+        const bool saves = button == "cmdOpen" && State().Saves();
         screen->Click(button);
         if (saves && !State().cmdOpen.enabled && !screen->SettingsListShown()) ExpectFileHoldsTheJob();
         if (screen->BrowserOpen()) UseBrowser();
@@ -215,7 +215,7 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
 
     /// The browser keeps the screen waiting until something has been chosen.
     void UseBrowser() {
-        const bool templates = State().ScreenMode == screen_mode::kPresets;
+        const bool templates = State().mode == ScreenMode::Presets;
         Names entries;
         for (const auto& file : std::filesystem::directory_iterator(scratch / "data"))
             if (file.path().extension() == ".dat") entries.push_back(file.path().stem().string());
@@ -276,7 +276,7 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
 
     void Check() {
         ExpectRowsInOrder();
-        if (State().ScreenMode == screen_mode::kJob) ExpectRowsOfRelevantFields();
+        if (State().mode == ScreenMode::Job) ExpectRowsOfRelevantFields();
         ExpectOptionsAgree();
         for (const std::string& text : TextsOf(State()))
             EXPECT_FALSE(FirstUnencodable(text)) << text << "\n" << Where();
@@ -295,10 +295,10 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
             former = &row;
         }
         EXPECT_LT(State().currentRow, static_cast<int>(State().grid.size())) << Where();
-        for (const JumpLabel& label : State().lblJump) {
-            if (!label.enabled) continue;
-            ASSERT_LT(static_cast<std::size_t>(label.headingRow), State().grid.size()) << Where();
-            EXPECT_EQ(RowKind::Heading, State().grid[static_cast<std::size_t>(label.headingRow)].kind)
+        for (const GridGroup& group : State().groups) {
+            if (!group.HasRows()) continue;
+            ASSERT_LT(static_cast<std::size_t>(group.headingRow), State().grid.size()) << Where();
+            EXPECT_EQ(RowKind::Heading, State().grid[static_cast<std::size_t>(group.headingRow)].kind)
                 << Where();
         }
     }

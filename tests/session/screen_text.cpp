@@ -20,7 +20,7 @@ std::string HolderText(int n, const Job& job) {
     return text;
 }
 
-void AddButtons(const SelectionState& screen, std::vector<std::string>& texts) {
+void AddButtons(const ScreenState& screen, std::vector<std::string>& texts) {
     for (const Button* button :
          {&screen.cmdOpen, &screen.cmdCreate, &screen.cmdReset, &screen.cmdExit, &screen.cmdTemplate,
           &screen.cmdPackages, &screen.cmdCustom, &screen.cmdNameAs, &screen.cmdEnvelopes, &screen.cmdOP236,
@@ -29,7 +29,7 @@ void AddButtons(const SelectionState& screen, std::vector<std::string>& texts) {
             fmt::format("{} {} {} {}", button->caption, button->tooltip, button->enabled, button->visible));
 }
 
-void AddLists(const SelectionState& screen, std::vector<std::string>& texts) {
+void AddLists(const ScreenState& screen, std::vector<std::string>& texts) {
     texts.insert(texts.end(), screen.List1.begin(), screen.List1.end());
     for (const JobListLine& line : screen.List2)
         texts.push_back(fmt::format("{} {}", line.name, line.selected));
@@ -47,13 +47,13 @@ void AddJob(const Job& job, std::vector<std::string>& texts) {
 
 }  // namespace
 
-std::vector<std::string> TextsOf(const SelectionState& screen) {
+std::vector<std::string> TextsOf(const ScreenState& screen) {
     const NameBox& box = screen.txtJobName;
     std::vector<std::string> texts = {
         fmt::format("{} {} {} {}", box.text, box.locked, box.enabled, box.noSave),
-        fmt::format("{} {} {} {}", screen.ScreenMode, screen.FieldEntryStarted, screen.templateBeingSet,
-                    screen.browsedFile),
-        fmt::format("{} {} {} {}", screen.List1Enabled, screen.List2Enabled, screen.List2Tooltip,
+        fmt::format("{} {} {} {}", NameOf(screen.mode), screen.FieldEntryStarted, screen.templateBeingSet,
+                    screen.fromTemplate),
+        fmt::format("{} {} {} {}", screen.List1Enabled, screen.List2Enabled, screen.List2Tooltip(),
                     screen.LegalList),
         fmt::format("{} {} {}", screen.relevantFieldCount, screen.total, screen.remaining)};
     for (int n = 1; n <= kOptions; ++n) {

@@ -66,9 +66,7 @@ class Workstation {
         screen.UnlockRow(kSeller);
         screen.EnterField(kSeller, seller, EntryWay::Type);
     }
-    bool CanSave() const {
-        return screen.State().cmdOpen.caption == "SAVE" && screen.State().cmdOpen.enabled;
-    }
+    bool CanSave() const { return screen.State().HasUnsavedChanges(); }
     void Save() { screen.Click("cmdOpen"); }
     void Rename(const std::string& name, const std::string& newName) {
         Reset();
@@ -79,7 +77,7 @@ class Workstation {
         screen.Click("cmdNameAs");
     }
     void Delete(const std::string& name) {
-        FileBrowser browser(screen.OfficeFolders(), false, person);
+        FileBrowser browser(screen.FirmAround().folders, false, person);
         if (browser.Select(name)) browser.DeleteSelected();
     }
 

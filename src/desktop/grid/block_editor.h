@@ -3,7 +3,7 @@
 #include <QStackedWidget>
 #include <string>
 
-#include "session/grid_editor.h"
+#include "session/grid/grid_editor.h"
 
 class QLabel;
 class QPlainTextEdit;

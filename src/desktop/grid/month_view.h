@@ -3,7 +3,7 @@
 #include <QCalendarWidget>
 #include <chrono>
 
-#include "session/grid_editor.h"
+#include "session/grid/grid_editor.h"
 
 class QAbstractItemView;
 

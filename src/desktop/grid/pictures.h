@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "desktop/toolkit/side_window.h"
-#include "session/grid_editor.h"
+#include "session/grid/grid_editor.h"
 
 class QLabel;
 class QScrollArea;

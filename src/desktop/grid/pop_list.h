@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "session/grid_editor.h"
+#include "session/grid/grid_editor.h"
 
 namespace quillmark::desktop {
 

@@ -88,7 +88,7 @@ void DocumentPanel::SelectLegal() {
 }
 
 void DocumentPanel::Show() {
-    const SelectionState& state = desk_.State();
+    const ScreenState& state = desk_.State();
     showing_ = true;
     List1_->SetLines(state.List1);
     List1_->setEnabled(state.List1Enabled);
@@ -98,14 +98,14 @@ void DocumentPanel::Show() {
 }
 
 void DocumentPanel::ShowJobList() {
-    const SelectionState& state = desk_.State();
+    const ScreenState& state = desk_.State();
     std::vector<std::string> lines;
     for (const JobListLine& line : state.List2) lines.push_back(line.name);
     List2_->SetLines(lines);
     for (int row = 0; row < List2_->count(); ++row)
         List2_->item(row)->setSelected(state.List2[static_cast<std::size_t>(row)].selected);
     List2_->setEnabled(state.List2Enabled);
-    List2_->setToolTip(Shown(state.List2Tooltip).trimmed());
+    List2_->setToolTip(Shown(state.List2Tooltip()).trimmed());
     label2_->setText(lines.empty() ? tr("&Job list") : tr("&Job list (%1)").arg(lines.size()));
 }
 

@@ -33,7 +33,7 @@ void GuidanceBar::changeEvent(QEvent* event) {
 }
 
 void GuidanceBar::Show() {
-    const SelectionState& state = desk_.State();
+    const ScreenState& state = desk_.State();
     const bool coloured = state.picInfoColours.text == state.picInfo && !state.picInfoColours.spans.empty();
     const QString plain = Shown(state.picInfo).trimmed();
     Say(plain, coloured ? Coloured() : plain, coloured);
@@ -41,7 +41,7 @@ void GuidanceBar::Show() {
 
 /// The text with its coloured spans, as rich text.
 QString GuidanceBar::Coloured() const {
-    const SelectionState& state = desk_.State();
+    const ScreenState& state = desk_.State();
     const std::string_view text = state.picInfo;
     QString rich;
     std::size_t done = 0;

@@ -42,7 +42,7 @@ JumpBar::JumpBar(Desk& desk, const Appearance& appearance, QWidget* parent)
 
 void JumpBar::Show() {
     for (std::size_t g = 1; g < lblJump_.size(); ++g) {
-        const JumpLabel& state = desk_.State().lblJump[g];
+        const JumpLabel& state = desk_.State().lblJump(g);
         QPushButton* label = lblJump_[g];
         label->setEnabled(state.enabled);
         const QString caption = QLatin1String(kCaptions[g]) +

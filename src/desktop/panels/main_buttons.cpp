@@ -11,24 +11,24 @@ namespace {
 
 struct ButtonRow {
     std::string_view name;
-    const Button SelectionState::*state;
+    const Button ScreenState::*state;
     const char* purpose;  ///< what the control is for, where it has no tool tip
 };
 
 // clang-format off
 constexpr ButtonRow kButtons[] = {
-    {"cmdOpen",       &SelectionState::cmdOpen,       "opens, edits or saves the job"},
-    {"cmdCreate",     &SelectionState::cmdCreate,     "makes the documents of the job"},
-    {"cmdReset",      &SelectionState::cmdReset,      "clears the screen for another job"},
-    {"cmdExit",       &SelectionState::cmdExit,       "ends the program"},
-    {"cmdTemplate",   &SelectionState::cmdTemplate,   "lists client templates"},
-    {"cmdPackages",   &SelectionState::cmdPackages,   "opens the package editor"},
-    {"cmdCustom",     &SelectionState::cmdCustom,     "opens the custom forms"},
-    {"cmdNameAs",     &SelectionState::cmdNameAs,     "gives this job another name"},
-    {"cmdEnvelopes",  &SelectionState::cmdEnvelopes,  "prints envelopes for this job"},
-    {"cmdOP236",      &SelectionState::cmdOP236,      "fills the conveyance tax return of this job"},
-    {"cmdPrintFList", &SelectionState::cmdPrintFList, "prints the fields of this job"},
-    {"cmdSelect",     &SelectionState::cmdSelect,     "chooses another law firm"},
+    {"cmdOpen",       &ScreenState::cmdOpen,       "opens, edits or saves the job"},
+    {"cmdCreate",     &ScreenState::cmdCreate,     "makes the documents of the job"},
+    {"cmdReset",      &ScreenState::cmdReset,      "clears the screen for another job"},
+    {"cmdExit",       &ScreenState::cmdExit,       "ends the program"},
+    {"cmdTemplate",   &ScreenState::cmdTemplate,   "lists client templates"},
+    {"cmdPackages",   &ScreenState::cmdPackages,   "opens the package editor"},
+    {"cmdCustom",     &ScreenState::cmdCustom,     "opens the custom forms"},
+    {"cmdNameAs",     &ScreenState::cmdNameAs,     "gives this job another name"},
+    {"cmdEnvelopes",  &ScreenState::cmdEnvelopes,  "prints envelopes for this job"},
+    {"cmdOP236",      &ScreenState::cmdOP236,      "fills the conveyance tax return of this job"},
+    {"cmdPrintFList", &ScreenState::cmdPrintFList, "prints the fields of this job"},
+    {"cmdSelect",     &ScreenState::cmdSelect,     "chooses another law firm"},
 };
 
 /// Captions that can stand on the screen together have different letters.
@@ -77,7 +77,7 @@ void MainButtons::Show() {
 }
 
 void MainButtons::ShowOne(const Made& made) const {
-    const SelectionState& state = desk_.State();
+    const ScreenState& state = desk_.State();
     const Button& button = state.*made.state;
     QPushButton* widget = made.widget;
     const QString caption = MarkedCaption(button.caption);
@@ -92,7 +92,7 @@ void MainButtons::ShowOne(const Made& made) const {
         SetBackground(widget, state.templateBeingSet ? appearance_.Colours().template_ : QColor());
     if (made.name == "cmdExit") {
         QFont font = widget->parentWidget()->font();
-        font.setBold(button.caption == "EMAIL");
+        font.setBold(state.exitDoes == ExitDoes::Mail);
         widget->setFont(font);
     }
 }

@@ -28,7 +28,7 @@ class MainButtons final : public QObject {
  private:
     struct Made {
         std::string_view name;
-        const Button SelectionState::*state;
+        const Button ScreenState::*state;
         QPushButton* widget;
     };
 

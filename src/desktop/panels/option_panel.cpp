@@ -90,7 +90,7 @@ OptionRadio* OptionPanel::MakeOption(int n, QWidget* parent) {
 }
 
 void OptionPanel::Show() {
-    const SelectionState& state = desk_.State();
+    const ScreenState& state = desk_.State();
     for (int n = 1; n <= kOptions; ++n) {
         const OptionButton& option = state.options[static_cast<std::size_t>(n)];
         OptionRadio* widget = options_[static_cast<std::size_t>(n)];

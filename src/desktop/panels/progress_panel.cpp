@@ -33,7 +33,7 @@ ProgressPanel::ProgressPanel(Desk& desk, QWidget* ground) : QFrame(ground), desk
 }
 
 void ProgressPanel::Show() {
-    const SelectionState& state = desk_.State();
+    const ScreenState& state = desk_.State();
     ShowPointer(state.waiting);
     const bool shown = state.waiting || state.progress.visible;
     if (shown) {

@@ -4,7 +4,7 @@
 
 #include "desktop/toolkit/controls.h"
 #include "desktop/toolkit/side_window.h"
-#include "entry/address_editor.h"
+#include "tools/addresses/address_editor.h"
 
 class QFormLayout;
 class QLineEdit;

@@ -172,8 +172,8 @@ bool BrowserWindow::TakeKey(QObject* watched, QKeyEvent& key) {
 }
 
 bool ShowBrowser(MainScreen& screen, QWidget* parent) {
-    const bool templates = screen.State().ScreenMode == screen_mode::kPresets;
-    FileBrowser browser(screen.OfficeFolders(), templates, screen.OfficeAround().dialogs);
+    const bool templates = screen.State().mode == ScreenMode::Presets;
+    FileBrowser browser(screen.FirmAround().folders, templates, screen.Person());
     if (!browser.IsOpen()) {
         screen.CloseBrowser();
         screen.TypeName("defaults");

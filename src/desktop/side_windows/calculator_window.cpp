@@ -148,7 +148,7 @@ void CalculatorWindow::HandOver(CreditTo side) {
     try {
         screen_.HandOver(side);
     } catch (const NotAllowed& refused) {
-        return screen_.OfficeAround().dialogs.Tell("  ALERT", refused.what(), DialogIcon::Warning);
+        return screen_.Person().Tell("  ALERT", refused.what(), DialogIcon::Warning);
     }
     Follow();
     Q_EMIT HandedOver();

@@ -173,7 +173,7 @@ bool PackagesWindow::eventFilter(QObject* watched, QEvent* event) {
 bool ShowPackageEditor(MainScreen& screen, QWidget* parent) {
     const Button& button = screen.State().cmdPackages;
     if (!button.enabled || !button.visible) throw NotAllowed("cmdPackages is disabled");
-    PackageEditor editor(screen.State(), screen.OfficeAround());
+    PackageEditor editor(screen.State().List1, screen.FirmAround().folders, screen.Person());
     PackagesWindow window(editor, parent);
     window.exec();
     screen.LeavePackages();

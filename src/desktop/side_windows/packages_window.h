@@ -2,7 +2,7 @@
 
 #include "desktop/toolkit/controls.h"
 #include "desktop/toolkit/side_window.h"
-#include "selection/package_editor.h"
+#include "tools/packages/package_editor.h"
 
 class QCheckBox;
 class QComboBox;

@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "selection/selection_state.h"
+#include "session/state/screen_state.h"
 
 /// What the controls of all windows share in looks, keys and speech.
 namespace quillmark::desktop {

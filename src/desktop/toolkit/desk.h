@@ -20,7 +20,7 @@ class Desk final : public QObject {
     Desk(MainScreen& screen, QWidget& window);
 
     const MainScreen& Screen() const { return screen_; }
-    const SelectionState& State() const { return screen_.State(); }
+    const ScreenState& State() const { return screen_.State(); }
     const GridEditorState& Editor() const { return screen_.Editor(); }
 
     /// Runs a command and has the window show what it left. False when the screen did not take it, when it

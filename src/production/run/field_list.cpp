@@ -32,9 +32,9 @@ std::string_view WithoutBrackets(std::string_view marker) {
     return marker.starts_with('[') && marker.ends_with(']') ? marker.substr(1, marker.size() - 2) : marker;
 }
 
-void AddDocuments(const SelectionState& screen, std::vector<std::string>& lines) {
+void AddDocuments(const JobInHand& hand, std::vector<std::string>& lines) {
     std::string documents;
-    for (const JobListLine& line : screen.List2) documents += (documents.empty() ? "" : "; ") + line.name;
+    for (const JobListLine& line : hand.List2) documents += (documents.empty() ? "" : "; ") + line.name;
     lines = CutIntoColumns(documents, kFirstColumns, kColumns);
     lines.front().insert(0, "QUILL MARK Field List >  ");
 }
@@ -52,26 +52,26 @@ void AddField(std::string_view marker, bool required, std::string_view value,
     lines.push_back(std::move(line));
 }
 
-void AddFields(const SelectionState& screen, std::vector<std::string>& lines) {
+void AddFields(const JobInHand& hand, std::vector<std::string>& lines) {
     const std::string rule = RepeatUnderscore(30);
     for (int n = 1; n <= kFields; ++n) {
-        const FieldHolder& holder = screen.job.txtField(n);
+        const FieldHolder& holder = hand.job.txtField(n);
         if (!holder.relevant || WithoutBrackets(FieldMarker(n)).empty()) continue;
         const bool required = !std::binary_search(std::begin(kOptionalFields), std::end(kOptionalFields), n);
         AddField(FieldMarker(n), required, holder.text == FieldMarker(n) ? rule : holder.text, lines);
     }
-    for (const GridRow& row : screen.grid)
+    for (const GridRow& row : hand.grid)
         if (row.kind == RowKind::User) AddField(row.label, true, row.value.empty() ? rule : row.value, lines);
 }
 
 }  // namespace
 
-PrintJob FieldList(const SelectionState& screen) {
+PrintJob FieldList(const JobInHand& hand, std::string_view fileName) {
     PrintJob job = {"Field List", "Courier New", kPoints, {}};
-    AddDocuments(screen, job.lines);
-    if (screen.txtJobName.IsSaveable()) job.lines.push_back("File Name: " + screen.txtJobName.text);
-    if (screen.List2.empty()) return job;
-    AddFields(screen, job.lines);
+    AddDocuments(hand, job.lines);
+    if (!fileName.empty()) job.lines.push_back("File Name: " + std::string(fileName));
+    if (hand.List2.empty()) return job;
+    AddFields(hand, job.lines);
     job.lines.push_back("* asterisks denote required fields");
     return job;
 }

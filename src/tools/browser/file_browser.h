@@ -8,7 +8,7 @@
 
 #include "core/folders.h"
 #include "platform/dialogs.h"
-#include "selection/selection_state.h"
+#include "tools/controls.h"
 
 /// The window `Form3` without its toolkit: it lists the jobs or the client templates of `JobFolder`, narrows
 /// the list as one types, deletes files, and hands over what was chosen; the main screen acts on it.

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+
+#include "entry/address_book_files.h"
+#include "platform/clock.h"
+#include "platform/dialogs.h"
+#include "platform/machine.h"
+#include "word/start.h"
+
+namespace quillmark {
+
+/// What lies outside the program. `http` may be null: then no upgrade is looked for.
+struct Machine {
+    const Clock& clock;
+    Dialogs& dialogs;
+    Shell& shell;
+    HttpClient* http = nullptr;
+    Printer* printer = nullptr;  ///< null: nothing can be printed
+    std::function<word::StartedWordProcessor()> startWord = {};
+    /// Whether another copy of the program runs on this computer and has been brought to the front; null
+    /// where several may run.
+    std::function<bool()> handOver = {};
+    std::filesystem::path programFile = {};  ///< whose date upgrades are measured by; empty for none
+    /// While another user holds the address books: shows the wait and gives way to Cancel. Null waits for
+    /// ever.
+    WaitForBooks waitForBooks = {};
+    /// Called at each step of CREATE, so that a window can show the state as it is then. Null where none
+    /// shows.
+    std::function<void()> onProgress = {};
+
+    void LetRepaint() const {
+        if (onProgress) onProgress();
+    }
+};
+
+}  // namespace quillmark

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "closing/proration_calculator.h"
+#include "session/firm.h"
+#include "session/grid/grid_editor.h"
+#include "session/machine.h"
+#include "session/state/screen_state.h"
+#include "tools/addresses/address_editor.h"
+
+namespace quillmark {
+
+/// The windows beside the main screen: the screens of the address books and the proration calculator. They
+/// change the address books and, by handing an amount over, one row of the grid.
+class SideWindows {
+ public:
+    struct Surroundings {
+        std::function<bool()> isClosed;         ///< another choice stands before any of them
+        std::function<bool()> settingsShown;    ///< the settings list stands in the grid's place
+        std::function<void(int)> openRow;       ///< field entry begins on a row of the grid
+        std::function<void(int)> fieldChanged;  ///< this field has another value
+    };
+
+    /// The arguments must outlive the object.
+    SideWindows(ScreenState& screen, GridEditor& editor, Firm& firm, Machine& machine, Surroundings around)
+        : screen_(screen), editor_(editor), firm_(firm), machine_(machine), around_(std::move(around)) {}
+
+    /// Throws FileError, and there is no such screen then.
+    AddressEditor& OpenAddresses(AddressBook book);
+    AddressEditor* Addresses() { return addresses_.get(); }
+    void CloseAddresses() { addresses_.reset(); }
+
+    ProrationCalculator& OpenCalculator();
+    ProrationCalculator* Calculator() { return calculator_.get(); }
+    void HandOver(CreditTo side);
+    void CloseCalculator() { calculator_.reset(); }
+
+    void CloseAll();
+
+ private:
+    ScreenState& screen_;
+    GridEditor& editor_;
+    Firm& firm_;
+    Machine& machine_;
+    Surroundings around_;
+    std::unique_ptr<AddressEditor> addresses_;
+    std::unique_ptr<ProrationCalculator> calculator_;
+};
+
+}  // namespace quillmark
