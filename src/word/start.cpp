@@ -11,7 +11,7 @@ namespace {
 
 #ifdef _WIN32
 StartedWordProcessor StartInstalledWord() {
-    return {StartWord(), std::make_shared<SystemClipboard>(), false};
+    return {StartWord(), std::make_shared<SystemClipboard>(), false, nullptr};
 }
 #else
 StartedWordProcessor StartInstalledWord() {
@@ -31,7 +31,8 @@ std::optional<StartedWordProcessor> TryInstalledWord() {
 StartedWordProcessor StartEmbedded(docx::objects::EngineOptions options) {
     if (!options.clipboard) options.clipboard = std::make_shared<MemoryClipboard>();
     const auto clipboard = options.clipboard;
-    return {docx::objects::StartEngine(std::move(options)), clipboard, true};
+    ObjectPtr application = docx::objects::StartEngine(std::move(options));
+    return {application, clipboard, true, docx::objects::HintsOf(application)};
 }
 
 }  // namespace

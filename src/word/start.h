@@ -5,6 +5,7 @@
 #include "word/docx/objects/engine.h"
 #include "word/seam/automation.h"
 #include "word/seam/clipboard.h"
+#include "word/seam/hints.h"
 
 namespace quillmark::word {
 
@@ -16,6 +17,7 @@ struct StartedWordProcessor {
     ObjectPtr application;
     std::shared_ptr<Clipboard> clipboard;  ///< the one that this application pastes from
     bool isEmbedded = false;
+    std::shared_ptr<Hints> hints = {};  ///< the embedded engine's; null for Word
 };
 
 /// Starts the word processor of choice. `options` are the embedded engine's and mean nothing to Word.

@@ -11,20 +11,22 @@ void TypeReturnTo(const JobValues& job, Typist& type, const Attorney& attorney) 
     type.Indents(kDeedIndent);
     type.Align(word::AlignLeft);
     type.Font("Lucida Console", 9);
-    type.Bold(true);
-    type.Italic(true);
-    type.Text("RECORD & RETURN TO:\r");
-    type.Bold(false);
-    type.Italic(false);
-    type.Text("Atty ", job[attorney.name], "\r",   //
-              job.TwoLines(attorney.addr1), "\r",  //
-              job[attorney.cityStateZip], RepeatReturn(2));
+    type.As(word::Role::ReturnAddress, [&] {
+        type.Bold(true);
+        type.Italic(true);
+        type.Text("RECORD & RETURN TO:\r");
+        type.Bold(false);
+        type.Italic(false);
+        type.Text("Atty ", job[attorney.name], "\r",   //
+                  job.TwoLines(attorney.addr1), "\r",  //
+                  job[attorney.cityStateZip], RepeatReturn(2));
+    });
 }
 
 void TypeTitle(Typist& type, std::string_view title) {
     type.Align(word::AlignCentre);
     type.Font("Arial", 11);
-    type.TypeBold(title, RepeatReturn(2));
+    type.As(word::Role::Title, [&] { type.TypeBold(title, RepeatReturn(2)); });
     type.Align(word::AlignLeft);
     type.FontSize(10);
 }
@@ -38,9 +40,11 @@ void TypeGenderParagraph(Typist& type, std::string_view added) {
 }
 
 void TypeExecutionDate(const JobValues& job, Typist& type, std::string_view whoHave, int returns) {
-    type.TypeBold("IN WITNESS WHEREOF");
-    type.Text(", the ", whoHave, " caused these presents to be executed on this ",
-              job.DayMonthYear(DocumentDate), ".", RepeatReturn(static_cast<std::uint16_t>(returns)));
+    type.As(word::Role::Signature, [&] {
+        type.TypeBold("IN WITNESS WHEREOF");
+        type.Text(", the ", whoHave, " caused these presents to be executed on this ",
+                  job.DayMonthYear(DocumentDate), ".", RepeatReturn(static_cast<std::uint16_t>(returns)));
+    });
 }
 
 int WitnessReturns(const JobValues& job) {
@@ -50,15 +54,19 @@ int WitnessReturns(const JobValues& job) {
 void TypeWitnesses(const JobValues& job, Typist& type, int returns) {
     const std::string spacing = RepeatReturn(static_cast<std::uint16_t>(returns));
     const std::string line = "Witness:  " + RepeatUnderscore(33) + "\r" + std::string(16, ' ');
-    type.Text("Signed, sealed and delivered in the presence of or attested by:");
-    type.Text(spacing, line, job[Witness1]);
-    type.Text(spacing, line, job[Witness2], RepeatReturn(3));
+    type.As(word::Role::Signature, [&] {
+        type.Text("Signed, sealed and delivered in the presence of or attested by:");
+        type.Text(spacing, line, job[Witness1]);
+        type.Text(spacing, line, job[Witness2], RepeatReturn(3));
+    });
 }
 
 void TypeVenue(const JobValues& job, Typist& type) {
-    type.TypeBold("STATE OF CONNECTICUT\t}\r\t}");
-    type.Text("\tss.  ", job[TownOfExecution], "\r");
-    type.TypeBold("COUNTY OF ", UpperCase(job.CountyOfExecution()), "\t}", RepeatReturn(2));
+    type.As(word::Role::Notary, [&] {
+        type.TypeBold("STATE OF CONNECTICUT\t}\r\t}");
+        type.Text("\tss.  ", job[TownOfExecution], "\r");
+        type.TypeBold("COUNTY OF ", UpperCase(job.CountyOfExecution()), "\t}", RepeatReturn(2));
+    });
 }
 
 std::string TaxIdOrLine(const JobValues& job, Field taxId) {
@@ -88,9 +96,11 @@ void TypeJurat(const JobValues& job, Typist& type) {
 }
 
 void TypeNotary(const JobValues& job, Typist& type) {
-    type.Text(RepeatReturn(3), "\t", SignatureRule(), "\r",  //
-              "\t", job[SellerAtty], "\r",                   //
-              "\tNotary Public/Commissioner of the Superior Court\r");
+    type.As(word::Role::Notary, [&] {
+        type.Text(RepeatReturn(3), "\t", SignatureRule(), "\r",  //
+                  "\t", job[SellerAtty], "\r",                   //
+                  "\tNotary Public/Commissioner of the Superior Court\r");
+    });
 }
 
 }  // namespace quillmark

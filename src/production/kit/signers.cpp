@@ -101,13 +101,15 @@ Signers BuyerSigners(const JobValues& job, std::string_view role) {
 }
 
 void TypeSignatures(Typist& type, const Signers& signers) {
-    if (signers.parties.size() == 2) {
-        TypeTwoSignatures(type, signers);
-    } else if (!signers.agent.empty()) {
-        TypeEntitySignature(type, signers);
-    } else {
-        TypeOneSignature(type, signers);
-    }
+    type.As(word::Role::Signature, [&] {
+        if (signers.parties.size() == 2) {
+            TypeTwoSignatures(type, signers);
+        } else if (!signers.agent.empty()) {
+            TypeEntitySignature(type, signers);
+        } else {
+            TypeOneSignature(type, signers);
+        }
+    });
 }
 
 }  // namespace quillmark

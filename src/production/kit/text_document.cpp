@@ -104,7 +104,19 @@ class Typing {
         } else {
             BeginItem();
         }
+        SetRole();
         last_ = '\r';
+    }
+    /// Bold over the page stands a heading; the document's name is the first of them.
+    void SetRole() {
+        const bool isHeading = alignment_ == word::AlignCentre && wanted_.bold;
+        const word::Role heading = hasTitle_ ? word::Role::Heading : word::Role::Title;
+        const word::Role role = isHeading ? heading : word::Role::Body;
+        hasTitle_ = hasTitle_ || isHeading;
+        if (role == role_) return;
+        Flush();
+        type_.Role(role);
+        role_ = role;
     }
     void BeginItem() {
         CloseItem();
@@ -188,6 +200,7 @@ class Typing {
     void Do(const Aligned& step) {
         CloseItem();
         type_.Align(step.alignment);
+        alignment_ = step.alignment;
     }
     void Do(const Indented& step) {
         CloseList();
@@ -209,6 +222,7 @@ class Typing {
         CloseList();
         Do(Tabs{});
         if (isSpaced_) Do(Spaced{});
+        if (role_ != word::Role::Body) type_.Role(word::Role::Body);
         type_.Align(word::AlignLeft);
         type_.Indents(before_);
     }
@@ -233,6 +247,9 @@ class Typing {
     std::string words_;        ///< yet to be typed, in the present format
     char last_ = '\r';         ///< the last character of the block, '\r' before the first one
     Characters wanted_, present_;
+    word::Alignment alignment_ = word::AlignLeft;
+    word::Role role_ = word::Role::Body;
+    bool hasTitle_ = false;
     std::vector<double> tabs_;
     bool isSpaced_ = false;
 };

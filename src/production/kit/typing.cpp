@@ -46,6 +46,11 @@ void Typist::Indents(double inches) {
     WordSel.Paragraphs.RightIndent = InchesToPoints(inches);
 }
 
+void Typist::Role(word::Role role) {
+    role_ = role;
+    if (session_.hints) session_.hints->SetRole(role);
+}
+
 void Typist::EndList() {
     WordSel.ListFormat().RemoveNumbers();
     Indents(indent_);

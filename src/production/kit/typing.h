@@ -68,6 +68,17 @@ class Typist {
     void Superscript(bool on) { WordSel.Font.Superscript = on; }
 
     // The paragraph in hand and those that follow it.
+    /// What it is in its document. It changes nothing that is seen; the embedded engine makes a named style
+    /// of it and keeps blocks together.
+    void Role(word::Role role);
+    /// Types paragraphs that are this, among others that are what they were.
+    template <class Passage>
+    void As(word::Role role, Passage passage) {
+        const word::Role others = role_;
+        Role(role);
+        passage();
+        Role(others);
+    }
     void Align(word::Alignment alignment) { WordSel.ParagraphFormat.Alignment = alignment; }
     void SpaceAfter(double points) { WordSel.ParagraphFormat.SpaceAfter = points; }
     void LineSpacing(double points) { WordSel.Paragraphs.LineSpacing = points; }
@@ -146,6 +157,7 @@ class Typist {
 
     WordSession& session_;
     double indent_ = 0;  ///< as Indents set it last
+    word::Role role_ = word::Role::Body;
 };
 
 }  // namespace quillmark

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "word/seam/clipboard.h"
+#include "word/seam/hints.h"
 #include "word/word.h"
 
 namespace quillmark {
@@ -13,11 +14,13 @@ namespace quillmark {
 struct WordSession {
     /// Takes the application object over; nothing is asked of it yet. The clipboard is the one that this
     /// word processor pastes from.
-    WordSession(word::ObjectPtr application, std::shared_ptr<word::Clipboard> pasteFrom)
-        : WordApp(std::move(application)), clipboard(std::move(pasteFrom)) {}
+    WordSession(word::ObjectPtr application, std::shared_ptr<word::Clipboard> pasteFrom,
+                std::shared_ptr<word::Hints> wordHints = nullptr)
+        : WordApp(std::move(application)), clipboard(std::move(pasteFrom)), hints(std::move(wordHints)) {}
 
     word::Application WordApp;
     std::shared_ptr<word::Clipboard> clipboard;
+    std::shared_ptr<word::Hints> hints;       ///< null where the word processor takes none
     word::Document WordDoc;                   ///< the one new document of the run
     word::Selection WordSel{nullptr};         ///< the insertion point that every builder types at
     word::Style ListParagraphStyle{nullptr};  ///< "List Paragraph"; an old Word has none

@@ -128,7 +128,7 @@ void CreateRun::CheckEntries() const {
 
 void CreateRun::StartWord() {
     const word::StartedWordProcessor started = order_.startWord();
-    session_.emplace(started.application, started.clipboard);
+    session_.emplace(started.application, started.clipboard, started.hints);
     embedded_ = started.isEmbedded;
     SetUpWordSession(*session_);
 }
@@ -137,6 +137,7 @@ void CreateRun::TypeDocumentAt(std::size_t entry) {
     Report(progress_.value + (entry == 0 ? 0.25 : 0.5), entry + 1);
     const word::Range beginning = session_->WordSel.Range();
     Dialogs& dialogs = order_.dialogs ? *order_.dialogs : defaultAnswers_;
+    if (session_->hints) session_->hints->SetRole(word::Role::Body);
     notices_ += TypeEntry(order_.DocumentNames[entry], {job_, order_.settings, dialogs, order_.DocumentNames},
                           *session_);
     // In front of the document, so that a builder's own paragraph format never reaches the break.

@@ -82,7 +82,10 @@ void StatementPage::Head() {
     type.Font("Times New Roman", 12);
     type.Bold(true);
     type.Italic(false);
-    type.Text(job.Has(Commercial) ? "NON-" : "", "RESIDENTIAL SELLER'S CLOSING STATEMENT", RepeatReturn(2));
+    type.As(word::Role::Title, [&] {
+        type.Text(job.Has(Commercial) ? "NON-" : "", "RESIDENTIAL SELLER'S CLOSING STATEMENT",
+                  RepeatReturn(2));
+    });
     type.Align(word::AlignLeft);
     type.Font("Times New Roman", StatementLines::kSize);
     type.Bold(false);
@@ -293,6 +296,7 @@ void TypeClosingStatement(const Production& production, Typist& type, const Vari
     const ClosingStatement statement =
         ComputeClosingStatement(production.job, production.settings, variant.tag, production.dialogs);
     StatementPage page(production, type, statement);
+    type.Role(word::Role::StatementLine);
     page.Head();
     type.AtTabs({kFigureTab, kTotalTab}, [&] {
         type.LineSpacing(type.WordVersion() >= 12 ? kLines : kLinesOfOldWord);

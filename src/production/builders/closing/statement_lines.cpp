@@ -113,9 +113,11 @@ void StatementLines::FollowingLine(const StatementProration& proration) {
 }
 
 void StatementLines::Title(std::string_view title) {
-    type_.Italic(true);
-    type_.TypeUnderlined(title);
-    type_.Italic(false);
+    type_.As(word::Role::StatementHeading, [&] {
+        type_.Italic(true);
+        type_.TypeUnderlined(title);
+        type_.Italic(false);
+    });
 }
 
 void StatementLines::Detail(const std::string& text) {
@@ -132,25 +134,29 @@ void StatementLines::LabelOrField(const std::string& label, const std::string& f
 }
 
 void StatementLines::Total(double dollars, const std::string& end) {
-    InCourier(TotalRule() + "\tTOTAL\t$ " + Padded(FigureText(dollars), 12) + end);
+    type_.As(word::Role::StatementTotal,
+             [&] { InCourier(TotalRule() + "\tTOTAL\t$ " + Padded(FigureText(dollars), 12) + end); });
 }
 
 void StatementLines::Subtracted(double dollars) {
     const std::string figure = FigureText(dollars);
     const std::string subtracted = figure.starts_with('-') ? "-- " + figure.substr(1) : "- " + figure;
-    InCourier("\t" + Padded(subtracted, 14) + "\r" + TotalRule());
+    type_.As(word::Role::StatementTotal,
+             [&] { InCourier("\t" + Padded(subtracted, 14) + "\r" + TotalRule()); });
 }
 
 void StatementLines::Result(const std::string& label, double dollars) {
-    type_.TypeBold(label, RepeatTab(2));
-    type_.FontName(kFigureFont);
-    type_.Text("$ ");
-    type_.Bold(true);
-    type_.Underline(word::UnderlineDouble);
-    type_.Text(Padded(FigureText(dollars), 12), "\r");
-    type_.Bold(false);
-    type_.Underline(word::UnderlineNone);
-    type_.FontName(kLabelFont);
+    type_.As(word::Role::StatementTotal, [&] {
+        type_.TypeBold(label, RepeatTab(2));
+        type_.FontName(kFigureFont);
+        type_.Text("$ ");
+        type_.Bold(true);
+        type_.Underline(word::UnderlineDouble);
+        type_.Text(Padded(FigureText(dollars), 12), "\r");
+        type_.Bold(false);
+        type_.Underline(word::UnderlineNone);
+        type_.FontName(kLabelFont);
+    });
 }
 
 }  // namespace quillmark

@@ -41,20 +41,24 @@ void TypeScheduleA(const JobValues& job, Typist& type) {
     type.Indents(kDeedIndent);
     type.Align(word::AlignCentre);
     type.Font("Arial", 11);
-    type.Text("\r");
-    type.Underline(word::UnderlineSingle);
-    type.TypeBold("SCHEDULE \"A\"");
-    type.Underline(word::UnderlineNone);
-    type.Text(RepeatReturn(3));
+    type.As(word::Role::Title, [&] {
+        type.Text("\r");
+        type.Underline(word::UnderlineSingle);
+        type.TypeBold("SCHEDULE \"A\"");
+        type.Underline(word::UnderlineNone);
+        type.Text(RepeatReturn(3));
+    });
     type.FontSize(10);
 
     TypeDescription(job, type);
 
     type.Align(word::AlignLeft);
-    type.Underline(word::UnderlineSingle);
-    type.TypeBold("Subject to");
-    type.Underline(word::UnderlineNone);
-    type.Text(":", RepeatReturn(2));
+    type.As(word::Role::Heading, [&] {
+        type.Underline(word::UnderlineSingle);
+        type.TypeBold("Subject to");
+        type.Underline(word::UnderlineNone);
+        type.Text(":", RepeatReturn(2));
+    });
 
     type.Align(word::AlignJustified);
     type.BeginList();

@@ -23,6 +23,7 @@ void BeginLetter(Typist& type) {
     type.Indents(kLetterIndent);
     type.Align(word::AlignLeft);
     type.Font("Arial", 11);
+    type.Role(word::Role::Letter);
 }
 
 void EndLetter(Typist& type) {
@@ -42,7 +43,9 @@ void TypeLetterHead(const JobValues& job, Typist& type, LetterheadRoom room) {
 void TypeHeadLines(Typist& type, std::initializer_list<std::string_view> lines) {
     type.Align(word::AlignCentre);
     type.Bold(true);
-    for (const std::string_view line : lines) type.Text(line, "\r");
+    type.As(word::Role::Title, [&] {
+        for (const std::string_view line : lines) type.Text(line, "\r");
+    });
     type.Bold(false);
     type.Text("\r");
     type.Align(word::AlignLeft);
@@ -74,13 +77,15 @@ void TypeList(Typist& type, double indent, std::initializer_list<std::string_vie
 
 void TypeClosing(const JobValues& job, Typist& type, std::string_view closing, std::uint16_t returns) {
     type.Align(word::AlignLeft);
-    type.Text(closing, RepeatReturn(returns), job[SellerAtty], "\r");
+    type.As(word::Role::Signature, [&] { type.Text(closing, RepeatReturn(returns), job[SellerAtty], "\r"); });
 }
 
 void TypeFirmSignature(const JobValues& job, Typist& type) {
     type.Align(word::AlignLeft);
-    type.Text(job[SellerLawfirm], RepeatReturn(3), "By:  ", SignatureRule(), "\r      ", job[SellerAtty],
-              "\r");
+    type.As(word::Role::Signature, [&] {
+        type.Text(job[SellerLawfirm], RepeatReturn(3), "By:  ", SignatureRule(), "\r      ", job[SellerAtty],
+                  "\r");
+    });
 }
 
 }  // namespace quillmark

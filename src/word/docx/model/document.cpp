@@ -40,7 +40,8 @@ std::size_t HashOf(const ParaFormat& format) {
     Mixer mixer;
     mixer << format.style << format.numId << static_cast<std::size_t>(format.listLevel) << format.spaceBefore
           << format.spaceAfter << format.line << static_cast<std::size_t>(format.lineRule)
-          << format.leftIndent << format.rightIndent << format.firstLine << format.alignment;
+          << format.leftIndent << format.rightIndent << format.firstLine << format.alignment
+          << static_cast<std::size_t>(format.role);
     for (const TabStop& stop : format.tabs) mixer << static_cast<std::size_t>(stop.position);
     for (const auto& [name, xml] : format.extra) mixer << xml;
     return mixer.hash();

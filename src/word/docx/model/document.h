@@ -15,6 +15,8 @@
 #include <variant>
 #include <vector>
 
+#include "word/seam/hints.h"
+
 /// The document that the embedded engine edits: the one representation for what is typed, what is opened
 /// from a .docx file and what is written to one. What the engine does not understand of an opened file is
 /// kept as the XML it came in (`extra`, `RawBlock`, `RawInline`) and written back where the schema wants it.
@@ -63,6 +65,7 @@ struct ParaFormat {
     std::optional<int> firstLine = {};  ///< negative for a hanging indent
     std::optional<int> alignment = {};  ///< the model's numbers: 0 left, 1 centre, 2 right, 3 justified
     std::vector<std::pair<std::string, std::string>> extra = {};  ///< further children of w:pPr
+    Role role = Role::None;  ///< changes no look; the writer makes a named style of it
     bool operator==(const ParaFormat&) const = default;
 };
 
@@ -299,6 +302,7 @@ class Document {
     int nextFormField[2] = {1, 1};  ///< next number of "Text" and of "Check"
     int zoomPercent = 100;          ///< how the document is shown when it is opened
     bool zoomToPageWidth = false;
+    DocumentProperties properties;  ///< of documents that are made here; empty for opened ones
 };
 
 /// A deep copy for another place of the same document. Bookmarks stay with the original, and so do the names

@@ -1,5 +1,6 @@
 #include "word/docx/objects/application.h"
 
+#include "word/docx/objects/engine_hints.h"
 #include "word/docx/objects/selection.h"
 
 namespace quillmark::word::docx::objects {
@@ -144,6 +145,12 @@ ObjectPtr StartEngine(EngineOptions options) {
 
 const Document& ModelOf(const ObjectPtr& document) {
     return ObjectOf<OpenDocument>(document)->model();
+}
+
+std::shared_ptr<Hints> HintsOf(const ObjectPtr& application) {
+    const auto found = std::dynamic_pointer_cast<ApplicationObject>(application);
+    if (!found) throw AutomationError(error::kTypeMismatch, "Type mismatch: no Application");
+    return std::make_shared<EngineHints>(found->engine());
 }
 
 std::filesystem::path PathOf(const ObjectPtr& document) {

@@ -14,6 +14,8 @@ class ApplicationObject final : public Shared, public LateBound<ApplicationObjec
     ~ApplicationObject() override;
     void CheckAlive() const { engine_->CheckRunning(); }
 
+    std::weak_ptr<EngineState> engine() const { return engine_; }
+
  private:
     friend struct ApplicationMembers;
     class Options;

@@ -6,6 +6,7 @@
 #include "word/docx/model/document.h"
 #include "word/seam/automation.h"
 #include "word/seam/clipboard.h"
+#include "word/seam/hints.h"
 
 /// The embedded word processor: the object model of automation.h over documents in memory, opened from and
 /// saved to .docx files. It has no window, no clock and no state outside its objects.
@@ -29,6 +30,10 @@ struct EngineOptions {
 /// document was closed or whose text was deleted, 4248 when no document is open, and 462 for everything after
 /// `Quit`.
 ObjectPtr StartEngine(EngineOptions options = {});
+
+/// The hints to a running engine; they live as long as its Application object does. Throws kTypeMismatch for
+/// any other object.
+std::shared_ptr<Hints> HintsOf(const ObjectPtr& application);
 
 /// The model behind a Document object of the engine; valid as long as the object. Throws kTypeMismatch for
 /// any other object.

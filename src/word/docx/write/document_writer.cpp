@@ -154,7 +154,7 @@ class PackageWriter {
     }
 
     void AddFixedParts() {
-        AddFixed(xml::relationship::kStyles, "word/styles.xml", StylesPart(document_));
+        AddFixed(xml::relationship::kStyles, "word/styles.xml", StylesPart(document_, state_.plan.Styles()));
         AddFixed(xml::relationship::kSettings, "word/settings.xml", SettingsPart(document_));
         if (!document_.lists.empty()) {
             AddFixed(xml::relationship::kNumbering, "word/numbering.xml", NumberingPart(document_));

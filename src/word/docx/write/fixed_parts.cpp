@@ -166,11 +166,11 @@ void WriteFont(xml::XmlWriter& xml, const std::string& name) {
 
 }  // namespace
 
-std::string StylesPart(const Document& document) {
+std::string StylesPart(const Document& document, const std::vector<StyleDefinition>& styles) {
     xml::XmlWriter xml;
     OpenRootWithExtensions(xml, "w:styles");
     xml.Raw(document.docDefaults);
-    for (const StyleDefinition& style : document.styles) xml.Raw(style.xml);
+    for (const StyleDefinition& style : styles) xml.Raw(style.xml);
     xml.Close();
     return xml.Take();
 }

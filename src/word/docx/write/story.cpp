@@ -1,6 +1,5 @@
 #include "word/docx/write/story.h"
 
-#include "word/docx/write/properties.h"
 #include "word/docx/xml/text_codes.h"
 
 namespace quillmark::word::docx::write {
@@ -37,17 +36,25 @@ std::optional<Range> FindDrawingId(std::string_view xml, std::size_t from) {
 
 }  // namespace
 
-std::string_view FormatCache::Run(FormatId format) {
-    if (format >= runs_.size()) runs_.resize(document_.charFormats.size());
-    std::optional<std::string>& properties = runs_[format];
-    if (!properties) properties = RunProperties(document_.charFormats[format]);
+std::string_view FormatCache::Run(const StyleUse& use, FormatId format) {
+    const auto style = static_cast<std::size_t>(use.style - StyleUse::kAsItIs);
+    if (style >= runs_.size()) runs_.resize(style + 1);
+    if (format >= runs_[style].size()) runs_[style].resize(document_.charFormats.size());
+    std::optional<std::string>& properties = runs_[style][format];
+    if (!properties) properties = plan_.RunProperties(use, format);
     return *properties;
 }
 
-std::string_view FormatCache::Paragraph(FormatId format, FormatId markFormat) {
-    const std::uint64_t key = std::uint64_t{format} << 32 | markFormat;
-    const auto [place, isNew] = paragraphs_.try_emplace(key);
-    if (isNew) place->second = ParagraphProperties(document_.paraFormats[format], Run(markFormat), {});
+std::size_t FormatCache::HashOfKey::operator()(const Key& key) const {
+    const std::uint64_t formats = std::uint64_t{key.format} << 32 | key.markFormat;
+    const auto flags = static_cast<std::uint64_t>(key.use.keepNext) << 1 | key.use.isGap;
+    return std::hash<std::uint64_t>()(formats ^ (static_cast<std::uint64_t>(key.use.style) << 20) ^
+                                      flags << 60);
+}
+
+std::string_view FormatCache::Paragraph(const StyleUse& use, FormatId format, FormatId markFormat) {
+    const auto [place, isNew] = paragraphs_.try_emplace(Key{use, format, markFormat});
+    if (isNew) place->second = plan_.ParagraphProperties(use, format, Run(use, markFormat), {});
     return place->second;
 }
 
@@ -87,12 +94,14 @@ void StoryWriter::WriteRaw(std::string_view xml) {
 }
 
 void StoryWriter::WriteParagraph(const Paragraph& paragraph, const SectionElement& section) {
+    use_ = state_.plan.UseOf(paragraph);
     xml_.Open("w:p");
     if (paragraph.section && section) {
-        xml_.Raw(ParagraphProperties(state_.document.paraFormats[paragraph.format],
-                                     state_.formats.Run(paragraph.markFormat), section(*paragraph.section)));
+        xml_.Raw(state_.plan.ParagraphProperties(use_, paragraph.format,
+                                                 state_.formats.Run(use_, paragraph.markFormat),
+                                                 section(*paragraph.section)));
     } else {
-        xml_.Raw(state_.formats.Paragraph(paragraph.format, paragraph.markFormat));
+        xml_.Raw(state_.formats.Paragraph(use_, paragraph.format, paragraph.markFormat));
     }
     WriteContent(paragraph);
     xml_.Close();
@@ -195,7 +204,7 @@ void StoryWriter::WriteBookmarkEnd(int id) {
 void StoryWriter::OpenRun(FormatId format) {
     if (inRun_) return;
     xml_.Open("w:r");
-    xml_.Raw(state_.formats.Run(format));
+    xml_.Raw(state_.formats.Run(use_, format));
     inRun_ = true;
 }
 

@@ -10,31 +10,44 @@
 
 #include "word/docx/model/document.h"
 #include "word/docx/write/package_parts.h"
+#include "word/docx/write/style_plan.h"
 #include "word/docx/xml/xml_writer.h"
 
 /// The contents of the body, of headers and of footers.
 namespace quillmark::word::docx::write {
 
-/// The properties of each distinct format, serialized once.
+/// The properties of each distinct format in each style, serialized once.
 class FormatCache {
  public:
-    explicit FormatCache(const Document& document) : document_(document) {}
+    FormatCache(const Document& document, const StylePlan& plan) : document_(document), plan_(plan) {}
 
-    std::string_view Run(FormatId format);
-    std::string_view Paragraph(FormatId format, FormatId markFormat);
+    std::string_view Run(const StyleUse& use, FormatId format);
+    std::string_view Paragraph(const StyleUse& use, FormatId format, FormatId markFormat);
 
  private:
+    struct Key {
+        StyleUse use;
+        FormatId format = 0;
+        FormatId markFormat = 0;
+        bool operator==(const Key&) const = default;
+    };
+    struct HashOfKey {
+        std::size_t operator()(const Key& key) const;
+    };
+
     const Document& document_;
-    std::vector<std::optional<std::string>> runs_;
-    std::unordered_map<std::uint64_t, std::string> paragraphs_;
+    const StylePlan& plan_;
+    std::vector<std::vector<std::optional<std::string>>> runs_;  ///< by style, those without one first
+    std::unordered_map<Key, std::string, HashOfKey> paragraphs_;
 };
 
 /// What the parts of one package share while they are written.
 struct PackageState {
     explicit PackageState(const Document& written)
-        : document(written), formats(written), nextBookmark(written.nextBookmarkId) {}
+        : document(written), plan(written), formats(written, plan), nextBookmark(written.nextBookmarkId) {}
 
     const Document& document;
+    StylePlan plan;
     PackageParts parts;
     FormatCache formats;
     int nextDrawing = 1;
@@ -90,6 +103,7 @@ class StoryWriter {
     PackageState& state_;
     PartRelations& relations_;
     xml::XmlWriter& xml_;
+    StyleUse use_;  ///< of the paragraph in hand
     const std::vector<InlineObject>* objects_ = nullptr;
     std::size_t nextObject_ = 0;
     bool inRun_ = false;
