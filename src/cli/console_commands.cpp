@@ -125,6 +125,8 @@ Json DeleteClient(ConsoleSession& session, const Request& request) {
 /// A path of this computer, complete, as the run may change folders under it.
 std::filesystem::path PathArgument(const Request& request, std::string_view name) {
     const std::string text = request.Text(name);
+    if (std::any_of(text.begin(), text.end(), [](unsigned char c) { return c < ' '; }))
+        throw BadRequest(std::string(name) + " holds a control character, which no path may hold");
     return text.empty() ? std::filesystem::path() : std::filesystem::absolute(PathOf(text));
 }
 

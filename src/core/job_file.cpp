@@ -9,6 +9,7 @@
 #include "core/fields.h"
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
+#include "platform/file_names.h"
 #include "platform/paths.h"
 #include "platform/record_file.h"
 
@@ -127,9 +128,11 @@ void CheckName(std::string_view name) {
     std::string_view inside = name;
     if (IsTemplateName(name) && name.ends_with('}') && name.size() > 1)
         inside = name.substr(1, name.size() - 2);
-    if (inside.empty() || HoldsIllegalNameCharacter(inside)) {
+    if (inside.empty() || HoldsIllegalNameCharacter(inside))
         throw JobFileError(fmt::format("\"{}\" is no name for a job", name));
-    }
+    const std::string fault = FaultOfFileName(std::string(name) + ".dat");
+    if (!fault.empty())
+        throw JobFileError(fmt::format("\"{}\" is no name for a job: its file's name {}", name, fault));
 }
 
 fs::path PicturePath(const Folders& folders, std::string_view name, int n) {

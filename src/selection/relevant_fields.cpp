@@ -7,6 +7,7 @@
 #include "core/fields.h"
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
+#include "platform/file_names.h"
 #include "platform/paths.h"
 #include "platform/record_file.h"
 #include "selection/document_catalogue.h"
@@ -132,7 +133,11 @@ class NeedsReader {
 
     /// The markers that a custom document holds, as its list beside the document has them.
     void ReadCustomDocument(std::string_view name) {
-        const auto file = FindExisting(customForms_ / PathOf(std::string(name) + ".inf"));
+        const std::string list = std::string(name) + ".inf";
+        if (const std::string fault = FaultOfFileName(list); !fault.empty())
+            throw FileError(PathOf(list), FileError::Kind::NotFound,
+                            "is no list of a form's fields: its name " + fault);
+        const auto file = FindExisting(customForms_ / PathOf(list));
         const std::string bytes = ReadFile(file, kFormListLimit);
         RecordReader records(TextOf(file), bytes);
         std::vector<int> fields = {field::DocumentDate};

@@ -26,6 +26,11 @@ void ClientChoice::Serve(const std::string& name) {
 void ClientChoice::Add() {
     const auto name = machine_.dialogs.Ask({" NEW CLIENT ...", "ENTER NAME OF LAWFIRM", ""});
     if (!name || name->empty()) return;
+    if (const std::string fault = FaultOfClientName(*name); !fault.empty()) {
+        machine_.dialogs.Tell("", "\"" + *name + "\" cannot be the name of a client: it " + fault + ".",
+                              DialogIcon::Warning);
+        return;
+    }
     if (!firm_.AddClient(*name)) {
         machine_.dialogs.Tell("", "A client of this name exists already: " + *name, DialogIcon::Warning);
         return;
@@ -59,8 +64,10 @@ void ClientChoice::Delete(std::string_view name) {
         machine_.dialogs.Tell("", "Action Canceled");
         return;
     }
-    firm_.DeleteClient(name);
-    machine_.dialogs.Tell("", "Client Deleted");
+    const bool hadFolder = firm_.DeleteClient(name);
+    machine_.dialogs.Tell(
+        "", hadFolder ? "Client Deleted"
+                      : "Client Deleted\nNo folder of this client was found; no file was deleted.");
 }
 
 }  // namespace quillmark

@@ -4,8 +4,10 @@
 
 #include "core/text_conversions.h"
 #include "platform/atomic_file.h"
+#include "platform/file_names.h"
 #include "platform/paths.h"
 #include "platform/record_file.h"
+#include "platform/shared_file.h"
 
 namespace quillmark {
 
@@ -21,11 +23,22 @@ bool HoldsProgram(const fs::path& dataFolder) {
     return fs::exists(FindExisting(dataFolder / "Quillmark.exe")) || fs::exists(dataFolder / "quillmark");
 }
 
+constexpr const char* kClientList = "parapro.dir";
+constexpr const char* kClientImages = "images";  ///< below a client's folder, made with it
+
 bool IsLocal(std::string_view databasePath) {
     return Lowered(databasePath) == kLocalData;
 }
 
 }  // namespace
+
+std::string FaultOfClientName(std::string_view name) {
+    std::string fault = FaultOfFileName(name);
+    const std::string lowered = Lowered(name);
+    if (fault.empty() && (lowered == kClientImages || lowered == "customforms"))
+        fault = "is the name of a folder of the program's own";
+    return fault;
+}
 
 Firm::Firm(fs::path programFolder, Machine& machine)
     : programFolder_(std::move(programFolder)),
@@ -45,12 +58,35 @@ void Firm::Read() {
                               DialogIcon::Warning);
         dataPathLost_ = true;  // the setting itself stays until it is changed
     }
+    ReadClients();
+}
+
+/// A damaged list shows what is whole and says what is not; a line that is no name of a folder below the data
+/// folder is no client.
+void Firm::ReadClients() {
     clientLines_.assign(1, std::string(kAddClient));
-    const fs::path clients = programFolder_ / "parapro.dir";
-    if (!fs::exists(clients)) return;
-    const std::string bytes = ReadFile(clients, kClientListLimit);
-    RecordReader records(TextOf(clients), bytes);
-    while (records.Next()) clientLines_.push_back(records.Text(0));
+    const fs::path file = programFolder_ / kClientList;
+    if (!fs::exists(file)) return;
+    const std::string bytes = ReadFile(file, kClientListLimit);
+    std::string trouble;
+    try {
+        RecordReader records(kClientList, bytes);
+        while (records.Next()) {
+            const std::string name = records.Text(0);
+            const std::string fault = FaultOfClientName(name);
+            if (fault.empty()) {
+                clientLines_.push_back(name);
+            } else {
+                trouble += "\n\"" + name + "\" " + fault;
+            }
+        }
+    } catch (const RecordError& error) {
+        trouble += std::string("\n") + error.what();
+    }
+    if (!trouble.empty()) {
+        machine_.dialogs.Tell("", "The list of clients has lines that are left out:" + trouble,
+                              DialogIcon::Warning);
+    }
 }
 
 /// With the data folder out of reach, the local one serves.
@@ -89,32 +125,44 @@ void Firm::Keep(FirmDefaults defaults) {
     defaults_ = std::move(defaults);
 }
 
-void Firm::WriteClients() const {
-    RecordWriter records;
-    for (std::size_t i = 1; i < clientLines_.size(); ++i) records.Write({std::string_view(clientLines_[i])});
-    ReplaceFile(programFolder_ / "parapro.dir", records.Bytes());
+/// Others may have changed the list since it was read: one line of it is this program's.
+void Firm::ChangeClientList(std::string_view name, bool isToStand) const {
+    ChangeSharedFile(programFolder_ / kClientList, kClientListLimit,
+                     [&](const std::optional<std::string>& present) {
+                         RecordWriter changed;
+                         const std::string bytes = present.value_or("");
+                         RecordReader records(kClientList, bytes);
+                         while (records.Next()) {
+                             if (records.Text(0) != name) changed.Write({std::string_view(records.Text(0))});
+                         }
+                         if (isToStand) changed.Write({name});
+                         return changed.Bytes();
+                     });
+}
+
+fs::path Firm::ClientFolder(std::string_view name) const {
+    return programFolder_ / "data" / PathOf(name);
 }
 
 bool Firm::AddClient(const std::string& name) {
-    const fs::path folder = programFolder_ / "data" / PathOf(name);
+    const fs::path folder = ClientFolder(name);
     if (fs::exists(folder)) return false;
     const fs::path defaults = programFolder_ / "defaults.fld";
-    fs::create_directories(folder / "images");
+    fs::create_directories(folder / kClientImages);
     if (fs::exists(defaults)) fs::copy_file(defaults, folder / "defaults.fld");
+    ChangeClientList(name, true);
     clientLines_.push_back(name);
-    try {
-        WriteClients();
-    } catch (...) {
-        clientLines_.pop_back();
-        throw;
-    }
     return true;
 }
 
-void Firm::DeleteClient(std::string_view name) {
-    fs::remove_all(programFolder_ / "data" / PathOf(std::string(name)));
+bool Firm::DeleteClient(std::string_view name) {
+    const fs::path folder = ClientFolder(name);
+    const bool isOwn = FaultOfClientName(name).empty() && !fs::is_symlink(folder) &&
+                       fs::is_directory(folder / kClientImages);
+    if (isOwn) fs::remove_all(folder);
+    ChangeClientList(name, false);
     std::erase(clientLines_, name);
-    WriteClients();
+    return isOwn;
 }
 
 }  // namespace quillmark

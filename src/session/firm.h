@@ -47,15 +47,18 @@ class Firm {
     const std::string& Client() const { return client_; }
     const std::vector<std::string>& ClientLines() const { return clientLines_; }
     bool ServesClient() const { return settings_.paraPro && !client_.empty(); }
-    /// Makes the client's folder with the firm's own defaults in it. False, with nothing changed, if the
-    /// folder is there already. Throws FileError.
+    /// Makes the client's folder with the firm's own defaults in it; the name is a good one. False, with
+    /// nothing changed, if the folder is there already. Throws FileError.
     bool AddClient(const std::string& name);
-    /// Takes the client and all data of his away. Throws FileError.
-    void DeleteClient(std::string_view name);
+    /// Takes the client off the list and deletes the folder that was made for it. False if there is no such
+    /// folder directly below the data folder: then nothing is deleted. Throws FileError.
+    bool DeleteClient(std::string_view name);
 
  private:
     Settings ReachableSettings() const;
-    void WriteClients() const;
+    void ReadClients();
+    void ChangeClientList(std::string_view name, bool isToStand) const;
+    std::filesystem::path ClientFolder(std::string_view name) const;
 
     std::filesystem::path programFolder_;
     Machine& machine_;
@@ -67,6 +70,10 @@ class Firm {
     std::string client_;
     bool dataPathLost_ = false;
 };
+
+/// What keeps a name from being a client's, as FaultOfFileName says it; empty for a good name. A client has a
+/// folder of this name below the data folder, so none lies in another's.
+std::string FaultOfClientName(std::string_view name);
 
 /// The line of the client list that adds one.
 inline constexpr std::string_view kAddClient = "< ADD LAWFIRM / CLIENT >";
