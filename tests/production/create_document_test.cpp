@@ -1,9 +1,12 @@
 #include <gmock/gmock.h>
 
+#include <functional>
+
 #include "core/fields.h"
 #include "platform/paths.h"
 #include "production/run/create.h"
 #include "production/sample_deal.h"
+#include "selection/document_catalogue.h"
 #include "support/scratch.h"
 #include "word/docx/check/package_check.h"
 
@@ -54,6 +57,31 @@ TEST_F(CreatedDocument, HasASectionForEachEntryWithItsPaper) {
     }
     EXPECT_EQ(int(document.ProtectionType), word::AllowOnlyFormFields);
     EXPECT_THAT(word::docx::check::CheckPackage(ReadBytes(folder / "Hollis_QMF.docx")), IsEmpty());
+}
+
+TEST_F(CreatedDocument, OfTheWholeCatalogueIsAValidPackage) {
+    const auto documents = DocumentCatalogue();
+    order.DocumentNames.assign(documents.begin(), documents.end());
+    order.DocumentNames.push_back("FILE SUMMARY SHEET");
+    const std::function<void(Job&)> kChanges[] = {
+        [](Job&) {},
+        [](Job& changed) { changed.SetOption(TwoPayoffs, true); },
+        [](Job& changed) {
+            changed.SetOption(TwoSellers, false);
+            changed.SetOption(OneSeller, true);
+            SellerIsEntity(changed);
+            changed.SetOption(Commercial, true);
+        },
+        [](Job& changed) { SellsByPower(changed, changed.D(field::Seller2Name), "Nora Feld"); },
+    };
+    for (const auto& change : kChanges) {
+        job = FullDeal();
+        job.name = "Hollis";
+        change(job);
+        order.nameUsable = true;
+        Create();
+        EXPECT_THAT(word::docx::check::CheckPackage(ReadBytes(folder / "Hollis_QMF.docx")), IsEmpty());
+    }
 }
 
 TEST_F(CreatedDocument, FootersFillTheirColumnsUnderUnrecordedDocumentsOnly) {
