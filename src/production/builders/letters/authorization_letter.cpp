@@ -30,32 +30,27 @@ void TypeAuthorizationLetter(const JobValues& job, Typist& type) {
         type, kDeedIndent,
         {
             "To obtain from the holder of any mortgage, equity line or other lien, and from any taxing "
-            "authority or "
-            "association of owners, a statement of the amount required to pay it, and to direct that an "
-            "equity line be "
-            "closed to further advances.",
+            "authority or association of owners, a statement of the amount required to pay it, and to "
+            "direct that an equity line be closed to further advances.",
             "To deliver the deed and all other closing documents that the undersigned has signed and left "
-            "with you, to fill in "
-            "dates and other blanks in them, and to correct clerical errors.",
+            "with you, to fill in dates and other blanks in them, and to correct clerical errors.",
             "To compute and agree to the adjustments, and to sign and deliver the closing statement.",
             "To receive the proceeds of the sale, by check or by wire, and to deposit them in your "
-            "clients' funds account. Payment "
-            "to you discharges the purchaser as fully as payment to the undersigned.",
+            "clients' funds account. Payment to you discharges the purchaser as fully as payment to the "
+            "undersigned.",
             "To pay from the proceeds all mortgages and liens that are to be released, the conveyance "
-            "taxes, the commission of any "
-            "real estate broker, your fee and disbursements, and all other charges shown on the closing "
-            "statement, and to hold "
-            "in escrow whatever the contract of sale or an agreement made at the closing requires.",
+            "taxes, the commission of any real estate broker, your fee and disbursements, and all other "
+            "charges shown on the closing statement, and to hold in escrow whatever the contract of sale "
+            "or an agreement made at the closing requires.",
             "To remit the balance to the undersigned, and to do all else that is necessary to carry out "
             "the contract of sale.",
         });
     TypeParagraph(
         type,
         "This authority remains in effect until the sale has closed and the proceeds have been accounted "
-        "for. It may be "
-        "revoked before the closing, and then only by a writing that is delivered to you. If the sale "
-        "does not close, "
-        "you are to return all signed documents to the undersigned or destroy them.");
+        "for. It may be revoked before the closing, and then only by a writing that is delivered to you. "
+        "If the sale does not close, you are to return all signed documents to the undersigned or destroy "
+        "them.");
     type.Align(word::AlignLeft);
     type.AtTab(kSignatureTab, [&] { TypeSignatures(type, SigningSellers(job)); });
     type.Indents(0);

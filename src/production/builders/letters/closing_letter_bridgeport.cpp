@@ -50,19 +50,16 @@ void TypeBridgeportClosingLetter(const Production& production, Typist& type, con
     TypeParagraph(
         type,
         "This letter will confirm that I will make prompt, reasonable and diligent efforts to obtain a "
-        "release "
-        "of said mortgage in proper form, and that the release will be recorded on the ",
+        "release of said mortgage in proper form, and that the release will be recorded on the ",
         job.Town(PropertyCityStateZip), " Land Records at no expense to you or your ",
         ClientWord(job.Has(TwoBuyers)),
         ". If the release has not been received within sixty (60) days after the closing, I will demand "
-        "it in writing under section 49-8 of the Connecticut General "
-        "Statutes and will furnish whatever is in my file that an affidavit under section 49-8a requires.");
+        "it in writing under section 49-8 of the Connecticut General Statutes and will furnish whatever "
+        "is in my file that an affidavit under section 49-8a requires.");
     TypeParagraph(type, "Should the payoff prove insufficient, I will call upon my ",
                   ClientWord(job.Has(TwoSellers)),
                   " at once for the difference and forward it upon receipt. This letter is given so that "
-                  "the "
-                  "closing may take "
-                  "place before the release is at hand, and ",
+                  "the closing may take place before the release is at hand, and ",
                   job[BuyerTitleInsurCo], " may rely upon it in insuring the title of the ", BuyerWord(job),
                   " without exception for said mortgage.");
     TypeFirmClosing(job, type);

@@ -30,21 +30,15 @@ void TypeNewHavenClosingLetter(const JobValues& job, Typist& type, const Variant
     TypeParagraph(
         type,
         "This letter will confirm that the undersigned shall immediately after the closing send the "
-        "originals of "
-        "these papers to the holder of the mortgage by a carrier that gives a receipt, and shall furnish "
-        "you with "
-        "proof of their delivery.");
+        "originals of these papers to the holder of the mortgage by a carrier that gives a receipt, and "
+        "shall furnish you with proof of their delivery.");
     TypeParagraph(
         type,
         "This letter will also confirm that, in the event the release is not received by you within sixty "
-        "(60) days "
-        "after the closing, or cannot be recorded in the form in which it is received, the undersigned "
-        "shall upon your "
-        "request demand a proper release under section 49-8 of the Connecticut General Statutes, furnish "
-        "what an "
-        "affidavit under section 49-8a requires, and take such further steps as are reasonably necessary, "
-        "all at no "
-        "expense to you or your ",
+        "(60) days after the closing, or cannot be recorded in the form in which it is received, the "
+        "undersigned shall upon your request demand a proper release under section 49-8 of the "
+        "Connecticut General Statutes, furnish what an affidavit under section 49-8a requires, and take "
+        "such further steps as are reasonably necessary, all at no expense to you or your ",
         ClientWord(job.Has(TwoBuyers)), ".");
     TypeParagraph(
         type, "Should the payoff prove insufficient, the undersigned shall call upon the ", SellerWord(job),

@@ -99,10 +99,10 @@ void TypeConveyanceTaxStatement(const JobValues& job, Typist& type) {
     TypeParagraph(
         type,
         "This statement accompanies the deed named above and is made so that the conveyance tax may be "
-        "reckoned and collected when the deed is presented for record. It is true and complete to the best "
-        "of the knowledge of the undersigned.");
+        "reckoned and collected when the deed is presented for record. It is true and complete to the "
+        "best of the knowledge of the undersigned.");
     type.Align(word::AlignLeft);
-    TypeGrantors(job, type);
+    type.As(word::Role::Signature, [&] { TypeGrantors(job, type); });
     EndLetter(type);
 }
 

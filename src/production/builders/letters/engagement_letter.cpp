@@ -83,7 +83,7 @@ void TypeEngagementLetter(const JobValues& job, Typist& type, const Variant& var
         "are recorded. We keep our file for seven years after that and may then destroy it without "
         "further notice. If these terms are acceptable, please sign and return a copy of this letter.");
     TypeClosing(job, type, "Very truly yours,", 3);
-    TypeAcceptance(job, type, seller);
+    type.As(word::Role::Signature, [&] { TypeAcceptance(job, type, seller); });
     EndLetter(type);
 }
 

@@ -36,29 +36,29 @@ void TypeEquityLineDirective(const JobValues& job, Typist& type, const Payoff& p
             "apply the payoff to the entire balance of the line, with interest and charges to the date of "
             "receipt;",
             "terminate the line and close the account, so that no further advance may be obtained under "
-            "it by check, "
-            "card, transfer or any other means;",
+            "it by check, card, transfer or any other means;",
             "refuse any check or other request for an advance that is presented to you hereafter; and",
             "deliver a release of the mortgage that secures the line, in form proper for recording, as "
-            "the enclosed "
-            "letter of transmittal requests.",
+            "the enclosed letter of transmittal requests.",
         });
     TypeParagraph(
         type, several ? "The undersigned certify" : "The undersigned certifies",
-        " that no advance has been obtained or requested since the date of your "
-        "payoff statement, that none will be, and that all checks and cards for the account have been "
-        "destroyed. Should the payoff prove insufficient for any reason, the line is to remain closed to "
-        "advances, and you are asked to notify the attorney for the undersigned, ",
+        " that no advance has been obtained or requested since the date of your payoff statement, that "
+        "none will be, and that all checks and cards for the account have been destroyed. Should the "
+        "payoff prove insufficient for any reason, the line is to remain closed to advances, and you are "
+        "asked to notify the attorney for the undersigned, ",
         job[SellerAtty], ", of the amount that is still due.");
     TypeParagraph(type, "This directive may not be revoked.");
     type.Align(word::AlignLeft);
     const std::string line = RepeatReturn(3) + RepeatTab(kSignatureTabs) + RepeatUnderscore(kDirectiveRule) +
                              "\r" + RepeatTab(kSignatureTabs);
-    if (several) {
-        type.Text(line, "Borrower\r", line, "Borrower\r");
-    } else {
-        type.Text(line, job[payoff.mortgagor], "\r");
-    }
+    type.As(word::Role::Signature, [&] {
+        if (several) {
+            type.Text(line, "Borrower\r", line, "Borrower\r");
+        } else {
+            type.Text(line, job[payoff.mortgagor], "\r");
+        }
+    });
     EndLetter(type);
 }
 

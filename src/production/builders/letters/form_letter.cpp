@@ -69,8 +69,8 @@ void TypeExecuted(const JobValues& job, Typist& type) {
     if (job.IsFilled(SellerAttyEmail)) {
         TypeParagraph(
             type,
-            "For the convenience of both sides, a copy of the fully executed Contract may be sent to "
-            "me in advance by e-mail, at ",
+            "For the convenience of both sides, a copy of the fully executed Contract may be sent to me "
+            "in advance by e-mail, at ",
             job[SellerAttyEmail], ".");
     }
 }
@@ -85,8 +85,8 @@ void TypeContractLetter(const JobValues& job, Typist& type, bool executed) {
     }
     TypeParagraph(
         type,
-        "Should you have any questions or comments, please do not hesitate to call me. Thank you for "
-        "your courtesy and cooperation in this matter.");
+        "Should you have any questions or comments, please do not hesitate to call me. Thank you for your "
+        "courtesy and cooperation in this matter.");
     TypeClosing(job, type, "Respectfully yours,");
     type.Text("\rEncl.    Real Estate Sales Agreement\r");
 }

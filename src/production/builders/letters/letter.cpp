@@ -40,10 +40,10 @@ void TypeLetterHead(const JobValues& job, Typist& type, LetterheadRoom room) {
     type.Text(job[DocumentDate], RepeatReturn(3));
 }
 
-void TypeHeadLines(Typist& type, std::initializer_list<std::string_view> lines) {
+void TypeHeadLines(Typist& type, std::initializer_list<std::string_view> lines, word::Role role) {
     type.Align(word::AlignCentre);
     type.Bold(true);
-    type.As(word::Role::Title, [&] {
+    type.As(role, [&] {
         for (const std::string_view line : lines) type.Text(line, "\r");
     });
     type.Bold(false);

@@ -23,8 +23,10 @@ enum class LetterheadRoom : std::uint16_t { Long = 8, Short = 10 };
 /// document date.
 void TypeLetterHead(const JobValues& job, Typist& type, LetterheadRoom room = LetterheadRoom::Short);
 
-/// The head lines of a form, bold over the page, with a blank line behind them. What follows is at the left.
-void TypeHeadLines(Typist& type, std::initializer_list<std::string_view> lines);
+/// The head lines of a form, or of a part of it, bold over the page, with a blank line behind them. What
+/// follows is at the left.
+void TypeHeadLines(Typist& type, std::initializer_list<std::string_view> lines,
+                   word::Role role = word::Role::Title);
 
 /// "Attorney Tobias Lang", the firm unless its name says no more than that, and the address, each line ended.
 void TypeBuyersAttorney(const JobValues& job, Typist& type);

@@ -44,11 +44,11 @@ void TypePayoffNotification(const JobValues& job, Typist& type, const Variant& v
     TypeLoanReference(job, type, payoff);
 
     type.Align(word::AlignJustified);
-    TypeParagraph(
-        type,
-        "Please be advised that the mortgage loan described herein is to be paid in full from the proceeds "
-        "of a sale of the above property, the closing of which is set for ",
-        job[ClosingDate], ". The loan is secured by the following mortgage:");
+    TypeParagraph(type,
+                  "Please be advised that the mortgage loan described herein is to be paid in full from "
+                  "the "
+                  "proceeds of a sale of the above property, the closing of which is set for ",
+                  job[ClosingDate], ". The loan is secured by the following mortgage:");
     TypeRecitalParagraph(job, type, payoff, kLetterIndent);
     TypeParagraph(
         type,
@@ -63,9 +63,8 @@ void TypePayoffNotification(const JobValues& job, Typist& type, const Variant& v
     TypeParagraph(
         type,
         "Notice so given permits the missing funds to be traced, and any difference to be made good, "
-        "before "
-        "further interest or late charges accrue. It does not extend the time within which you are to "
-        "deliver a release of the mortgage after payment.");
+        "before further interest or late charges accrue. It does not extend the time within which you are "
+        "to deliver a release of the mortgage after payment.");
     type.TypeBold("NOTE");
     TypeParagraph(type, ": A copy of the payoff statement must be attached to this notice.");
     type.Align(word::AlignCentre);

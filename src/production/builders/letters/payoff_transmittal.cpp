@@ -47,8 +47,7 @@ void TypeWhereToSend(const JobValues& job, Typist& type, ReleaseGoesTo release) 
 void TypeReleaseStatute(Typist& type) {
     type.Text(
         "Kindly be advised that section 49-8(c) of the Connecticut General Statutes states that a "
-        "mortgagee who fails "
-        "to ");
+        "mortgagee who fails to ");
     type.TypeBold("deliver and release within 60 days");
     TypeParagraph(
         type,
@@ -58,8 +57,7 @@ void TypeReleaseStatute(Typist& type) {
         "greater.");
     TypeParagraph(type,
                   "Accordingly, your prompt attention to the preparation of this release would be greatly "
-                  "appreciated. "
-                  "Thank you.");
+                  "appreciated. Thank you.");
 }
 
 void TypeForwardingAddress(const JobValues& job, Typist& type) {
@@ -88,8 +86,7 @@ void TypePayoffTransmittal(const Production& production, Typist& type, const Var
     TypeParagraph(
         type,
         "This letter is to confirm that upon receipt of said payoff, you will provide the undersigned "
-        "with a "
-        "Release of Mortgage in PROPER FORM in accordance with the following recording information:");
+        "with a Release of Mortgage in PROPER FORM in accordance with the following recording information:");
     TypeRecitalParagraph(job, type, payoff, kLetterIndent);
     TypeWhereToSend(job, type, ReleaseOfTransmittal(production, variant));
     TypeReleaseStatute(type);

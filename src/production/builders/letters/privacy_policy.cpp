@@ -22,45 +22,35 @@ void TypePrivacyPolicy(const JobValues& job, Typist& type, const Variant& varian
     TypeParagraph(
         type,
         "Attorneys, like others who advise on financial matters, are entrusted with personal information "
-        "and owe their "
-        "clients an account of how it is treated. We have always held, and under the Rules of "
-        "Professional Conduct must "
-        "hold, what our clients tell us in confidence. This notice says what we collect, with whom we "
-        "share it, and how "
-        "we keep it.");
+        "and owe their clients an account of how it is treated. We have always held, and under the Rules "
+        "of Professional Conduct must hold, what our clients tell us in confidence. This notice says what "
+        "we collect, with whom we share it, and how we keep it.");
     type.TypeBold("Information we collect.");
     TypeParagraph(
         type,
         " In the course of representing you we receive nonpublic personal information from you, such as "
-        "your address, "
-        "telephone number and tax identification number; from your lenders, such as loan numbers and "
-        "balances; and from "
-        "the other persons who take part in your transaction, such as real estate brokers, title "
-        "companies, attorneys "
-        "and public offices.");
+        "your address, telephone number and tax identification number; from your lenders, such as loan "
+        "numbers and balances; and from the other persons who take part in your transaction, such as real "
+        "estate brokers, title companies, attorneys and public offices.");
     type.TypeBold("Information we disclose.");
     TypeParagraph(
         type,
         " We do not sell this information, and we disclose none of it, of present or former clients, "
-        "except as you have "
-        "authorized, as is needed to carry out the transaction for which you have engaged us, or as the "
-        "law requires. "
-        "Those who may need some of it for your transaction are lenders, title insurers, brokers, the "
-        "attorneys for the "
-        "other parties, and the taxing and recording authorities.");
+        "except as you have authorized, as is needed to carry out the transaction for which you have "
+        "engaged us, or as the law requires. Those who may need some of it for your transaction are "
+        "lenders, title insurers, brokers, the attorneys for the other parties, and the taxing and "
+        "recording authorities.");
     type.TypeBold("How we protect it.");
     TypeParagraph(
         type,
         " Access to your information is limited to the attorneys and staff of this firm, and to those who "
-        "serve it under "
-        "a like duty of confidence, who need it in order to serve you. We maintain physical, electronic "
-        "and procedural "
-        "safeguards, and we destroy records securely when we are no longer obliged to keep them.");
+        "serve it under a like duty of confidence, who need it in order to serve you. We maintain "
+        "physical, electronic and procedural safeguards, and we destroy records securely when we are no "
+        "longer obliged to keep them.");
     TypeParagraph(
         type,
         "Please call us if you have any question about this notice. Your privacy, our professional ethics "
-        "and your "
-        "confidence in us matter to us.");
+        "and your confidence in us matter to us.");
     TypeClosing(job, type, "Very truly yours,");
     EndLetter(type);
 }

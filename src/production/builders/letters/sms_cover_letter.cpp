@@ -42,11 +42,10 @@ void TypeSmsCoverLetter(const Production& production, Typist& type, const Varian
     TypeParagraph(
         type,
         "The holder of the mortgage has been directed to send the release to you. Kindly obtain it, see "
-        "to its "
-        "recording, and report the volume and page of the recording to me.");
+        "to its recording, and report the volume and page of the recording to me.");
     TypeParagraph(type,
-                  "Should you have any questions, please do not hesitate to contact me. Thank you for your "
-                  "assistance.");
+                  "Should you have any questions, please do not hesitate to contact me. Thank you for "
+                  "your assistance.");
     TypeClosing(job, type, "Very truly yours,");
     type.Text("\rEncl.\r");
     EndLetter(type);

@@ -29,8 +29,8 @@ void TypeSituation(const JobValues& job, Typist& type, const Payoff& payoff) {
     TypeParagraph(
         type,
         "The Lender will not provide a release of the mortgage until said mortgage has been paid in full. "
-        "So that the "
-        "sale may close before the release is at hand, the undersigned guarantees the following:");
+        "So that the sale may close before the release is at hand, the undersigned guarantees the "
+        "following:");
 }
 
 void TypeGuarantees(const JobValues& job, Typist& type) {
@@ -47,8 +47,7 @@ void TypeGuarantees(const JobValues& job, Typist& type) {
             "If the release has not been received within sixty (60) days after payment, the undersigned "
             "will notify the mortgagee of record in writing that section 49-8 of the Connecticut General "
             "Statutes requires it. If such Mortgagee fails to respond to the notification within fifteen "
-            "(15) "
-            "days, the undersigned will record the affidavit that section 49-8a permits, or will "
+            "(15) days, the undersigned will record the affidavit that section 49-8a permits, or will "
             "otherwise clear the land records of the mortgage.");
         type.EndItem();
     });
@@ -59,12 +58,11 @@ void TypeIndemnification(const JobValues& job, Typist& type) {
     TypeParagraph(
         type, "The ", SellerWord(job), several ? " join" : " joins",
         " in this letter in order to confirm that no more is owed upon the mortgage than the payoff "
-        "statement shows, to "
-        "agree to pay any difference on demand, and to indemnify and hold harmless the ",
+        "statement shows, to agree to pay any difference on demand, and to indemnify and hold harmless "
+        "the ",
         BuyerWord(job), ", the title insurer of the ", BuyerWord(job),
         " and the undersigned attorney from all loss, cost and expense, including reasonable attorney's "
-        "fees, that may "
-        "arise because the mortgage is not released of record.");
+        "fees, that may arise because the mortgage is not released of record.");
     type.Text("Dated this ", job.DayMonthYear(DocumentDate), ".\r");
 }
 
@@ -90,7 +88,7 @@ void TypeGuaranteeLetter(const JobValues& job, Typist& type, const Variant& vari
     TypeIndemnification(job, type);
     type.Align(word::AlignLeft);
     type.AtTab(kSignatureTab, [&] {
-        TypeAttorneyForSeller(job, type);
+        type.As(word::Role::Signature, [&] { TypeAttorneyForSeller(job, type); });
         TypeSignatures(type, SigningSellers(job));
         TypeVenue(job, type);
         TypeGrantorAcknowledgment(job, type, FindSellersByPower(job));

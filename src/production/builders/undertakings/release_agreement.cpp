@@ -25,36 +25,28 @@ void TypePromises(const JobValues& job, Typist& type) {
     TypeList(type, kLetterIndent,
              {
                  "The undersigned has obtained from the holder of the Mortgage a written statement of the "
-                 "amount required to pay it in full, "
-                 "and has furnished a copy of the statement to the attorney for the Purchaser.",
+                 "amount required to pay it in full, and has furnished a copy of the statement to the "
+                 "attorney for the Purchaser.",
                  "Directly after the closing the undersigned will pay that amount to the holder from the "
-                 "proceeds of the sale, and will "
-                 "request a release of the Mortgage in writing.",
+                 "proceeds of the sale, and will request a release of the Mortgage in writing.",
                  "If the payment proves insufficient, the undersigned will at once require the difference "
-                 "of "
-                 "the Seller and forward it "
-                 "to the holder.",
+                 "of the Seller and forward it to the holder.",
              });
     TypeParagraph(
         type,
         "The undersigned will make every reasonable effort to obtain the release, and within ten (10) "
-        "days after its "
-        "receipt will record it on the ",
+        "days after its receipt will record it on the ",
         job.Town(PropertyCityStateZip),
         " Land Records, at no expense to the Purchaser, and report the volume and page of the recording "
-        "to the attorney for "
-        "the Purchaser. If no release has been received within sixty (60) days after the payment, the "
-        "undersigned will "
-        "demand it under section 49-8 of the Connecticut General Statutes and, where section 49-8a "
-        "permits, will prepare, "
-        "execute and record the affidavit that takes its place.");
+        "to the attorney for the Purchaser. If no release has been received within sixty (60) days after "
+        "the payment, the undersigned will demand it under section 49-8 of the Connecticut General "
+        "Statutes and, where section 49-8a permits, will prepare, execute and record the affidavit that "
+        "takes its place.");
     TypeParagraph(
         type,
         "The Purchaser accepts the deed in reliance upon this agreement. It may be relied upon also by "
-        "the Purchaser's lender "
-        "and by any company that insures the title to the Premises, and it survives the closing until the "
-        "release or the "
-        "affidavit is of record.");
+        "the Purchaser's lender and by any company that insures the title to the Premises, and it "
+        "survives the closing until the release or the affidavit is of record.");
 }
 
 }  // namespace
@@ -72,15 +64,16 @@ void TypeReleaseAgreement(const JobValues& job, Typist& type, const Variant& var
     TypeParagraph(
         type,
         "The undersigned attorney for the Seller, in connection with the closing of the title to the "
-        "Premises, agrees as "
-        "follows with regard to the mortgage to ",
+        "Premises, agrees as follows with regard to the mortgage to ",
         job[payoff.mortgagee], " dated ", job[payoff.mortgageDate], " and recorded in Volume/Book ",
         job[payoff.volume], " at Page ", job[payoff.page], " of the ", job.Town(PropertyCityStateZip),
         " Land Records (the \"Mortgage\"), of which no release is available at the closing:");
     TypePromises(job, type);
     type.Align(word::AlignLeft);
-    type.Text("Attorney for the ", SellerWord(job), RepeatReturn(3), "   By:  ", SignatureRule(),
-              "\r          ", job[SellerAtty], "\r");
+    type.As(word::Role::Signature, [&] {
+        type.Text("Attorney for the ", SellerWord(job), RepeatReturn(3), "   By:  ", SignatureRule(),
+                  "\r          ", job[SellerAtty], "\r");
+    });
     EndLetter(type);
 }
 

@@ -48,12 +48,10 @@ void TypeOwnersIndemnity(const JobValues& job, Typist& type) {
         " without exception for said mortgage, the undersigned ",
         several ? "agree, jointly and severally," : "agrees",
         " to pay on demand any sum that is found to be due upon said mortgage, and to indemnify and hold "
-        "harmless "
-        "said company, the ",
+        "harmless said company, the ",
         BuyerWord(job),
         " and said lender from all loss, cost and expense, including reasonable attorney's fees, which "
-        "any of them "
-        "may incur because said mortgage is not released of record.");
+        "any of them may incur because said mortgage is not released of record.");
 }
 
 void TypeOwnersSignatures(const JobValues& job, Typist& type) {
@@ -64,17 +62,20 @@ void TypeOwnersSignatures(const JobValues& job, Typist& type) {
 void TypeAttorneyCertifies(const JobValues& job, Typist& type) {
     type.Text(
         "The undersigned certifies that I am an attorney licensed to practice law in the State of "
-        "Connecticut, and that "
-        "I represent the ",
+        "Connecticut, and that I represent the ",
         SellerWord(job), " in the sale of the above-referenced property. ");
 }
 
 void TypeAttorneySignature(const JobValues& job, Typist& type) {
     type.Align(word::AlignLeft);
     type.AtTab(kSignatureTab, [&] {
-        type.Text(RepeatReturn(2), "\t", SignatureRule(), "\r\t", job[SellerAtty], ", Attorney for the ",
-                  SellerWord(job), "\r\t", job.OneLine(SellerAttyAddr1), "\r\t", job[SellerAttyCityStateZip],
-                  "\r");
+        type.As(word::Role::Signature, [&] {
+            type.Text(RepeatReturn(2), "\t", SignatureRule(), "\r\t", job[SellerAtty],
+                      ", Attorney for "
+                      "the ",
+                      SellerWord(job), "\r\t", job.OneLine(SellerAttyAddr1), "\r\t",
+                      job[SellerAttyCityStateZip], "\r");
+        });
     });
 }
 
