@@ -10,6 +10,13 @@ Value Whole(int number) {
     return std::int32_t{number};
 }
 
+/// The story of the same kind behind a range's, null after the last.
+ObjectPtr NextStory(const ObjectPtr& range) {
+    const Value next = range->Get("NextStoryRange");
+    const auto* object = std::get_if<ObjectPtr>(&next);
+    return object ? *object : nullptr;
+}
+
 }  // namespace
 
 // ---- Selection and ranges ----
@@ -181,6 +188,21 @@ bool Bookmarks::Exists(std::string_view name) const {
 
 Style Document::Styles(std::string_view name) const {
     return Style(ItemOf("Styles", Text(name)));
+}
+std::vector<Range> Document::OtherStories() const {
+    constexpr int kFootnotes = 2;
+    constexpr int kFirstPageFooters = 11;
+    std::vector<Range> stories;
+    for (int kind = kFootnotes; kind <= kFirstPageFooters; ++kind) {
+        try {
+            ObjectPtr story = ItemOf("StoryRanges", Whole(kind));
+            for (; story; story = NextStory(story)) stories.emplace_back(story);
+        } catch (const AutomationError& failure) {
+            // The collection holds the kinds that the document has.
+            if (failure.number() != error::kNoSuchElement) throw;
+        }
+    }
+    return stories;
 }
 void Document::Protect(word::ProtectionType type, bool noReset) const {
     Call("Protect", {{Whole(type)}, {noReset}});

@@ -2,6 +2,7 @@
 
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "word/seam/handle.h"
 
@@ -320,6 +321,9 @@ struct Document : Handle {
     word::Window ActiveWindow{*this, "ActiveWindow"};
     word::Range Content{*this, "Content"};
     Style Styles(std::string_view name) const;
+    /// The stories beside the main text: notes, text boxes, headers and footers. For Word, whose `Content`
+    /// ends with the main text; that of the embedded engine takes them all in.
+    std::vector<Range> OtherStories() const;
     /// Locks the document but for its form fields; `noReset` keeps what they hold.
     void Protect(word::ProtectionType type, bool noReset) const;
     void Select() const;

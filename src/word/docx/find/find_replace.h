@@ -56,6 +56,11 @@ struct FindResult {
 FindResult Find(Document& document, Blocks& story, const FindRequest& request,
                 const std::optional<TextRange>& range = {});
 
+/// Looks through all that the document shows: the main text as `Find` does, then headers, footers, text boxes
+/// and notes. `match` is unset for what was found outside the main text. Marks of paragraphs and sections are
+/// looked for in the main text alone; pictures are not put into text boxes and notes.
+FindResult FindEverywhere(Document& document, const FindRequest& request);
+
 inline constexpr int kTextTooLong = 5854;
 inline constexpr std::size_t kLongestFindText = 255;
 

@@ -60,6 +60,12 @@ std::optional<MarkMatch> MatchAcross(const Stop& start, std::size_t offset, cons
     return match;
 }
 
+/// Whether no other character has this one for its form in patterns.
+bool StandsForItselfAlone(char32_t unit) {
+    constexpr std::u32string_view kPunctuation = U"[]{}()<>_#*/\\^$%&=+~|";
+    return kPunctuation.find(unit) != kPunctuation.npos;
+}
+
 }  // namespace
 
 std::vector<Stop> CollectStops(Blocks& story) {
@@ -86,7 +92,10 @@ std::optional<std::size_t> MatchAt(std::string_view text, std::size_t offset, co
 
 std::optional<PlainMatch> FindPlain(std::string_view text, std::size_t from, std::size_t until,
                                     const Pattern& pattern) {
+    const bool startsPlain = StandsForItselfAlone(pattern.front());
     for (std::size_t at = from; at < until;) {
+        if (startsPlain) at = text.find(static_cast<char>(pattern.front()), at);
+        if (at >= until) break;
         const auto end = MatchAt(text, at, pattern);
         if (end && *end <= until) return PlainMatch{at, *end};
         at += Folded(text, at).length;

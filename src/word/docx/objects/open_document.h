@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "word/docx/edit/editor.h"
@@ -42,6 +43,8 @@ class OpenDocument final : public Shared, public LateBound<OpenDocument> {
     EngineState& engine() const;
     SelectionObject& selection();
     ViewState& view() { return view_; }
+    /// The page before a paste brought another one, until a section break ends the pasted text.
+    std::optional<SectionProperties>& pageBeforePaste() { return pageBeforePaste_; }
     const std::filesystem::path& path() const { return path_; }
     const std::string& name() const { return name_; }
 
@@ -70,6 +73,7 @@ class OpenDocument final : public Shared, public LateBound<OpenDocument> {
     std::string name_;
     std::filesystem::path path_;
     ViewState view_;
+    std::optional<SectionProperties> pageBeforePaste_;
     bool isSaved_ = true;
     bool isClosed_ = false;
     bool isServerGone_ = false;

@@ -207,6 +207,8 @@ void RangeObject::MoveTo(const Place& start, const Place& end) {
 }
 
 find::FindResult RangeObject::FindIn(const find::FindRequest& request) {
+    const bool isContent = extent_ == Extent::Story && storyType_ == MainTextStory;
+    if (isContent) return FindEverywhere(document_->model(), request);
     if (extent_ == Extent::Story) return Find(document_->model(), Story(), request);
     return Find(document_->model(), Story(), request, find::TextRange{start(), end()});
 }

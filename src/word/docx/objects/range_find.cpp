@@ -1,9 +1,12 @@
 #include "word/docx/objects/range_find.h"
 
+#include <utility>
+
 #include "word/docx/objects/engine_state.h"
 #include "word/docx/objects/pictures.h"
 #include "word/docx/objects/range.h"
 #include "word/docx/objects/section_objects.h"
+#include "word/docx/paste/paste.h"
 
 namespace quillmark::word::docx::objects {
 namespace {
@@ -110,6 +113,8 @@ void InsertBreakAt(OpenDocument& document, const Place& place, int kind, FormatI
     else
         document.editor().InsertSectionBreak(
             place, kind == SectionBreakNextPage ? SectionNewPage : SectionContinuous);
+    if (kind == SectionBreakNextPage && document.pageBeforePaste())
+        paste::TakeBackPage(document.model(), *std::exchange(document.pageBeforePaste(), std::nullopt));
     document.Changed();
 }
 

@@ -242,6 +242,8 @@ void SelectionObject::PasteCopied(bool keepSourceFormatting) {
     Blocks& blocks = *here.blocks;
     const Place at = here.offset > 0 ? editor.Split(here, edit::Editor::ParagraphAt(here).markFormat) : here;
     const bool isFirst = at.block == blocks.begin();
+    if (paste::IsEmpty(document_.model()))
+        document_.pageBeforePaste() = document_.model().lastSection.CopyWithoutStories();
     const auto before = isFirst ? blocks.begin() : std::prev(at.block);
     const Place behind =
         paste::PasteAt(document_.model(), at, document_.engine().copied(), keepSourceFormatting);

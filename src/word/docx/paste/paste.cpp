@@ -122,4 +122,17 @@ Place PasteAt(Document& target, const Place& place, const CopiedText& copied, bo
     return behind;
 }
 
+void TakeBackPage(Document& target, const SectionProperties& former) {
+    constexpr int kNewPage = 2;
+    Shown shown;
+    for (const Block& block : target.body) {
+        const auto* paragraph = std::get_if<Paragraph>(&block);
+        if (paragraph && paragraph->section) shown.Pass(*paragraph->section);
+    }
+    target.lastSection = former.CopyWithoutStories();
+    target.lastSection.start = kNewPage;
+    KeepStories(target.lastSection.headers, {}, shown.headers);
+    KeepStories(target.lastSection.footers, {}, shown.footers);
+}
+
 }  // namespace quillmark::word::docx::paste

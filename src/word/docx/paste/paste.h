@@ -40,6 +40,10 @@ CopiedText CopyAll(const Document& document);
 Place PasteAt(Document& target, const Place& place, const CopiedText& copied,
               bool keepSourceFormatting = true);
 
+/// Once a section break stands behind text that was pasted into an empty document, the last section takes the
+/// page that the document had before, without headers and footers: the pasted page was the text's own.
+void TakeBackPage(Document& target, const SectionProperties& former);
+
 /// Whether nothing has been typed into the document: one paragraph without text.
 bool IsEmpty(const Document& document);
 
