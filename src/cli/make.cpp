@@ -122,6 +122,7 @@ class MakeRun {
             throw std::runtime_error("the job lists no documents; --documents can name some");
         order.settings = settings_;
         order.today = order_.today;
+        order.CustomFormsFolder = folders_.CustomFormsFolder;
         order.dialogs = &dialogs_;
         order.startWord = [this] { return StartWord(); };
         order.onProgress = [this, word](const CreateProgress& progress) {

@@ -2,11 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
-#include <set>
 
-#include "core/text_conversions.h"
-#include "platform/paths.h"
+#include "core/custom_forms.h"
 
 namespace quillmark {
 
@@ -133,14 +130,6 @@ std::string_view NameWithColon(std::string_view jobDocuments) {
     return {};
 }
 
-/// Beside the forms the folder holds their lists of markers, the list of user fields and what Word leaves.
-bool IsForm(const std::filesystem::directory_entry& entry) {
-    const std::string name = TextOf(entry.path().filename());
-    const std::string extension = Lowered(TextOf(entry.path().extension()));
-    const bool besideForms = extension == ".inf" || extension == ".lst" || extension == ".new";
-    return entry.is_regular_file() && !besideForms && !name.starts_with("~$") && !name.starts_with('.');
-}
-
 }  // namespace
 
 bool HasTrait(std::string_view document, DocumentTrait any) {
@@ -164,11 +153,12 @@ bool IsCustomDocument(std::string_view name) {
 }
 
 std::vector<std::string> CustomDocumentLines(const Folders& folders) {
-    std::set<std::string> lines;
-    std::error_code missing;
-    for (const auto& entry : std::filesystem::directory_iterator(folders.CustomFormsFolder, missing))
-        if (IsForm(entry)) lines.insert("[ " + TextOf(entry.path().stem()) + " ]");
-    return {lines.begin(), lines.end()};
+    std::vector<std::string> lines;
+    for (const std::string& file : FormFiles(folders.CustomFormsFolder)) {
+        std::string line = "[ " + std::string(FormName(file)) + " ]";
+        if (lines.empty() || lines.back() != line) lines.push_back(std::move(line));
+    }
+    return lines;
 }
 
 std::vector<std::string> OfferedDocuments(const Folders& folders) {

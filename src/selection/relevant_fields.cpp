@@ -3,13 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "core/custom_forms.h"
 #include "core/field_registry.h"
 #include "core/fields.h"
-#include "platform/atomic_file.h"
-#include "platform/code_page.h"
-#include "platform/file_names.h"
-#include "platform/paths.h"
-#include "platform/record_file.h"
 #include "selection/document_catalogue.h"
 #include "selection/document_table.h"
 #include "selection/field_defaults.h"
@@ -22,7 +18,6 @@ namespace {
 constexpr int kForwardingAddress[] = {field::SellerFwdAddr1, field::SellerFwdAddr2,
                                       field::SellerFwdCityStateZip};
 constexpr int kSeller1Address[] = {field::Seller1Addr1, field::Seller1Addr2, field::Seller1CityStateZip};
-constexpr std::size_t kFormListLimit = 1024 * 1024;  ///< bytes of the largest list of markers
 
 // clang-format off
 constexpr int kOptionalFields[] = {
@@ -133,21 +128,12 @@ class NeedsReader {
 
     /// The markers that a custom document holds, as its list beside the document has them.
     void ReadCustomDocument(std::string_view name) {
-        const std::string list = std::string(name) + ".inf";
-        if (const std::string fault = FaultOfFileName(list); !fault.empty())
-            throw FileError(PathOf(list), FileError::Kind::NotFound,
-                            "is no list of a form's fields: its name " + fault);
-        const auto file = FindExisting(customForms_ / PathOf(list));
-        const std::string bytes = ReadFile(file, kFormListLimit);
-        RecordReader records(TextOf(file), bytes);
         std::vector<int> fields = {field::DocumentDate};
-        while (records.Next()) {
-            const int n = static_cast<int>(records.Number(1));
-            if (n < 0 || n > kFields) records.Fail("there is no field " + std::to_string(n));
-            if (n == 0)
-                AddUserMarker(records.Text(0));
+        for (FormMarker& marker : ReadFormMarkers(MarkerFile(customForms_, name))) {
+            if (marker.field == 0)
+                AddUserMarker(std::move(marker.marker));
             else
-                fields.push_back(n);
+                fields.push_back(marker.field);
         }
         Add(fields);
     }
@@ -194,15 +180,8 @@ OptionSet WaysBack(const JobInHand& hand) {
 
 /// In a template every user-defined field can be given a value.
 std::vector<std::string> AllUserMarkers(const FirmContext& firm) {
-    const auto file = FindExisting(firm.folders.CustomFormsFolder / "userfields.lst");
-    std::vector<std::string> markers;
-    if (!std::filesystem::exists(file)) return markers;
-    const std::string names = FromWindows1252(ReadFile(file, kFormListLimit));
-    for (std::size_t at = 0; at < names.size();) {
-        const std::size_t end = std::min(names.find_first_of("\r\n", at), names.size());
-        if (end > at) markers.push_back("[" + names.substr(at, end - at) + "]");
-        at = end + 1;
-    }
+    std::vector<std::string> markers = UserFieldNames(firm.folders.CustomFormsFolder);
+    for (std::string& marker : markers) marker = "[" + marker + "]";
     return markers;
 }
 

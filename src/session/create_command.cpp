@@ -127,6 +127,7 @@ CreateOrder CreateCommand::OrderOfRun(const std::shared_ptr<std::string>& trace)
     order.LegalList = screen_.LegalList;
     order.settings = firm_.settings();
     order.today = machine_.clock.Today();
+    order.CustomFormsFolder = folders_.CustomFormsFolder;
     order.nameUsable = screen_.txtJobName.IsSaveable();
     order.dialogs = &machine_.dialogs;
     // The word processor outlives this run, and so must the trace that it writes to.

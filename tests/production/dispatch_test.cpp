@@ -38,10 +38,9 @@ TEST(Dispatch, NamesAreKnownOnceAndEveryBuilderHasAName) {
         EXPECT_TRUE(known.contains(builder.document)) << builder.document;
 }
 
-TEST(Dispatch, PlaceholderAndFirmFormsAreEmptySectionsAndTyposAreNot) {
+TEST(Dispatch, ThePlaceholderIsAnEmptySectionAndTyposAreNot) {
     const Job job = SampleDeal();
     EXPECT_EQ(Typed(kNewDocument, job), "\n");
-    EXPECT_EQ(Typed("[ Lot Rider ]", job), "\n");
     EXPECT_THROW(Typed("Deed/Warranty", job), std::invalid_argument);
     EXPECT_THROW(Typed("", job), std::invalid_argument);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <filesystem>
 #include <span>
 #include <string>
 #include <string_view>
@@ -16,7 +17,8 @@ struct Production {
     const Job& job;
     const Settings& settings;
     Dialogs& dialogs;
-    std::span<const std::string> documents = {};  ///< the entries of the job list, in order
+    std::span<const std::string> documents = {};   ///< the entries of the job list, in order
+    std::filesystem::path CustomFormsFolder = {};  ///< where the firm's own forms lie
 
     /// Whether the run makes this document too.
     bool Makes(std::string_view document) const {

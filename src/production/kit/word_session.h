@@ -21,6 +21,7 @@ struct WordSession {
     word::Application WordApp;
     std::shared_ptr<word::Clipboard> clipboard;
     std::shared_ptr<word::Hints> hints;       ///< null where the word processor takes none
+    bool isEmbedded = false;                  ///< the word processor is the one within this program
     word::Document WordDoc;                   ///< the one new document of the run
     word::Selection WordSel{nullptr};         ///< the insertion point that every builder types at
     word::Style ListParagraphStyle{nullptr};  ///< "List Paragraph"; an old Word has none

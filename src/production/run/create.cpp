@@ -129,7 +129,7 @@ void CreateRun::CheckEntries() const {
 void CreateRun::StartWord() {
     const word::StartedWordProcessor started = order_.startWord();
     session_.emplace(started.application, started.clipboard, started.hints);
-    embedded_ = started.isEmbedded;
+    session_->isEmbedded = embedded_ = started.isEmbedded;
     SetUpWordSession(*session_);
 }
 
@@ -138,7 +138,8 @@ void CreateRun::TypeDocumentAt(std::size_t entry) {
     const word::Range beginning = session_->WordSel.Range();
     Dialogs& dialogs = order_.dialogs ? *order_.dialogs : defaultAnswers_;
     if (session_->hints) session_->hints->SetRole(word::Role::Body);
-    notices_ += TypeEntry(order_.DocumentNames[entry], {job_, order_.settings, dialogs, order_.DocumentNames},
+    notices_ += TypeEntry(order_.DocumentNames[entry],
+                          {job_, order_.settings, dialogs, order_.DocumentNames, order_.CustomFormsFolder},
                           *session_);
     // In front of the document, so that a builder's own paragraph format never reaches the break.
     if (entry > 0) beginning.InsertBreak(word::SectionBreakNextPage);

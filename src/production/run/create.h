@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -31,7 +32,8 @@ struct CreateOrder {
     std::string LegalList;                   ///< names of the entries on legal-size paper, joined by commas
     Settings settings;
     std::chrono::year_month_day today;
-    bool nameUsable = true;      ///< the job's name may stand in the footers
+    std::filesystem::path CustomFormsFolder = {};  ///< where the firm's own forms lie
+    bool nameUsable = true;                        ///< the job's name may stand in the footers
     Dialogs* dialogs = nullptr;  ///< whom documents ask; null: each question gets its default answer
     std::function<word::StartedWordProcessor()> startWord;
     std::function<void(const CreateProgress&)> onProgress = {};

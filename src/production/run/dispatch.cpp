@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "production/builders/builder_list.h"
+#include "production/run/custom_form.h"
 #include "selection/document_catalogue.h"
 
 namespace quillmark {
@@ -18,6 +19,10 @@ std::string TypeEntry(std::string_view entry, const Production& production, Word
     if (const Builder* builder = FindBuilder(entry)) {
         TypeDocument(*builder, production, session);
         return NoticesOf(*builder, production.job);
+    }
+    if (IsCustomDocument(entry)) {
+        TypeCustomForm(entry, production, session);
+        return {};
     }
     if (!IsKnownDocument(entry))
         throw std::invalid_argument("no document has the name \"" + std::string(entry) + "\"");
