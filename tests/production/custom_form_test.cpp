@@ -10,7 +10,7 @@
 #include "production/sample_deal.h"
 #include "support/form_docx.h"
 #include "support/scratch.h"
-#include "word/docx/package_check.h"
+#include "word/docx/check/package_check.h"
 #include "word/trace.h"
 
 namespace quillmark::test {
@@ -48,7 +48,7 @@ class CustomForm : public ::testing::Test {
     const word::Document& Create() {
         run.emplace(job, order);
         run->Run(TextOf(folder / "Hollis_QMF.docx"));
-        EXPECT_THAT(word::docx::CheckPackage(ReadBytes(folder / "Hollis_QMF.docx")), IsEmpty());
+        EXPECT_THAT(word::docx::check::CheckPackage(ReadBytes(folder / "Hollis_QMF.docx")), IsEmpty());
         return run->session().WordDoc;
     }
     std::string Text() { return Create().Content.Text; }

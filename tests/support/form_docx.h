@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "word/docx/zip_writer.h"
+#include "word/docx/zip/zip_writer.h"
 
 /// A firm's own form as a file, written by hand the way a word processor does it. For tests of folders that
 /// know the word processor.
@@ -67,9 +67,9 @@ inline std::string FormDocx::Bytes() const {
     all["word/document.xml"] =
         Root("document", "<w:body>" + body + "<w:sectPr>" + references + section + "</w:sectPr></w:body>");
     all["word/_rels/document.xml.rels"] = links(own);
-    std::vector<word::docx::ZipEntry> entries;
+    std::vector<word::docx::zip::ZipEntry> entries;
     for (const auto& [name, bytes] : all) entries.push_back({name, bytes});
-    return word::docx::WriteZip(entries);
+    return word::docx::zip::WriteZip(entries);
 }
 
 }  // namespace quillmark::test
