@@ -8,6 +8,7 @@
 #include <ostream>
 
 #include "cli/console.h"
+#include "cli/forms.h"
 #include "cli/listings.h"
 #include "cli/make.h"
 #include "cli/program_file.h"
@@ -158,6 +159,18 @@ int RunCommandLine(const std::vector<std::string>& words, const Streams& streams
     console->callback([&] { status = RunConsole(OrderOf(consoleWords, *console), std::cin, streams); });
     app.add_subcommand("documents", "List the built-in documents in catalogue order")->callback([&] {
         ListDocuments(streams.out);
+    });
+    FormsOrder formsOrder;
+    std::string formsFolder = ".";
+    CLI::App* forms = app.add_subcommand("forms", "List the firm's own forms, each with its markers");
+    forms
+        ->add_option("--folder", formsFolder,
+                     "Program folder: settings, firm defaults, packages, data (default: .)")
+        ->type_name("DIR");
+    forms->add_flag("--check", formsOrder.check, "Tell what is wrong with the forms instead");
+    forms->callback([&] {
+        formsOrder.folder = PathOf(formsFolder);
+        status = Forms(formsOrder, streams);
     });
     app.add_subcommand("fields", "List the fields: number, marker, sort key, description, tab-separated")
         ->callback([&] { ListFields(streams.out); });

@@ -89,7 +89,7 @@ Json Jump(ConsoleSession& session, const Request& request) {
 
 Json ClickButton(ConsoleSession& session, const Request& request) {
     session.Click(request.Text("button"));
-    return nullptr;
+    return WindowOrNull(session);
 }
 
 Json ValueOf(ConsoleSession& session, const Request& request) {
@@ -153,6 +153,7 @@ Json State(ConsoleSession& session, const Request&) {
 
 constexpr bool kOptional = false;
 constexpr bool kWhileBrowsing = true;
+constexpr bool kWhileWindowOpen = true;
 using enum ArgumentKind;
 
 const std::vector<Command>& Table() {
@@ -189,7 +190,12 @@ const std::vector<Command>& Table() {
         {"calculator",     {{"gross", Amount, kOptional}, {"from", Text, kOptional}, {"to", Text, kOptional},
                             {"date", Text, kOptional}, {"hand", Text, kOptional}},   UseCalculator},
         {"create",         {{"to", Path, kOptional}, {"trace", Path, kOptional}},    Create},
-        {"state",          {},                                                       State,        kWhileBrowsing},
+        {"window",         {},                                                       ShowWindow,   kWhileBrowsing, kWhileWindowOpen},
+        {"window-set",     {{"control", Path}, {"value", Any}},                      SetInWindow,  kWhileBrowsing, kWhileWindowOpen},
+        {"window-click",   {{"control", Path}, {"double", Flag, kOptional}, {"to", Path, kOptional}},
+                                                                                     ClickInWindow, kWhileBrowsing, kWhileWindowOpen},
+        {"window-close",   {},                                                       CloseWindow,  kWhileBrowsing, kWhileWindowOpen},
+        {"state",          {},                                                       State,        kWhileBrowsing, kWhileWindowOpen},
     };
     // clang-format on
     return kCommands;
@@ -209,6 +215,8 @@ Json RunCommand(ConsoleSession& session, const Request& request) {
     request.Check(command->arguments);
     if (session.browser() && !command->whileBrowsing)
         throw NotAllowed("the browser is open: load, spawn or delete an entry, or browse to close it");
+    if (session.screen().Window() && !command->whileWindowOpen)
+        throw NotAllowed("the window \"" + session.screen().Window()->Title() + "\" is open");
     return command->run(session, request);
 }
 

@@ -16,6 +16,8 @@ struct Command {
     Json (*run)(ConsoleSession& session, const Request& request);
     /// The browser is a window that keeps the main screen waiting; few commands go with it.
     bool whileBrowsing = false;
+    /// A side tool's window keeps it waiting too, but for the commands of that window.
+    bool whileWindowOpen = false;
 };
 
 /// Every command, in the order in which the documentation has them.
@@ -39,6 +41,13 @@ Json DeletePackageOf(ConsoleSession& session, const Request& request);
 Json AddAddress(ConsoleSession& session, const Request& request);
 Json RemoveAddress(ConsoleSession& session, const Request& request);
 Json UseCalculator(ConsoleSession& session, const Request& request);
+
+// The commands of a side tool's window (console_window.cpp), and the window itself.
+Json ShowWindow(ConsoleSession& session, const Request& request);
+Json SetInWindow(ConsoleSession& session, const Request& request);
+Json ClickInWindow(ConsoleSession& session, const Request& request);
+Json CloseWindow(ConsoleSession& session, const Request& request);
+Json WindowOrNull(ConsoleSession& session);
 
 // The closing statement's figures (console_statement.cpp).
 Json FiguresOfStatement(ConsoleSession& session, const Request& request);

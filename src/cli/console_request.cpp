@@ -37,7 +37,12 @@ bool IsWholeNumber(const Json& value) {
 }
 
 void CheckKind(const Json& value, const Argument& argument) {
-    if (argument.kind == ArgumentKind::Number) {
+    if (argument.kind == ArgumentKind::Flag) {
+        if (!value.is_boolean()) throw BadRequest(fmt::format("{} is neither true nor false", argument.name));
+    } else if (argument.kind == ArgumentKind::Any) {
+        if (!value.is_boolean() && !value.is_string() && !IsWholeNumber(value))
+            throw BadRequest(fmt::format("{} is no text, whole number, true or false", argument.name));
+    } else if (argument.kind == ArgumentKind::Number) {
         if (!IsWholeNumber(value)) throw BadRequest(fmt::format("{} is not a whole number", argument.name));
     } else if (argument.kind == ArgumentKind::Texts) {
         if (!value.is_array()) throw BadRequest(fmt::format("{} is not a list of texts", argument.name));
@@ -104,6 +109,10 @@ std::string Request::Text(std::string_view name) const {
 
 int Request::Number(std::string_view name) const {
     return line_.at(std::string(name)).get<int>();
+}
+
+const Json& Request::Value(std::string_view name) const {
+    return line_.at(std::string(name));
 }
 
 std::vector<std::string> Request::Texts(std::string_view name) const {

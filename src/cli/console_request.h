@@ -28,6 +28,8 @@ enum class ArgumentKind {
     Number,  ///< a whole number
     Amount,  ///< a text as for Text, or a number
     Texts,   ///< a list of texts
+    Flag,    ///< true or false
+    Any,     ///< a text as for Path, a whole number, true or false
 };
 
 struct Argument {
@@ -53,6 +55,8 @@ class Request {
     bool Has(std::string_view name) const;
     std::string Text(std::string_view name) const;  ///< empty if it was not given; a number as it is written
     int Number(std::string_view name) const;
+    /// The argument as it was given; it must be there.
+    const Json& Value(std::string_view name) const;
     std::vector<std::string> Texts(std::string_view name) const;
 
  private:

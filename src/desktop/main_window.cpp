@@ -99,6 +99,7 @@ void MainWindow::ShowTitle() {
         QStringLiteral("Quillmark - v 3.78 ct - Real Estate Document Generator for Microsoft Word");
     const std::string& client = desk_.Screen().Client();
     if (!client.empty()) title += QStringLiteral("   servicing\\   ") + Shown(client);
+    if (desk_.State().testMode) title = QStringLiteral("Quillmark - CUSTOM FORMS TEST MODE");
     if (windowTitle() != title) setWindowTitle(title);
 }
 

@@ -3,6 +3,7 @@
 #include "desktop/side_windows/address_window.h"
 #include "desktop/side_windows/browser_window.h"
 #include "desktop/side_windows/clients_window.h"
+#include "desktop/side_windows/custom_forms_dialog.h"
 #include "desktop/side_windows/packages_window.h"
 
 namespace quillmark::desktop {
@@ -14,6 +15,7 @@ void SideWindowFlow::Press(std::string_view name) {
     if (name == "cmdPackages") return EditPackages();
     if (!desk_.Do([name](MainScreen& screen) { screen.Click(name); })) return;
     ShowBrowserIfOpen();
+    if (name == "cmdCustom") desk_.Do([this](MainScreen& screen) { ShowCustomForms(screen, &window_); });
     if (name == "cmdCreate") OpenDocument();
 }
 

@@ -127,7 +127,7 @@ CreateOrder CreateCommand::OrderOfRun(const std::shared_ptr<std::string>& trace)
     order.LegalList = screen_.LegalList;
     order.settings = firm_.settings();
     order.today = machine_.clock.Today();
-    order.CustomFormsFolder = folders_.CustomFormsFolder;
+    order.CustomFormsFolder = firm_.folders().CustomFormsFolder;
     order.nameUsable = screen_.txtJobName.IsSaveable();
     order.dialogs = &machine_.dialogs;
     // The word processor outlives this run, and so must the trace that it writes to.
@@ -152,7 +152,7 @@ void CreateCommand::MakeDocuments() {
     auto run = std::make_unique<CreateRun>(screen_.job, OrderOfRun(trace));
     screen_.waiting = true;
     run->Produce();
-    const std::string notFed = files_.FeedBooks();
+    const std::string notFed = screen_.testMode ? std::string() : files_.FeedBooks();
     run->PutValuesBack();
     fs::path document;
     run->Attempt([&] {
@@ -219,7 +219,7 @@ void CreateCommand::ShowNotices(const std::string& letters) {
 void CreateCommand::ShowAsMade() {
     EndWaiting(screen_);
     ShowCreate(CreateDoes::ReMake, screen_);
-    screen_.cmdEnvelopes.enabled = screen_.cmdOP236.enabled = true;
+    screen_.cmdEnvelopes.enabled = screen_.cmdOP236.enabled = !screen_.testMode;
     ShowInfo({{" Edit fields and Re-Make/Save OR click 'RESET' to clear & start over", InfoColour::Blue}},
              screen_);
     machine_.LetRepaint();

@@ -35,7 +35,9 @@ MainScreen::MainScreen(std::filesystem::path programFolder, Machine machine)
                    {.isClosed = [this] { return clients_.IsOpen(); },
                     .settingsShown = [this] { return settings_.IsShown(); },
                     .openRow = [this](int row) { steps_.VisitRow(row); },
-                    .fieldChanged = [this](int n) { FieldChanged(n); }}) {
+                    .fieldChanged = [this](int n) { FieldChanged(n); },
+                    .offerDocuments = [this] { documents_.Offer(); },
+                    .startTestMode = [this] { StartTestMode(); }}) {
     const auto choices = [this](int n) {
         const std::string value = FieldDefault(FieldMarker(n), screen_, firm_.Context());
         return IsChoiceList(value) ? value : std::string();
@@ -108,6 +110,7 @@ void MainScreen::Click(std::string_view name) {
     if (name == "cmdTemplate") return Templates();
     if (name == "cmdSelect") return clients_.Open();
     if (name == "cmdPrintFList") return PrintFieldList();
+    if (name == "cmdCustom") return sideWindows_.OpenCustomForms();
     Require(name == "cmdExit", std::string(name) + " leads to a screen of its own");
     if (screen_.exitDoes == ExitDoes::Mail)
         return MailBuyersAttorney(screen_, firm_.Context(), machine_.shell);
@@ -149,6 +152,7 @@ void MainScreen::StartAnew() {
     fresh.job = std::move(screen_.job);
     fresh.job.Reset();
     fresh.List1 = std::move(screen_.List1);
+    fresh.testMode = screen_.testMode;
     screen_ = std::move(fresh);
     for (int n = 1; n <= kFields; ++n) screen_.job.SetField(n, "");
     ResetButtons(firm_.ServesClient(), screen_);
@@ -160,6 +164,19 @@ void MainScreen::StartAnew() {
     create_.Forget();
     sideWindows_.CloseAll();
     FocusName();
+    if (screen_.testMode) CloseForTest();
+}
+
+/// A job on which forms are tried out has no name, and no other job takes its place.
+void MainScreen::CloseForTest() {
+    screen_.txtJobName.locked = true;
+    screen_.cmdOpen.enabled = false;
+    screen_.picInfo = " CUSTOM FORMS TEST MODE (exit & restart normally when finished)";
+}
+
+void MainScreen::StartTestMode() {
+    screen_.testMode = true;
+    StartAnew();
 }
 
 void MainScreen::BeginFieldEntry() {

@@ -122,6 +122,11 @@ class MainScreen {
     void HandOver(CreditTo side) { sideWindows_.HandOver(side); }
     void CloseCalculator() { sideWindows_.CloseCalculator(); }
 
+    /// The side tool's window that `cmdCustom` and its like have opened; null when there is none. After each
+    /// act in it `WindowHasActed` does what follows.
+    SideWindow* Window() { return sideWindows_.Window(); }
+    void WindowHasActed() { sideWindows_.WindowHasActed(); }
+
     // Firm defaults, settings and clients.
     const std::vector<SettingsRow>& List3() const { return settings_.Rows(); }
     bool SettingsListShown() const { return settings_.IsShown(); }
@@ -144,6 +149,8 @@ class MainScreen {
     NameSurroundings AroundName();
     void ResetSession();
     void StartAnew();
+    void StartTestMode();
+    void CloseForTest();
     void BeginFieldEntry();
     void Edit();
     void End();

@@ -100,6 +100,7 @@ void NameCommands::Changed() {
         around_.reset();
         return around_.openBackup();
     }
+    if (screen_.testMode) return;
     if (screen_.mode == ScreenMode::Presets) {
         screen_.cmdOpen.enabled = !name.empty() && !name.starts_with('{');
         return;

@@ -2,7 +2,9 @@
 
 #include "entry/field_listing.h"
 #include "entry/smart_fields.h"
+#include "platform/fonts.h"
 #include "session/state/ready.h"
+#include "tools/custom_forms/custom_forms_window.h"
 
 namespace quillmark {
 
@@ -43,6 +45,27 @@ void SideWindows::HandOver(CreditTo side) {
     const std::string before = value();
     UpdateListing(n, amount, screen_, {.row = row});
     if (value() != before) around_.fieldChanged(n);
+}
+
+void SideWindows::OpenCustomForms() {
+    const MessageDialog box{" Confirm",
+                            "Leaving main program, entering Custom Forms Manager",
+                            {DialogButton::OK, DialogButton::Cancel},
+                            DialogButton::OK,
+                            DialogIcon::Question};
+    if (machine_.dialogs.Show(box) != DialogButton::OK) return;
+    window_ = std::make_unique<CustomFormsWindow>(CustomFormsOffice{firm_.folders().CustomFormsFolder,
+                                                                    machine_.dialogs, machine_.shell,
+                                                                    machine_.startWord, InstalledFonts()});
+}
+
+void SideWindows::WindowHasActed() {
+    if (!window_ || window_->IsOpen()) return;
+    const std::unique_ptr<SideWindow> closed = std::move(window_);
+    const auto* forms = dynamic_cast<const CustomFormsWindow*>(closed.get());
+    if (!forms) return;
+    around_.offerDocuments();
+    if (forms->LeftForTest()) around_.startTestMode();
 }
 
 void SideWindows::CloseAll() {

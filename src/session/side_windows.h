@@ -9,11 +9,13 @@
 #include "session/machine.h"
 #include "session/state/screen_state.h"
 #include "tools/addresses/address_editor.h"
+#include "tools/window/side_window.h"
 
 namespace quillmark {
 
-/// The windows beside the main screen: the screens of the address books and the proration calculator. They
-/// change the address books and, by handing an amount over, one row of the grid.
+/// The windows beside the main screen: the screens of the address books, the proration calculator, the side
+/// tools. They change the address books, the firm's own forms and, by handing an amount over, one row of the
+/// grid.
 class SideWindows {
  public:
     struct Surroundings {
@@ -21,6 +23,8 @@ class SideWindows {
         std::function<bool()> settingsShown;    ///< the settings list stands in the grid's place
         std::function<void(int)> openRow;       ///< field entry begins on a row of the grid
         std::function<void(int)> fieldChanged;  ///< this field has another value
+        std::function<void()> offerDocuments;   ///< the list of documents is read anew
+        std::function<void()> startTestMode;    ///< custom forms are tried out on an empty screen
     };
 
     /// The arguments must outlive the object.
@@ -37,6 +41,13 @@ class SideWindows {
     void HandOver(CreditTo side);
     void CloseCalculator() { calculator_.reset(); }
 
+    /// The custom forms manager, once the user has confirmed to leave the main screen for it.
+    void OpenCustomForms();
+    /// The side tool's window that keeps the main screen waiting; null when there is none.
+    SideWindow* Window() { return window_.get(); }
+    /// After an act in that window: when it has closed, what follows for the main screen.
+    void WindowHasActed();
+
     void CloseAll();
 
  private:
@@ -47,6 +58,7 @@ class SideWindows {
     Surroundings around_;
     std::unique_ptr<AddressEditor> addresses_;
     std::unique_ptr<ProrationCalculator> calculator_;
+    std::unique_ptr<SideWindow> window_;
 };
 
 }  // namespace quillmark

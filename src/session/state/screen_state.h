@@ -83,6 +83,7 @@ struct ScreenState : JobInHand {
     bool FieldEntryStarted = false;
     bool templateBeingSet = false;  ///< `cmdTemplate` has the colour 0xC0FFFF
     bool ended = false;             ///< the session is over
+    bool testMode = false;          ///< custom forms are tried out: nothing of the job is kept
     bool creating = false;          ///< a run of CREATE is under way
     bool browserOpen = false;       ///< the list of jobs or templates (tools/browser) stands before it
 

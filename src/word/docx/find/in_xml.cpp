@@ -98,6 +98,13 @@ class XmlParagraph {
     std::vector<Piece> pieces_;
 };
 
+std::vector<std::string> ParagraphsIn(std::string_view content) {
+    std::vector<std::string> texts;
+    const auto tree = ParseFragment(content);
+    ForParagraphs(*tree, [&](pugi::xml_node node) { texts.push_back(XmlParagraph(node).text()); });
+    return texts;
+}
+
 /// A quick look at what stands between the tags, before the XML is read.
 bool XmlFinder::MayHold(std::string_view content) const {
     std::string text;
@@ -148,13 +155,19 @@ int XmlFinder::Replace(std::string& content, bool all) const {
     return replaced;
 }
 
+bool XmlFinder::Counts(const PlainMatch& match, std::string_view text) const {
+    const bool isBehind = unless_.behind && match.begin > 0 && text[match.begin - 1] == unless_.behind;
+    const bool isBefore = unless_.before && match.end < text.size() && text[match.end] == unless_.before;
+    return !isBehind && !isBefore;
+}
+
 int XmlFinder::ReplaceIn(XmlParagraph& paragraph, bool all) const {
-    const std::string& text = paragraph.text();
+    const std::string text = paragraph.text();
     std::vector<PlainMatch> matches;
     for (auto match = FindPlain(text, 0, text.size(), pattern_); match;
-         match = FindPlain(text, matches.back().end, text.size(), pattern_)) {
-        matches.push_back(*match);
-        if (!all) break;
+         match = FindPlain(text, match->end, text.size(), pattern_)) {
+        if (Counts(*match, text)) matches.push_back(*match);
+        if (!all && !matches.empty()) break;
     }
     // From the last on, so that the places of those before stay.
     for (auto match = matches.rbegin(); match != matches.rend(); ++match)
