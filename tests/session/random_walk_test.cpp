@@ -11,6 +11,7 @@
 #include "selection/job_list.h"
 #include "session/office_fixture.h"
 #include "session/screen_text.h"
+#include "support/form_docx.h"
 
 namespace quillmark {
 namespace {
@@ -76,9 +77,10 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
                              FirmDefaultRecord("[seller atty]", "Ruth Hale/101; Sam Pike/202"));
         test::WriteBytes(scratch / "package.def",
                          "\"<02>SALE\"\r\n\"Deed / Warranty\"\r\n\"Closing Statement\"\r\n");
-        test::WriteBytes(scratch / "data/customforms/Rider.doc", "");
+        test::WriteBytes(scratch / "data/customforms/Rider.docx",
+                         FormDocx{Line("[sale price numeric] and [lot fee]")}.Bytes());
         test::WriteBytes(scratch / "data/customforms/Rider.inf",
-                         "\"[price]\",76,\"\"\r\n\"[lot fee]\",0,\"\"\r\n\"[pool]\",0,\"\"\r\n");
+                         "\"[sale price numeric]\",76,0\r\n\"[lot fee]\",0,0\r\n\"[pool]\",0,0\r\n");
     }
 
     std::size_t Below(std::size_t n) { return std::uniform_int_distribution<std::size_t>(0, n - 1)(random_); }
