@@ -78,7 +78,7 @@ class RandomWalk : public OfficeTest, public ::testing::WithParamInterface<unsig
         test::WriteBytes(scratch / "package.def",
                          "\"<02>SALE\"\r\n\"Deed / Warranty\"\r\n\"Closing Statement\"\r\n");
         test::WriteBytes(scratch / "data/customforms/Rider.docx",
-                         FormDocx{Line("[sale price numeric] and [lot fee]")}.Bytes());
+                         test::FormDocx{test::Line("[sale price numeric] and [lot fee]")}.Bytes());
         test::WriteBytes(scratch / "data/customforms/Rider.inf",
                          "\"[sale price numeric]\",76,0\r\n\"[lot fee]\",0,0\r\n\"[pool]\",0,0\r\n");
     }
