@@ -56,6 +56,23 @@ std::chrono::year_month_day Today(const std::string& text) {
     return *today;
 }
 
+/// Throws CLI::ValidationError for a list without a name.
+std::vector<std::string> DocumentNames(const std::string& option, const std::string& text) {
+    std::vector<std::string> names = Split(text, ';');
+    std::erase(names, "");
+    if (names.empty()) throw CLI::ValidationError(option, "names no document");
+    return names;
+}
+
+/// The date as the documents show it; one with blanks to fill by hand, "March __, 2026", stays as it is.
+/// Throws CLI::ValidationError for what is no date.
+std::string DocumentDate(const std::string& text) {
+    if (const auto date = IsoDate(text)) return LongDate(*date);
+    if (text.find('_') == text.npos && !ReadDate(text))
+        throw CLI::ValidationError("--document-date", text + " is no date");
+    return text;
+}
+
 /// The words of `make` as they were typed.
 struct MakeWords {
     std::vector<std::string> jobs;
@@ -65,8 +82,13 @@ struct MakeWords {
     std::string today;
     std::string answers;
     std::string trace;
+    std::string legal;
+    std::string documentDate;
     bool pdf = false;
     bool quiet = false;
+    bool check = false;
+    bool anyway = false;
+    bool force = false;
 };
 
 CLI::App* AddMake(CLI::App& app, MakeWords& words) {
@@ -85,7 +107,16 @@ CLI::App* AddMake(CLI::App& app, MakeWords& words) {
     make->add_option("--trace", words.trace, "Also write every word-processor operation to this file")
         ->type_name("FILE");
     make->add_flag("--pdf", words.pdf, "Also write NAME_QMF.pdf beside each document (needs LibreOffice)");
-    make->add_flag("--quiet", words.quiet, "Write nothing but errors");
+    make->add_flag("--quiet", words.quiet, "Write nothing but notices and errors");
+    make->add_flag("--check", words.check,
+                   "Make nothing: name open fields, doubtful values and unknown documents");
+    make->add_flag("--anyway", words.anyway,
+                   "Make jobs with open fields too; the documents show their markers");
+    make->add_flag("--force", words.force, "Replace documents that are there already");
+    make->add_option("--legal", words.legal, "Documents on legal paper")->type_name("\"A;B\"");
+    make->add_option("--document-date", words.documentDate,
+                     "The date of the documents, YYYY-MM-DD or as one types it (default: today)")
+        ->type_name("TEXT");
     return make;
 }
 
@@ -97,11 +128,12 @@ MakeOrder OrderOf(const MakeWords& words, const CLI::App& make) {
     order.out = PathOf(words.out);
     order.today = SystemClock().Today();
     if (make.count("--today")) order.today = Today(words.today);
-    if (make.count("--documents")) {
-        order.documents = Split(words.documents, ';');
-        std::erase(*order.documents, "");
-        if (order.documents->empty()) throw CLI::ValidationError("--documents", "names no document");
-    }
+    if (make.count("--documents")) order.documents = DocumentNames("--documents", words.documents);
+    if (make.count("--legal")) order.legal = DocumentNames("--legal", words.legal);
+    if (make.count("--document-date")) order.documentDate = DocumentDate(words.documentDate);
+    order.check = words.check;
+    order.anyway = words.anyway;
+    order.force = words.force;
     if (make.count("--answers"))
         for (std::string& answer : Split(words.answers, ',')) order.answers.emplace_back(std::move(answer));
     if (make.count("--trace")) order.trace = PathOf(words.trace);

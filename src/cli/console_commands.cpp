@@ -135,14 +135,14 @@ Json Create(ConsoleSession& session, const Request& request) {
     if (!to.empty() && to.extension() != ".docx" && !std::filesystem::is_directory(to))
         throw BadRequest("to is neither a .docx file nor an existing folder: " + TextOf(to));
     MainScreen& screen = session.screen();
-    screen.SetCreateTarget(to, PathArgument(request, "trace"));
+    screen.SetCreateTarget({.to = to, .trace = PathArgument(request, "trace")});
     try {
         screen.Click("cmdCreate");
     } catch (...) {
-        screen.SetCreateTarget({}, {});
+        screen.SetCreateTarget({});
         throw;
     }
-    screen.SetCreateTarget({}, {});
+    screen.SetCreateTarget({});
     if (!screen.LastDocument()) return nullptr;
     return {{"document", TextOf(*screen.LastDocument())}};
 }

@@ -2,17 +2,21 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+#include <memory>
 #include <ostream>
 #include <set>
 
-#include "cli/job_source.h"
-#include "core/settings.h"
+#include "cli/make_dialogs.h"
+#include "core/text_conversions.h"
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
 #include "production/pdf/pdf.h"
-#include "production/run/create.h"
 #include "production/run/create_checks.h"
-#include "selection/document_catalogue.h"
+#include "production/run/dispatch.h"
+#include "selection/relevant_fields.h"
+#include "session/job_check.h"
+#include "session/main_screen.h"
 #include "word/start.h"
 #include "word/trace.h"
 
@@ -46,13 +50,25 @@ class ProgressLine {
     bool written_ = false;
 };
 
+/// A screen that opens nothing.
+class NoShell final : public Shell {
+ public:
+    fs::path FolderOf(SpecialFolder) override { return {}; }
+    void Open(const std::string&) override {}
+    void Start(const fs::path&, const std::vector<std::string>&) override {}
+};
+
 class MakeRun {
  public:
     MakeRun(const MakeOrder& order, const Streams& streams)
         : order_(order),
           streams_(streams),
           clock_(order.today),
-          dialogs_(order.answers),
+          dialogs_(order.answers, order.anyway,
+                   [this](const std::string& notice) {
+                       // While a job loads, a value that is no date is told with the value instead.
+                       if (!loading_) Notify(job_.empty() ? notice : job_ + ": " + notice);
+                   }),
           progress_(streams, streams.errIsTerminal && !order.quiet) {}
 
     int Run() {
@@ -62,7 +78,8 @@ class MakeRun {
             Complain(failure.what());
             return kFailed;
         }
-        for (job_ = 0; job_ < order_.jobs.size(); ++job_) MakeOne(order_.jobs[job_]);
+        for (number_ = 0; number_ < order_.jobs.size(); ++number_) MakeOne(order_.jobs[number_]);
+        job_.clear();
         WriteTrace();
         return Summarise();
     }
@@ -71,78 +88,134 @@ class MakeRun {
     void Prepare() {
         if (!fs::is_directory(order_.folder))
             throw FileError(order_.folder, FileError::Kind::NotFound, "there is no such folder");
-        settings_ = ReadSettings(order_.folder);
-        folders_ = FoldersOf(fs::absolute(order_.folder), settings_);
-        defaults_ = ReadFirmDefaults(folders_.firmDefaultsFile);
+        screen_ = std::make_unique<MainScreen>(fs::absolute(order_.folder),
+                                               Machine{.clock = clock_,
+                                                       .dialogs = dialogs_,
+                                                       .shell = shell_,
+                                                       .startWord = [this] { return StartWord(); },
+                                                       .onProgress = [this] { ShowProgress(); }});
+        screen_->StartForBulk();
+        dialogs_.Flush();
+        if (order_.check) return;
         std::error_code error;
         fs::create_directories(order_.out, error);
         if (error) throw FileError(order_.out, error);
         if (order_.pdf) pdf_.emplace();
     }
 
-    void MakeOne(const std::string& word) {
-        progress_.Show(JobProgress(word));
+    void MakeOne(const std::string& job) {
+        job_ = job;
+        loading_ = false;
+        dialogs_.Forget();
+        progress_.Show(JobProgress());
         try {
-            Produce(FindJob(word, folders_), word);
-        } catch (const CreateError& failure) {
-            Fail(word, failure.Message() + ": " + failure.what());
+            screen_->Click("cmdReset");
+            Load();
+            order_.check ? Check() : Produce();
         } catch (const std::exception& failure) {
-            Fail(word, failure.what());
+            Fail(failure.what());
         }
+        dialogs_.Forget();
         progress_.Clear();
     }
 
-    void Produce(const JobSource& source, const std::string& word) {
-        Job job;
-        for (const std::string& refused : ReadJob(source, folders_, defaults_, job))
-            Complain(word + ": " + refused);
+    void Load() {
+        const JobSource source = FindJob(job_, screen_->FirmAround().folders);
+        loading_ = true;
+        screen_->LoadJobFrom(source);
+        dialogs_.Forget();
+        loading_ = false;
+        for (const std::string& notice : screen_->FileNotices()) Notify(job_ + ": " + notice);
+        if (order_.documents) screen_->ListDocuments(*order_.documents);
+        if (screen_->State().List2.empty())
+            throw std::runtime_error("the job lists no documents; --documents can name some");
+        const std::string today = FormatDate(order_.today, DateForm::LongTwoDigits);
+        screen_->DateDocuments(order_.documentDate.value_or(today));
+        if (!order_.legal.empty()) SelectLegal();
+    }
+
+    /// A document that this job does not have is not on legal paper.
+    void SelectLegal() {
+        std::vector<std::string> lines;
+        for (const JobListLine& line : screen_->State().List2)
+            if (std::ranges::find(order_.legal, line.name) != order_.legal.end()) lines.push_back(line.name);
+        screen_->SelectLegal(lines);
+    }
+
+    void Produce() {
+        for (const std::vector<std::string>& doubts : {screen_->Doubts(), DoubtfulValues(screen_->State())})
+            for (const std::string& doubt : doubts) Notify(job_ + ": " + doubt);
         const fs::path document =
-            (fs::absolute(order_.out) / PathOf(job.name + "_QMF.docx")).lexically_normal();
-        if (!written_.insert(document).second)
+            (fs::absolute(order_.out) / PathOf(screen_->State().job.name + "_QMF.docx")).lexically_normal();
+        if (order_.force && !written_.insert(document).second)
             throw std::runtime_error("another job of this run has the same name and has written " +
                                      TextOf(document));
-        CreateOrder order = CreateOrderFor(job, word);
-        KeepRelevantFields(order.DocumentNames, {settings_, folders_, defaults_, clock_}, job);
-        if (const auto obstacle = WhyNotCreate(job)) throw std::runtime_error(obstacle->text);
-        CreateRun run(job, std::move(order));
-        run.Run(TextOf(document));
-        run.session().WordApp.Quit();
-        Deliver(document);
+        screen_->SetCreateTarget({.to = document, .trace = {}, .replaces = order_.force, .keepsJob = false});
+        screen_->Click("cmdCreate");
+        if (!screen_->LastDocument()) return Fail(WhyLeft());
+        dialogs_.Flush();
+        TellOfGaps();
+        const fs::path made = *screen_->LastDocument();
+        Deliver(made);
         if (!pdf_) return;
-        progress_.Show(JobProgress(word) + ", PDF");
-        const fs::path pdf = fs::path(document).replace_extension(".pdf");
-        pdf_->Convert(document, pdf);
+        progress_.Show(JobProgress() + ", PDF");
+        const fs::path pdf = fs::path(made).replace_extension(".pdf");
+        pdf_->Convert(made, pdf);
         Deliver(pdf);
     }
 
-    CreateOrder CreateOrderFor(const Job& job, const std::string& word) {
-        CreateOrder order;
-        order.DocumentNames = order_.documents ? *order_.documents : DocumentsOf(job.JobDocuments);
-        if (order.DocumentNames.empty())
-            throw std::runtime_error("the job lists no documents; --documents can name some");
-        order.settings = settings_;
-        order.today = order_.today;
-        order.CustomFormsFolder = folders_.CustomFormsFolder;
-        order.dialogs = &dialogs_;
-        order.startWord = [this] { return StartWord(); };
-        order.onProgress = [this, word](const CreateProgress& progress) {
-            if (progress.document > 0 && progress.document <= progress.documents)
-                progress_.Show(fmt::format("{}, document {} of {}", JobProgress(word), progress.document,
-                                           progress.documents));
-        };
-        return order;
+    /// What kept the documents from being made: a box, and for open fields their names.
+    std::string WhyLeft() const {
+        if (dialogs_.Last() != kProceedAnyway) return dialogs_.Last();
+        return fmt::format("required fields are open: {}",
+                           fmt::join(OpenFieldsOf(screen_->State()).required, ", "));
+    }
+
+    void TellOfGaps() {
+        const CreateCommand& run = screen_->LastRun();
+        if (!run.EmptyDocuments().empty())
+            Complain(fmt::format("{}: no text yet for {}", job_, fmt::join(run.EmptyDocuments(), "; ")));
+        if (!run.Holes().empty())
+            Notify(fmt::format("{}: nothing fills {}", job_, fmt::join(run.Holes(), ", ")));
+    }
+
+    void Check() {
+        const ScreenState& state = screen_->State();
+        const OpenFields open = OpenFieldsOf(state);
+        std::vector<std::string> wrong;
+        for (const std::string& marker : open.required) wrong.push_back(marker + " is open");
+        for (const std::vector<std::string>& doubts : {screen_->Doubts(), DoubtfulValues(state)})
+            wrong.insert(wrong.end(), doubts.begin(), doubts.end());
+        if (const auto obstacle = WhyNotCreate(state.job)) wrong.push_back(obstacle->text);
+        const std::vector<std::string> unknown = UnknownDocuments(state);
+        for (const std::string& name : unknown) wrong.push_back("no document has the name \"" + name + "\"");
+        if (unknown.empty())
+            for (const std::string& hole : screen_->HolesToCome()) wrong.push_back("nothing fills " + hole);
+        for (const JobListLine& line : state.List2)
+            if (IsKnownDocument(line.name) && StaysEmpty(line.name))
+                Complain(fmt::format("{}: no text yet for {}", job_, line.name));
+        for (const std::string& marker : open.optional)
+            Complain(fmt::format("{}: {} is open (optional)", job_, marker));
+        for (const std::string& what : wrong) Complain(job_ + ": " + what);
+        if (!wrong.empty()) failed_.push_back(job_);
     }
 
     word::StartedWordProcessor StartWord() {
         auto started = word::StartWordProcessor(word::WordProcessor::Embedded);
-        if (order_.trace)
+        if (order_.trace && !order_.check)
             started.application = word::Trace(
                 started.application, [this](std::string_view line) { trace_.append(line).append("\n"); });
         return started;
     }
 
-    std::string JobProgress(const std::string& word) const {
-        return fmt::format("job {} of {} ({})", job_ + 1, order_.jobs.size(), word);
+    std::string JobProgress() const {
+        return fmt::format("job {} of {} ({})", number_ + 1, order_.jobs.size(), job_);
+    }
+
+    void ShowProgress() {
+        const ProgressBar& bar = screen_->State().progress;
+        if (bar.document > 0 && bar.document <= bar.documents)
+            progress_.Show(fmt::format("{}, document {} of {}", JobProgress(), bar.document, bar.documents));
     }
 
     void Deliver(const fs::path& file) {
@@ -150,11 +223,15 @@ class MakeRun {
         if (!order_.quiet) streams_.out << TextOf(file) << std::endl;
     }
 
-    void Fail(const std::string& word, const std::string& why) {
+    void Fail(const std::string& why) {
         // Errors about the file begin with it.
-        const bool named = why.starts_with(word + ":") || why.starts_with(word + ",");
-        Complain(named ? why : word + ": " + why);
-        failed_.push_back(word);
+        const bool named = why.starts_with(job_ + ":") || why.starts_with(job_ + ",");
+        Complain(named ? why : job_ + ": " + why);
+        failed_.push_back(job_);
+    }
+
+    void Notify(const std::string& what) {
+        if (!order_.quiet) Complain(what);
     }
 
     void Complain(const std::string& what) {
@@ -163,7 +240,7 @@ class MakeRun {
     }
 
     void WriteTrace() {
-        if (!order_.trace) return;
+        if (!order_.trace || order_.check) return;
         try {
             ReplaceFile(*order_.trace, trace_);
         } catch (const FileError& failure) {
@@ -182,16 +259,17 @@ class MakeRun {
     const MakeOrder& order_;
     Streams streams_;
     FixedClock clock_;
-    ScriptedDialogs dialogs_;
+    NoShell shell_;
+    MakeDialogs dialogs_;
     ProgressLine progress_;
-    Settings settings_;
-    Folders folders_;
-    FirmDefaults defaults_;
+    std::unique_ptr<MainScreen> screen_;
     std::optional<PdfConverter> pdf_;
-    std::size_t job_ = 0;
+    std::size_t number_ = 0;
+    std::string job_;  ///< in hand, as it was named; empty for none
     std::set<fs::path> written_;
     std::string trace_;
     bool traceFailed_ = false;
+    bool loading_ = false;
     std::vector<std::string> failed_;
 };
 

@@ -76,6 +76,7 @@ void Job::SetField(int n, std::string_view text) {
     FieldHolder& holder = txtField(n);
     if (holder.text == text && (n == 0 || D(n) == text)) return;
     holder.text = text;
+    holder.forShow = false;
     RunChangeRule(n);
 }
 

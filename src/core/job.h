@@ -46,7 +46,8 @@ struct FieldHolder {
     bool locked = false;
     FieldColour colour = FieldColour::Unfilled;
     std::string tag;
-    int top = 1;  ///< 0: silently filled from a firm default, takes no row and is not saved
+    int top = 1;           ///< 0: silently filled from a firm default, takes no row and is not saved
+    bool forShow = false;  ///< filled from the firm's details though nothing asks for it; not saved
 };
 
 /// The most user-defined fields that one job keeps.

@@ -7,6 +7,7 @@
 #include <map>
 
 #include "core/fields.h"
+#include "core/options.h"
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
 #include "platform/file_names.h"
@@ -36,7 +37,8 @@ bool HasMarker(int n) {
 }
 
 bool IsSaved(const Job& job, int n) {
-    return HasMarker(n) && job.IsFilled(n) && job.txtField(n).top != 0;
+    const FieldHolder& holder = job.txtField(n);
+    return HasMarker(n) && job.IsFilled(n) && holder.top != 0 && !holder.forShow;
 }
 
 /// The number that the text is as a whole; -1 if it is none.
@@ -50,13 +52,19 @@ void ReadOption(const RecordReader& reader, std::string_view key, JobFileContent
     const int n = key.size() == 3 ? WholeNumber(key.substr(1)) : -1;
     if (n < 1) reader.Fail(fmt::format("\"{}\" is no option, they run from C01 to C15", key));
     const bool on = reader.Boolean(1);
-    if (n <= kOptions) contents.options[static_cast<std::size_t>(n)] = on;
+    if (n <= kOptions)
+        contents.options[static_cast<std::size_t>(n)] = on;
+    else if (contents.newerOption == 0)
+        contents.newerOption = n;
 }
 
 void ReadField(const RecordReader& reader, const std::string& key, JobFileContents& contents) {
     const int n = key.size() <= 3 ? WholeNumber(key) : -1;
     const std::string& value = reader.Text(1);
-    if (n < 1 || n > kFields) reader.Fail(fmt::format("\"{}\" is no field, they run from 002 to 240", key));
+    if (n > kFields)
+        reader.Fail(
+            fmt::format("there is no field {} yet: the job was saved by a newer version of Quillmark", n));
+    if (n < 1) reader.Fail(fmt::format("\"{}\" is no field, they run from 002 to 240", key));
     if (n == field::Retired) return;
     if (!HasMarker(n)) reader.Fail(fmt::format("field {} (\"{}\") is not known to this version", n, value));
     contents.fields.emplace_back(n, value);
@@ -85,7 +93,21 @@ void ReadRecord(const RecordReader& reader, JobFileContents& contents) {
     }
 }
 
-/// Of the options of a group one at most is set, and the last one wins.
+/// Of the options of a group one at most is set.
+void RequireAgreement(const std::string& file, const JobFileContents& contents) {
+    for (const auto& group : kOptionGroups) {
+        int chosen = 0;
+        for (const int n : group) {
+            if (n == 0 || !contents.options[static_cast<std::size_t>(n)].value_or(false)) continue;
+            if (chosen != 0)
+                throw JobFileError(fmt::format("{}: the options \"{}\" and \"{}\" contradict each other",
+                                               file, OptionCaption(chosen), OptionCaption(n)));
+            chosen = n;
+        }
+    }
+}
+
+/// An option that is set takes the place of another of its group.
 void ApplyOption(Job& job, int n, bool on) {
     for (const auto& group : kOptionGroups) {
         if (!on || std::find(group.begin(), group.end(), n) == group.end()) continue;
@@ -133,6 +155,23 @@ void CheckName(std::string_view name) {
     const std::string fault = FaultOfFileName(std::string(name) + ".dat");
     if (!fault.empty())
         throw JobFileError(fmt::format("\"{}\" is no name for a job: its file's name {}", name, fault));
+}
+
+/// The records of a file that some other program has written as UTF-8; nothing for windows-1252. Text in that
+/// code page beyond ASCII is practically never UTF-8, too.
+std::optional<std::string> RecordsOfUtf8(const std::string& file, std::string_view bytes) {
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    const bool marked = bytes.starts_with(kMark);
+    if (marked) bytes.remove_prefix(kMark.size());
+    const bool ascii = std::all_of(bytes.begin(), bytes.end(), [](unsigned char c) { return c < 0x80; });
+    if (!marked && ascii) return std::nullopt;
+    if (!IsUtf8(bytes)) return std::nullopt;
+    try {
+        return ToWindows1252(bytes);
+    } catch (const UnencodableError& error) {
+        throw JobFileError(
+            fmt::format("{} is UTF-8 text and holds {}, which no job file can keep", file, error.where.name));
+    }
 }
 
 fs::path PicturePath(const Folders& folders, std::string_view name, int n) {
@@ -202,8 +241,16 @@ fs::path JobFilePath(const Folders& folders, std::string_view name) {
 
 JobFileContents JobFileContentsOf(const std::string& file, std::string_view bytes) {
     JobFileContents contents;
-    RecordReader reader(file, bytes);
+    const std::optional<std::string> fromUtf8 = RecordsOfUtf8(file, bytes);
+    RecordReader reader(file, fromUtf8 ? *fromUtf8 : bytes);
     while (reader.Next()) ReadRecord(reader, contents);
+    RequireAgreement(file, contents);
+    if (fromUtf8)
+        contents.notices.push_back(file + " is UTF-8 text and was read as such; job files are windows-1252.");
+    if (contents.newerOption != 0)
+        contents.notices.push_back(fmt::format(
+            "{} was saved by a newer version of Quillmark: option C{} is not known here and is left out.",
+            file, contents.newerOption));
     return contents;
 }
 
@@ -237,10 +284,10 @@ void ApplyJobFile(const JobFileContents& contents, Job& job, bool asTemplate) {
     }
 }
 
-std::string ReadJobFile(const Folders& folders, const fs::path& file, Job& job, bool asTemplate) {
+JobFileRead ReadJobFile(const Folders& folders, const fs::path& file, Job& job, bool asTemplate) {
     const std::string fileName = TextOf(file.filename());
-    std::string bytes = ReadFile(file, kJobFileLimit);
-    const JobFileContents contents = JobFileContentsOf(fileName, bytes);
+    JobFileRead read{ReadFile(file, kJobFileLimit), {}};
+    JobFileContents contents = JobFileContentsOf(fileName, read.bytes);
     std::map<int, std::string> pictures;
     for (const auto& [n, value] : contents.fields) {
         if (value != kImageLiteral) continue;
@@ -249,7 +296,8 @@ std::string ReadJobFile(const Folders& folders, const fs::path& file, Job& job, 
     }
     ApplyJobFile(contents, job, asTemplate);
     for (auto& [n, picture] : pictures) job.FieldPictures[static_cast<std::size_t>(n)] = std::move(picture);
-    return bytes;
+    read.notices = std::move(contents.notices);
+    return read;
 }
 
 void SaveJobFiles(const Folders& folders, const Job& job) {

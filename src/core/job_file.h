@@ -39,13 +39,16 @@ struct JobFileContents {
     std::array<std::optional<bool>, kOptions + 1> options;  ///< by number; none where the file has no record
     std::vector<std::pair<int, std::string>> fields;        ///< in the order of the file
     std::vector<std::pair<std::string, std::string>> userFields;  ///< marker and value
+    int newerOption = 0;               ///< the first option above 15, which a later version writes
+    std::vector<std::string> notices;  ///< what the user should know about the file
 };
 
 inline constexpr std::size_t kJobFileLimit = 16 * 1024 * 1024;  ///< bytes of the largest job file
 
 /// The content of a job file's bytes. Throws RecordError with the record's number, key and what is wrong
-/// (`file` is its name for the message). Options above 15, which a later version may write, are passed over,
-/// and so is the retired field 172.
+/// (`file` is its name for the message), JobFileError for options of one group that are both set and for
+/// UTF-8 text that the code page lacks. Options above 15 are passed over with a notice, the retired field 172
+/// without one; a field above 240 makes the file one of a newer version, which is refused.
 JobFileContents JobFileContentsOf(const std::string& file, std::string_view bytes);
 
 /// The bytes of the job's file. `D(1)`, fields without a value and fields filled from a single firm default
@@ -57,10 +60,15 @@ std::string JobFileRecords(const Job& job);
 /// hold so many user-defined values.
 void ApplyJobFile(const JobFileContents& contents, Job& job, bool asTemplate);
 
+struct JobFileRead {
+    std::string bytes;                 ///< of the file
+    std::vector<std::string> notices;  ///< what the user should know about it
+};
+
 /// Reads a job file, wherever it stands, and the pictures of its name in `ImagesFolder` into the job. Throws
 /// FileError, RecordError and JobFileError, all before anything in the job is changed. The job's own name is
-/// left to the caller. Gives the file's bytes.
-std::string ReadJobFile(const Folders& folders, const std::filesystem::path& file, Job& job, bool asTemplate);
+/// left to the caller.
+JobFileRead ReadJobFile(const Folders& folders, const std::filesystem::path& file, Job& job, bool asTemplate);
 
 /// Writes the job's file and pictures under the job's name, and removes pictures that it no longer has. The
 /// file is written after its pictures and before any is removed. Throws FileError and JobFileError.

@@ -83,7 +83,7 @@ std::array<FieldRule, kFields + 1> CollectRules() {
 }  // namespace
 
 BadFieldInput::BadFieldInput(int field, const std::string& value)
-    : std::runtime_error(std::string(FieldMarker(field)) + ": \"" + value + "\" is not a date"),
+    : std::runtime_error(std::string(FieldMarker(field)) + " holds \"" + value + "\", which is not a date"),
       field_(field) {}
 
 void OnFieldChanged(Job& job, int n) {

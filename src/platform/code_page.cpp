@@ -106,6 +106,15 @@ char32_t Capital(char32_t c) {
 UnencodableError::UnencodableError(Unencodable w)
     : std::runtime_error(w.name + " cannot be kept in a data file"), where(std::move(w)) {}
 
+bool IsUtf8(std::string_view bytes) {
+    for (std::size_t offset = 0; offset < bytes.size();) {
+        const Decoded decoded = Decode(bytes.substr(offset));
+        if (decoded.length == 0) return false;
+        offset += decoded.length;
+    }
+    return true;
+}
+
 std::optional<Unencodable> FirstUnencodable(std::string_view utf8) {
     std::string bytes;
     return Encode(utf8, bytes);

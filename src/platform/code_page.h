@@ -27,6 +27,9 @@ class UnencodableError : public std::runtime_error {
     const Unencodable where;
 };
 
+/// Whether the bytes are UTF-8 text. ASCII is.
+bool IsUtf8(std::string_view bytes);
+
 /// The first character of the text that windows-1252 lacks, or the first byte that is no UTF-8.
 std::optional<Unencodable> FirstUnencodable(std::string_view utf8);
 

@@ -4,9 +4,9 @@
 #include <optional>
 
 #include "core/fields.h"
+#include "core/options.h"
 #include "selection/accompanying_documents.h"
 #include "selection/job_list_lines.h"
-#include "selection/options.h"
 #include "selection/packages.h"
 
 namespace quillmark {

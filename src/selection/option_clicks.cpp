@@ -5,10 +5,10 @@
 #include <optional>
 
 #include "core/fields.h"
+#include "core/options.h"
 #include "selection/accompanying_documents.h"
 #include "selection/document_catalogue.h"
 #include "selection/job_list_lines.h"
-#include "selection/options.h"
 
 namespace quillmark {
 

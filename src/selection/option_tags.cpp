@@ -112,7 +112,6 @@ void DrawOptionTags(GridRow& row, const JobInHand& hand) {
     const TagFamily family = TagFamilyOf(row.n);
     if (family == TagFamily::None) return;
     if (family == TagFamily::Payoff && !PayoffShowsNotes(row.value, hand)) return;
-    if (family == TagFamily::Sewer && row.value == "POC") return;
     for (const Captions& captions : kCaptions) {
         if (captions.family == family)
             row.notes = {std::string(captions.first), std::string(captions.second)};

@@ -164,17 +164,18 @@ void StartWithFirstChoices(JobInHand& hand, const FirmContext& firm) {
     for (int n = field::SellerLawfirm; n <= field::SellerAttyFax; ++n) {
         if (hand.job.IsFilled(n)) continue;
         hand.job.SetField(n, FirstChoice(FieldDefault(FieldMarker(n), hand, firm)));
+        FieldHolder& holder = hand.job.txtField(n);
+        holder.forShow = !holder.relevant && holder.top != 0;
     }
 }
 
-/// The choice that took documents off the list must be there to bring them back.
+/// What the documents enable that a choice took off the list: the choice must be there to bring them back.
 OptionSet WaysBack(const JobInHand& hand) {
     OptionSet options;
-    const auto add = [&](std::initializer_list<Option> ways) {
-        for (const Option n : ways) options.set(n);
-    };
-    if (!hand.ParkedDocuments[0].empty()) add({Person, Entity, Condo, Commercial});
-    if (!hand.ParkedDocuments[1].empty()) add({OnePayoff, TwoPayoffs});
+    for (const auto& parked : hand.ParkedDocuments)
+        for (const std::string& document : parked)
+            if (const DocumentFields* row = FieldsOfDocument(document))
+                for (const int option : row->options) options.set(static_cast<std::size_t>(option));
     return options;
 }
 
@@ -200,6 +201,18 @@ std::string_view CustomDocumentName(std::string_view entry) {
 
 void AddFields(std::span<const int> fields, JobInHand& hand, const FirmContext& firm) {
     for (const int n : fields) AddField(n, hand, firm);
+}
+
+OpenFields OpenFieldsOf(const JobInHand& hand) {
+    OpenFields open;
+    for (int n = 1; n <= kFields; ++n) {
+        const FieldHolder& holder = hand.job.txtField(n);
+        if (!holder.relevant || holder.text != FieldMarker(n)) continue;
+        (IsOptionalField(n, hand.job) ? open.optional : open.required).emplace_back(FieldMarker(n));
+    }
+    for (const GridRow& row : hand.grid)
+        if (row.kind == RowKind::User && row.value.empty()) open.required.push_back(row.label);
+    return open;
 }
 
 void CountFields(JobInHand& hand) {

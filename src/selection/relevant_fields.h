@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
+#include "core/options.h"
 #include "selection/firm_context.h"
 #include "selection/job_in_hand.h"
-#include "selection/options.h"
 
 /// Which fields a job needs: worked out from the job list and the options, and listed in the grid.
 namespace quillmark {
@@ -38,6 +38,13 @@ void AddFields(std::span<const int> fields, JobInHand& hand, const FirmContext& 
 /// Rebuilds the relevant fields, the grid and the counts. Gives the options that make sense. Throws as
 /// `NeedsOf`.
 OptionSet RefreshFields(JobInHand& hand, const FirmContext& firm);
+
+/// Markers of what is still to be filled, in the order of the fields, user-defined rows last.
+struct OpenFields {
+    std::vector<std::string> required;
+    std::vector<std::string> optional;
+};
+OpenFields OpenFieldsOf(const JobInHand& hand);
 
 /// Counts what is relevant and what is still to be filled, in all and by group.
 void CountFields(JobInHand& hand);

@@ -20,6 +20,7 @@ void ClientChoice::Open() {
 void ClientChoice::Serve(const std::string& name) {
     open_ = false;
     firm_.Serve(name);
+    firm_.MakeFolders();
     around_.startAnew();
 }
 

@@ -1,5 +1,7 @@
 #include "session/create_command.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 
 #include "core/fields.h"
@@ -7,7 +9,9 @@
 #include "platform/paths.h"
 #include "production/run/create_checks.h"
 #include "production/run/create_notices.h"
+#include "production/run/dispatch.h"
 #include "selection/relevant_fields.h"
+#include "session/holes.h"
 #include "session/state/buttons.h"
 #include "session/state/info_bar.h"
 #include "session/state/ready.h"
@@ -19,17 +23,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The document's date does not count: no job file holds it, and an undated job is dated on the day it is
-/// made.
-bool RequiredFieldsAreDone(const ScreenState& screen) {
-    for (int n = field::DocumentDate + 1; n <= kFields; ++n) {
-        const FieldHolder& holder = screen.job.txtField(n);
-        if (holder.relevant && holder.text == FieldMarker(n) && !IsOptionalField(n, screen.job)) return false;
-    }
-    return std::none_of(screen.grid.begin(), screen.grid.end(),
-                        [](const GridRow& row) { return row.kind == RowKind::User && row.value.empty(); });
-}
-
 /// A name beside documents that the user may have changed.
 fs::path FreeName(const fs::path& wanted) {
     fs::path free = wanted;
@@ -38,17 +31,18 @@ fs::path FreeName(const fs::path& wanted) {
     return free;
 }
 
-fs::path DocumentPath(const fs::path& target, const std::string& name, Shell& shell) {
-    if (target.extension() == ".docx") return target;
-    const fs::path folder = target.empty() ? shell.FolderOf(SpecialFolder::Documents) : target;
+fs::path DocumentPath(const CreateTarget& target, const std::string& name, Shell& shell) {
+    const auto unused = [&](const fs::path& wanted) { return target.replaces ? wanted : FreeName(wanted); };
+    if (target.to.extension() == ".docx") return unused(target.to);
+    const fs::path folder = target.to.empty() ? shell.FolderOf(SpecialFolder::Documents) : target.to;
     std::error_code error;
     fs::create_directories(folder, error);
     if (error) throw FileError(folder, error);
-    return FreeName(folder / PathOf((name.empty() ? "Untitled" : name) + "_QMF.docx"));
+    return unused(folder / PathOf((name.empty() ? "Untitled" : name) + "_QMF.docx"));
 }
 
 void ShowProgress(const CreateProgress& progress, ScreenState& screen) {
-    screen.progress = {true, progress.value, progress.maximum};
+    screen.progress = {true, progress.value, progress.maximum, progress.document, progress.documents};
     if (progress.document > progress.documents) screen.message = " Finalizing Job Please Wait";
 }
 
@@ -56,6 +50,19 @@ void EndWaiting(ScreenState& screen) {
     screen.waiting = false;
     screen.progress = {};
     screen.message.clear();
+}
+
+/// Read behind the trace's back, which holds what makes the document.
+std::string TextOfDocument(CreateRun& run) {
+    return word::Document(word::Untraced(run.session().WordDoc.Reach())).Content.Text;
+}
+
+/// What the guidance bar adds where the document is not whole; empty where it is.
+std::string Gaps(const std::vector<std::string>& holes, const std::vector<std::string>& documents) {
+    std::string text;
+    if (!documents.empty()) text += fmt::format(".  No text yet for:  {}", fmt::join(documents, "; "));
+    if (!holes.empty()) text += fmt::format(".  Nothing fills:  {}", fmt::join(holes, ", "));
+    return text;
 }
 
 /// One line, as the guidance bar has no more.
@@ -72,15 +79,12 @@ std::string InOneLine(std::string_view text) {
 
 }  // namespace
 
-void CreateCommand::SetTarget(fs::path to, fs::path trace) {
-    to_ = std::move(to);
-    trace_ = std::move(trace);
-}
-
 void CreateCommand::Run() {
     RequireReady(screen_);
     Require(!screen_.List2.empty(), "the job list is empty");
     lastDocument_.reset();
+    holes_.clear();
+    emptyDocuments_.clear();
     screen_.creating = true;
     try {
         EndFormerRun();
@@ -108,17 +112,15 @@ void CreateCommand::EndFormerRun() {
 }
 
 bool CreateCommand::MayCreate() {
-    if (screen_.createDoes != CreateDoes::ReMake && !RequiredFieldsAreDone(screen_) &&
-        !machine_.dialogs.Confirm("  ALERT",
-                                  "You have not completed all the required fields.\nProceed anyway ???",
-                                  DialogButton::No))
+    if (screen_.createDoes != CreateDoes::ReMake && !OpenFieldsOf(screen_).required.empty() &&
+        !machine_.dialogs.Confirm("  ALERT", std::string(kProceedAnyway), DialogButton::No))
         return false;
     if (const auto obstacle = WhyNotCreate(screen_.job)) {
         machine_.dialogs.Show(*obstacle);
         return false;
     }
     screen_.cmdOpen.enabled = false;
-    return files_.MayOverwrite();
+    return !target_.keepsJob || files_.MayOverwrite();
 }
 
 CreateOrder CreateCommand::OrderOfRun(const std::shared_ptr<std::string>& trace) {
@@ -133,7 +135,7 @@ CreateOrder CreateCommand::OrderOfRun(const std::shared_ptr<std::string>& trace)
     // The word processor outlives this run, and so must the trace that it writes to.
     order.startWord = [this, trace] {
         word::StartedWordProcessor started = machine_.startWord();
-        if (!trace_.empty())
+        if (trace && !target_.trace.empty())
             started.application = word::Trace(
                 started.application, [trace](std::string_view line) { trace->append(line).append("\n"); });
         return started;
@@ -152,12 +154,13 @@ void CreateCommand::MakeDocuments() {
     auto run = std::make_unique<CreateRun>(screen_.job, OrderOfRun(trace));
     screen_.waiting = true;
     run->Produce();
-    const std::string notFed = screen_.testMode ? std::string() : files_.FeedBooks();
+    const std::string notFed = target_.keepsJob && !screen_.testMode ? files_.FeedBooks() : std::string();
     run->PutValuesBack();
+    LookForGaps(*run);
     fs::path document;
     run->Attempt([&] {
         document = SaveDocument(*run);
-        if (box.IsSaveable()) KeepMadeJob();
+        if (box.IsSaveable() && target_.keepsJob) KeepMadeJob();
         ShowNotices(run->CreateNotices());
         files_.TellOfBooks(notFed);
         run->RestoreCheckers();
@@ -165,9 +168,9 @@ void CreateCommand::MakeDocuments() {
     });
     run->Show();
     run->Attempt([&] {
-        if (!trace_.empty()) ReplaceFile(trace_, *trace);
+        if (!target_.trace.empty()) ReplaceFile(target_.trace, *trace);
     });
-    const bool opens = run->IsEmbedded() && to_.empty();
+    const bool opens = run->IsEmbedded() && target_.to.empty();
     run_ = std::move(run);
     lastDocument_ = document;
     if (opens) OpenDocument(document);
@@ -176,9 +179,10 @@ void CreateCommand::MakeDocuments() {
 /// The file that the document is in now; empty while the word processor alone has it.
 fs::path CreateCommand::SaveDocument(CreateRun& run) {
     const std::string& name = screen_.job.name;
-    const bool keeps = run.IsEmbedded() || !to_.empty() || (firm_.settings().wordAutoSave && !name.empty());
+    const bool keeps =
+        run.IsEmbedded() || !target_.to.empty() || (firm_.settings().wordAutoSave && !name.empty());
     if (!keeps) return {};
-    fs::path file = DocumentPath(to_, name, machine_.shell);
+    fs::path file = DocumentPath(target_, name, machine_.shell);
     try {
         run.session().WordDoc.SaveAs(TextOf(file));
     } catch (const word::AutomationError& failure) {
@@ -220,7 +224,8 @@ void CreateCommand::ShowAsMade() {
     EndWaiting(screen_);
     ShowCreate(CreateDoes::ReMake, screen_);
     screen_.cmdEnvelopes.enabled = screen_.cmdOP236.enabled = !screen_.testMode;
-    ShowInfo({{" Edit fields and Re-Make/Save OR click 'RESET' to clear & start over", InfoColour::Blue}},
+    ShowInfo({{" Edit fields and Re-Make/Save OR click 'RESET' to clear & start over", InfoColour::Blue},
+              {Gaps(holes_, emptyDocuments_), InfoColour::Red}},
              screen_);
     machine_.LetRepaint();
 }
@@ -251,6 +256,27 @@ void CreateCommand::EndFailedRun(const CreateError& failure) {
     }
     showError();
     machine_.LetRepaint();
+}
+
+void CreateCommand::LookForGaps(CreateRun& run) {
+    run.Attempt([&] { holes_ = MarkersNobodyAsksFor(TextOfDocument(run), screen_); });
+    for (const JobListLine& line : screen_.List2)
+        if (StaysEmpty(line.name)) emptyDocuments_.push_back(line.name);
+}
+
+std::vector<std::string> CreateCommand::HolesToCome() {
+    Job job = screen_.job;
+    CreateOrder order = OrderOfRun(nullptr);
+    order.dialogs = nullptr;
+    order.onProgress = {};
+    CreateRun run(job, std::move(order));
+    run.Produce();
+    std::vector<std::string> holes;
+    run.Attempt([&] {
+        holes = MarkersNobodyAsksFor(TextOfDocument(run), screen_);
+        run.session().WordApp.Quit();
+    });
+    return holes;
 }
 
 void CreateCommand::QuitWord() {

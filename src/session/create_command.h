@@ -5,6 +5,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "production/run/create.h"
 #include "session/firm.h"
@@ -13,6 +15,18 @@
 #include "session/state/screen_state.h"
 
 namespace quillmark {
+
+/// Where a run puts what it makes.
+struct CreateTarget {
+    std::filesystem::path to = {};  ///< a .docx path or an existing folder; empty for the person's documents
+    std::filesystem::path trace = {};  ///< of every word-processor operation; empty for none
+    bool replaces = false;             ///< a document that is there already; otherwise one of another name
+    bool keepsJob = true;              ///< the job's file is written and the address books are fed
+};
+
+/// The question of a run whose job is not complete.
+inline constexpr std::string_view kProceedAnyway =
+    "You have not completed all the required fields.\nProceed anyway ???";
 
 /// CREATE and Re-Make: the checks before a run, the run, the file of the document, the notices. It changes
 /// what shows that documents are being made or have been, and by way of JobFiles the job's file.
@@ -26,11 +40,19 @@ class CreateCommand {
     /// Throws CreateError for a run that fails; the user has been told by then.
     void Run();
 
-    /// Where the next run puts its document (a .docx path or an existing folder) and its trace.
-    void SetTarget(std::filesystem::path to, std::filesystem::path trace);
+    /// For the runs from now on.
+    void SetTarget(CreateTarget target) { target_ = std::move(target); }
     /// The document that the last run made; nothing when it left early, the empty path while the word
     /// processor alone has it.
     const std::optional<std::filesystem::path>& LastDocument() const { return lastDocument_; }
+
+    /// Markers that stand in the document of the last run though no row of the grid asks for them, and the
+    /// entries of its job list that have no text yet.
+    const std::vector<std::string>& Holes() const { return holes_; }
+    const std::vector<std::string>& EmptyDocuments() const { return emptyDocuments_; }
+    /// The markers that would stand so in the documents as a run would make them now; nothing is kept of it.
+    /// Throws CreateError.
+    std::vector<std::string> HolesToCome();
 
     /// Ends the word processor of the last run. The user's own closing of it is no fault here.
     void QuitWord();
@@ -38,6 +60,7 @@ class CreateCommand {
 
  private:
     void EndFormerRun();
+    void LookForGaps(CreateRun& run);
     bool MayCreate();
     CreateOrder OrderOfRun(const std::shared_ptr<std::string>& trace);
     void MakeDocuments();
@@ -54,9 +77,10 @@ class CreateCommand {
     Machine& machine_;
     std::function<void()> reset_;
     std::unique_ptr<CreateRun> run_;
-    std::filesystem::path to_;
-    std::filesystem::path trace_;
+    CreateTarget target_;
     std::optional<std::filesystem::path> lastDocument_;
+    std::vector<std::string> holes_;
+    std::vector<std::string> emptyDocuments_;
 };
 
 }  // namespace quillmark

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "core/options.h"
 #include "platform/atomic_file.h"
 #include "selection/job_list.h"
 #include "selection/job_list_lines.h"
 #include "selection/option_clicks.h"
-#include "selection/options.h"
 #include "selection/packages.h"
 #include "session/grid/refresh.h"
 #include "session/state/buttons.h"

@@ -105,8 +105,11 @@ bool Firm::DataIsNewer() const {
 void Firm::Serve(std::string_view client) {
     client_ = client;
     folders_ = FoldersOf(programFolder_, ReachableSettings(), client);
-    fs::create_directories(folders_.ImagesFolder);
     defaults_ = ReadFirmDefaults(folders_.firmDefaultsFile);
+}
+
+void Firm::MakeFolders() const {
+    fs::create_directories(folders_.ImagesFolder);
 }
 
 AddressBooks Firm::Books() const {

@@ -29,6 +29,8 @@ class Firm {
     /// Takes the folders and defaults of a client, of the firm itself for the empty text. Throws FileError
     /// and RecordError.
     void Serve(std::string_view client);
+    /// Makes those that are missing.
+    void MakeFolders() const;
 
     const FirmContext& Context() const { return context_; }
     const std::filesystem::path& ProgramFolder() const { return programFolder_; }

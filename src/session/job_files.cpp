@@ -159,7 +159,8 @@ void JobFiles::Load(std::string_view name, bool asTemplate) {
     if (name == kNewTemplateEntry) {
         screen_.txtJobName.text.clear();
         screen_.browserOpen = false;
-        return Refresh(screen_, firm_.Context(), editor_);
+        Refresh(screen_, firm_.Context(), editor_);
+        return nameBox_.Focus();
     }
     const JobSource source = JobInFolder(name, firm_.folders());
     if (!fs::exists(source.file)) {
@@ -172,14 +173,18 @@ void JobFiles::Load(std::string_view name, bool asTemplate) {
 void JobFiles::LoadFrom(const JobSource& source, bool asTemplate) {
     Job& job = screen_.job;
     const std::string former = std::exchange(job.name, source.name);
+    JobFileRead read;
+    doubts_.clear();
     try {
         Folders folders = firm_.folders();
         folders.ImagesFolder = source.ImagesFolder;
-        knownFile_ = RetriedWhileInUse([&] { return ReadJobFile(folders, source.file, job, asTemplate); });
+        read = RetriedWhileInUse([&] { return ReadJobFile(folders, source.file, job, asTemplate); });
     } catch (...) {
         job.name = former;
         throw;
     }
+    knownFile_ = std::move(read.bytes);
+    notices_ = std::move(read.notices);
     NameBox& box = screen_.txtJobName;
     box.locked = true;
     screen_.browserOpen = false;
@@ -188,7 +193,7 @@ void JobFiles::LoadFrom(const JobSource& source, bool asTemplate) {
         box.text = source.name;
         Refresh(screen_, firm_.Context(), editor_);
         screen_.currentRow = screen_.grid.empty() ? -1 : 0;
-        return;
+        return TellOfFile();
     }
     FillList2FromHistory();
     if (box.text.empty()) {
@@ -198,6 +203,12 @@ void JobFiles::LoadFrom(const JobSource& source, bool asTemplate) {
     Refresh(screen_, firm_.Context(), editor_);
     screen_.cmdCreate.enabled = !screen_.List2.empty();
     nameBox_.ShowGuidance();
+    TellOfFile();
+}
+
+void JobFiles::TellOfFile() {
+    for (const std::string& notice : notices_)
+        machine_.dialogs.Tell("  ALERT", notice, DialogIcon::Information);
 }
 
 void JobFiles::ShowAsOpened() {

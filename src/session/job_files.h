@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "session/firm.h"
 #include "session/grid/grid_editor.h"
@@ -58,7 +59,16 @@ class JobFiles {
     std::string FeedBooks() const;
     void TellOfBooks(const std::string& notFed);
 
-    void Forget() { knownFile_.clear(); }
+    void Forget() {
+        knownFile_.clear();
+        doubts_.clear();
+    }
+
+    /// What a value of the job's file could not be taken for, since it was loaded; the fields are unfilled.
+    const std::vector<std::string>& Doubts() const { return doubts_; }
+    /// What the user was told about the file itself.
+    const std::vector<std::string>& Notices() const { return notices_; }
+    void NoteDoubt(std::string doubt) { doubts_.push_back(std::move(doubt)); }
 
  private:
     bool Exists(std::string_view name) const;
@@ -67,6 +77,7 @@ class JobFiles {
     bool Rename(const std::string& name);
     void FillList2FromHistory();
     void ShowAsOpened();
+    void TellOfFile();
 
     ScreenState& screen_;
     GridEditor& editor_;
@@ -74,6 +85,8 @@ class JobFiles {
     Firm& firm_;
     Machine& machine_;
     std::string knownFile_;  ///< the job's file as this session last read or wrote it
+    std::vector<std::string> doubts_;
+    std::vector<std::string> notices_;
 };
 
 }  // namespace quillmark

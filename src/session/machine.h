@@ -30,6 +30,9 @@ struct Machine {
     /// shows.
     std::function<void()> onProgress = {};
 
+    /// Puts a text on the clipboard. Null where there is none.
+    std::function<void(const std::string&)> copyText = {};
+
     void LetRepaint() const {
         if (onProgress) onProgress();
     }

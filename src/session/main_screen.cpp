@@ -45,6 +45,8 @@ MainScreen::MainScreen(std::filesystem::path programFolder, Machine machine)
     AttachSmartFields(screen_.job, {.choices = choices,
                                     .templateBeingSet = [this] { return screen_.templateBeingSet; },
                                     .refused = [this](const BadFieldInput& bad) { TellBadInput(bad); }});
+    ResetButtons(false, screen_);
+    ShowOptionTooltips(screen_);
 }
 
 GridSurroundings MainScreen::AroundGrid() {
@@ -68,11 +70,13 @@ NameSurroundings MainScreen::AroundName() {
 
 void MainScreen::TellBadInput(const BadFieldInput& bad) {
     const std::string_view marker = FieldMarker(bad.field());
+    editor_.NoteRefusal();
+    files_.NoteDoubt(bad.what());
     machine_.dialogs.Tell(std::string(marker.substr(1, marker.size() - 2)),
                           "BAD INPUT\nPlease try a different format.", DialogIcon::Warning);
 }
 
-bool MainScreen::Start() {
+bool MainScreen::Start(bool warns) {
     if (EndsAtStart(firm_.ProgramFolder(), machine_)) {
         screen_.ended = true;
         return false;
@@ -85,15 +89,41 @@ bool MainScreen::Start() {
         return false;
     }
     firm_.Serve({});
+    firm_.MakeFolders();
     documents_.Offer();
-    if (firm_.IsUnset())
-        machine_.dialogs.Tell("IMPORTANT",
-                              "Your company defaults have not been set !!\n(see Page 3 of User's Guide for "
-                              "instructions)",
-                              DialogIcon::Warning);
+    if (warns) WarnOfUnsetDefaults();
     StartAnew();
     if (firm_.settings().paraPro) clients_.Open();
     return true;
+}
+
+void MainScreen::WarnOfUnsetDefaults() {
+    if (!firm_.IsUnset()) return;
+    machine_.dialogs.Tell("IMPORTANT",
+                          "Your company defaults have not been set !!\n(see Page 3 of User's Guide for "
+                          "instructions)",
+                          DialogIcon::Warning);
+}
+
+void MainScreen::StartForBulk() {
+    firm_.Read();
+    firm_.Serve({});
+    StartAnew();
+}
+
+void MainScreen::ListDocuments(const std::vector<std::string>& documents) {
+    RequireReady(screen_);
+    screen_.List2.clear();
+    for (const std::string& document : documents) screen_.List2.push_back({document, false});
+    screen_.List2Enabled = screen_.cmdCreate.enabled = !documents.empty();
+    Refresh(screen_, firm_.Context(), editor_);
+}
+
+void MainScreen::DateDocuments(std::string_view date) {
+    RequireReady(screen_);
+    screen_.job.SetField(field::DocumentDate, date);
+    screen_.job.txtField(field::DocumentDate).locked = true;  // keeps its value while the list changes
+    Refresh(screen_, firm_.Context(), editor_);
 }
 
 void MainScreen::Click(std::string_view name) {
@@ -102,19 +132,33 @@ void MainScreen::Click(std::string_view name) {
     Require(button != nullptr, "there is no button \"" + std::string(name) + "\"");
     Require(button->enabled && button->visible,
             std::string(name) + " is " + (button->visible ? "disabled" : "hidden"));
+    if (name == "cmdCreate") {
+        if (editor_.CommitAll(ScreenFocus::Buttons)) create_.Run();
+        return;
+    }
     editor_.LoseFocus(IsInTopBar(name) ? ScreenFocus::Buttons : ScreenFocus::Elsewhere);
     if (name == "cmdOpen") return OpenJobOrSave();
     if (name == "cmdReset") return ResetSession();
-    if (name == "cmdCreate") return create_.Run();
     if (name == "cmdNameAs") return files_.NameJob();
     if (name == "cmdTemplate") return Templates();
     if (name == "cmdSelect") return clients_.Open();
     if (name == "cmdPrintFList") return PrintFieldList();
     if (name == "cmdCustom") return sideWindows_.OpenCustomForms();
     Require(name == "cmdExit", std::string(name) + " leads to a screen of its own");
-    if (screen_.exitDoes == ExitDoes::Mail)
-        return MailBuyersAttorney(screen_, firm_.Context(), machine_.shell);
-    End();
+    screen_.exitDoes == ExitDoes::Mail ? Mail() : End();
+}
+
+/// Without a mail program the address itself is of use.
+void MainScreen::Mail() {
+    try {
+        MailBuyersAttorney(screen_, firm_.Context(), machine_.shell);
+    } catch (const MachineError& failure) {
+        const std::string& address = screen_.job.D(field::BuyerAttyEmail);
+        const std::string text = std::string(failure.what()) + "\n\nThe address is " + address;
+        if (!machine_.copyText) return machine_.dialogs.Tell("  EMAIL", text, DialogIcon::Warning);
+        if (machine_.dialogs.Confirm("  EMAIL", text + "\nCopy it to the clipboard ?", DialogButton::Yes))
+            machine_.copyText(address);
+    }
 }
 
 void MainScreen::OpenJobOrSave() {

@@ -34,7 +34,10 @@ class MainScreen {
     MainScreen(std::filesystem::path programFolder, Machine machine);
 
     /// From the start of the program to the first input. False when the program is to end at once.
-    bool Start();
+    /// Without `warns` the word about unset defaults is left to `WarnOfUnsetDefaults`: a newcomer is welcomed
+    /// first.
+    bool Start(bool warns = true);
+    void WarnOfUnsetDefaults();
     bool HasEnded() const { return screen_.ended; }
 
     const ScreenState& State() const { return screen_; }
@@ -63,6 +66,7 @@ class MainScreen {
     void ClickGrid(int row, int column) { editor_.Click(row, column); }
     void DoubleClickGrid(int row, int column) { editor_.DoubleClick(row, column); }
     void KeyInGrid(EditorKey key) { editor_.KeyInGrid(key); }
+    void TypeInGrid(std::string_view character) { editor_.TypeInGrid(character); }
     void KeyInEditor(std::string_view character) { editor_.KeyInEditor(character); }
     void KeyInEditor(EditorKey key) { editor_.KeyInEditor(key); }
     void SetEditorText(EditorText text) { editor_.SetEditorText(std::move(text)); }
@@ -139,10 +143,21 @@ class MainScreen {
     void DeleteClient(std::string_view name) { clients_.Delete(name); }
 
     // CREATE: see CreateCommand.
-    void SetCreateTarget(std::filesystem::path to, std::filesystem::path trace) {
-        create_.SetTarget(std::move(to), std::move(trace));
-    }
+    void SetCreateTarget(CreateTarget target) { create_.SetTarget(std::move(target)); }
     const std::optional<std::filesystem::path>& LastDocument() const { return create_.LastDocument(); }
+    const CreateCommand& LastRun() const { return create_; }
+    std::vector<std::string> HolesToCome() { return create_.HolesToCome(); }
+
+    // For jobs in bulk, with nobody before the screen.
+    /// Reads the firm's files and is ready for the first job; no upkeep, no warning, nothing written.
+    void StartForBulk();
+    /// A job from wherever its file stands.
+    void LoadJobFrom(const JobSource& source) { files_.LoadFrom(source, false); }
+    /// Other documents in place of the job's own list.
+    void ListDocuments(const std::vector<std::string>& documents);
+    void DateDocuments(std::string_view date);  ///< the value of [document date]
+    const std::vector<std::string>& Doubts() const { return files_.Doubts(); }
+    const std::vector<std::string>& FileNotices() const { return files_.Notices(); }
 
  private:
     GridSurroundings AroundGrid();
@@ -158,6 +173,7 @@ class MainScreen {
     bool AsksToSave();
     void FieldChanged(int n);
     void OpenJobOrSave();
+    void Mail();
     void Templates();
     void PrintFieldList();
     void TellBadInput(const BadFieldInput& bad);

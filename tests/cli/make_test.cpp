@@ -35,8 +35,12 @@ class Making : public ::testing::Test {
         return bytes + fields;
     }
 
-    /// Runs `make` with these words; the documents go to `made`.
+    /// Runs `make` with these words, open fields or not; the documents go to `made`.
     int Make(std::vector<std::string> words, bool terminal = false) {
+        words.insert(words.begin(), "--anyway");
+        return MakeAsked(std::move(words), terminal);
+    }
+    int MakeAsked(std::vector<std::string> words, bool terminal = false) {
         words.insert(words.begin(), {"make", "--folder", TextOf(program.path()), "--out", TextOf(made.path()),
                                      "--today", "2025-04-06"});
         out.str("");
@@ -59,15 +63,87 @@ TEST_F(Making, WritesADocumentAndItsPathAndLeavesTheJobAlone) {
     const std::string job = ReadBytes(program / "data/Hollis.dat");
     EXPECT_EQ(Make({"Hollis"}), 0) << err.str();
     EXPECT_EQ(out.str(), TextOf(Document("Hollis")) + "\n");
-    EXPECT_EQ(err.str(), "");
     EXPECT_EQ(ReadBytes(Document("Hollis")).substr(0, 2), "PK");
     EXPECT_EQ(ReadBytes(program / "data/Hollis.dat"), job);
+    EXPECT_FALSE(fs::exists(program / "data/Attorneys.lst") || fs::exists(program / "data/images"));
+}
+
+TEST_F(Making, NoticesGoToStandardErrorAndUseUpNoAnswer) {
+    EXPECT_EQ(MakeAsked({"--answers", "Yes", "Hollis"}), 0);
+    EXPECT_THAT(err.str(), HasSubstr("Hollis: IMPORTANT NOTICES ABOUT THE DOCUMENTS YOU JUST CREATED"));
+    EXPECT_THAT(err.str(), HasSubstr("Hollis: nothing fills [seller atty]"));
+    EXPECT_EQ(Make({"--documents", "Schedule A;Notice Of Lease", "Hollis"}), 0);
+    EXPECT_THAT(err.str(), HasSubstr("Hollis: no text yet for Notice Of Lease"));
+}
+
+TEST_F(Making, AnUnfinishedJobFailsWithItsOpenFieldsUnlessSomebodySaysYes) {
+    EXPECT_EQ(MakeAsked({"Hollis"}), 1);
+    EXPECT_THAT(err.str(), HasSubstr("Hollis: required fields are open: [buyer atty]"));
+    EXPECT_THAT(err.str(), HasSubstr("[buyer 1 name]"));
+    EXPECT_THAT(err.str(), Not(HasSubstr("[document date]"))) << "today is";
+    EXPECT_FALSE(fs::exists(Document("Hollis")));
+    EXPECT_EQ(MakeAsked({"--answers", "No,Yes", "Hollis", "Hollis"}), 1) << "an answer for each job";
+    EXPECT_TRUE(fs::exists(Document("Hollis")));
+}
+
+TEST_F(Making, ADocumentThatIsThereIsReplacedByForceAlone) {
+    WriteBytes(Document("Hollis"), "of the user");
+    EXPECT_EQ(Make({"Hollis"}), 0);
+    EXPECT_EQ(out.str(), TextOf(Document("Hollis").replace_filename("Hollis_QMF (2).docx")) + "\n");
+    EXPECT_EQ(ReadBytes(Document("Hollis")), "of the user");
+    EXPECT_EQ(Make({"--force", "Hollis"}), 0);
+    EXPECT_EQ(ReadBytes(Document("Hollis")).substr(0, 2), "PK");
+}
+
+TEST_F(Making, CheckNamesWhatIsWrongAndMakesNothing) {
+    WriteBytes(program / "data/Bad.dat",
+               Job("\"072\",\"Atlantis, CT\"\r\n\"076\",\"much\"\r\n\"079\",\"soon\"\r\n"));
+    EXPECT_EQ(MakeAsked({"--check", "--documents", "Deed / Warranty;Deed / Wrong;Closing Statement", "Bad"}),
+              1);
+    for (const char* finding : {"Bad: [seller 1 name] is open", "Bad: [buyer 1 addr 2] is open (optional)",
+                                "Bad: [property cy,st zip] holds \"Atlantis, CT\", which is in no county",
+                                "Bad: [sale price numeric] holds \"much\", which is no amount",
+                                "Bad: [closing date] holds \"soon\", which is not a date",
+                                "Bad: no document has the name \"Deed / Wrong\""})
+        EXPECT_THAT(err.str(), HasSubstr(finding));
+    EXPECT_EQ(MakeAsked({"--check", "Hollis"}), 1);
+    EXPECT_THAT(err.str(), HasSubstr("Hollis: nothing fills [seller atty]"));
+    EXPECT_EQ(out.str(), "");
+    EXPECT_TRUE(fs::is_empty(made.path()));
+    WriteBytes(program / "data/Lot.dat", Job("\"201\",\"Lot 7.\"\r\n\"202\",\"None.\"\r\n"));
+    EXPECT_EQ(MakeAsked({"--check", "--documents", "Schedule A", "Lot"}), 0) << err.str();
+}
+
+TEST_F(Making, PaperAndDateComeFromTheCommandLine) {
+    const std::string letter = Trace("Hollis");
+    EXPECT_THAT(letter, Not(HasSubstr("PaperSize")));
+    const auto trace = [&](std::vector<std::string> words) {
+        words.insert(words.end(), {"--trace", TextOf(made / "trace.txt"), "Hollis"});
+        EXPECT_EQ(Make(words), 0) << err.str();
+        return ReadBytes(made / "trace.txt");
+    };
+    EXPECT_THAT(trace({"--legal", "Schedule A"}), HasSubstr("PaperSize = 4"));
+    EXPECT_THAT(trace({"--document-date", "2026-01-02"}), HasSubstr("2nd day of January, 2026"));
+    EXPECT_THAT(trace({"--document-date", "March __, 2026"}), HasSubstr("__ day of March, 2026"));
+    EXPECT_EQ(Make({"--document-date", "soon", "Hollis"}), 2);
+}
+
+TEST_F(Making, AFileThatIsNotAsItShouldBeIsToldOf) {
+    WriteBytes(program / "data/Utf8.dat", Job("\"021\",\"Ren\xC3\xA9 Roe\"\r\n"));
+    EXPECT_THAT(Trace("Utf8"), HasSubstr("Ren\xC3\xA9 Roe"));
+    EXPECT_THAT(err.str(), HasSubstr("Utf8: Utf8.dat is UTF-8 text"));
+    WriteBytes(program / "data/Both.dat", Job("\"C02\",#TRUE#\r\n"));
+    EXPECT_EQ(Make({"Both"}), 1);
+    EXPECT_THAT(err.str(), HasSubstr("\"1 Seller\" and \"2 Sellers\" contradict each other"));
+    WriteBytes(program / "data/Newer.dat", Job("\"C16\",#TRUE#\r\n"));
+    EXPECT_EQ(Make({"Newer"}), 0);
+    EXPECT_THAT(err.str(), HasSubstr("saved by a newer version of Quillmark"));
 }
 
 TEST_F(Making, TheSameInputGivesTheSameBytes) {
     ASSERT_EQ(Make({"Hollis"}), 0);
     const std::string first = ReadBytes(Document("Hollis"));
-    ASSERT_EQ(Make({"Hollis"}), 0);
+    ASSERT_EQ(Make({"--force", "Hollis"}), 0);
     EXPECT_EQ(ReadBytes(Document("Hollis")), first);
 }
 
@@ -105,7 +181,9 @@ TEST_F(Making, AListOnTheCommandLineReplacesTheJobsOwn) {
 
 TEST_F(Making, TwoJobsOfOneNameDoNotOverwriteEachOther) {
     WriteBytes(made / "Hollis.dat", Job(""));
-    EXPECT_EQ(Make({"Hollis", TextOf(made / "Hollis.dat")}), 1);
+    EXPECT_EQ(Make({"Hollis", TextOf(made / "Hollis.dat")}), 0);
+    EXPECT_THAT(out.str(), EndsWith("Hollis_QMF (2).docx\n"));
+    EXPECT_EQ(Make({"--force", "Hollis", TextOf(made / "Hollis.dat")}), 1);
     EXPECT_THAT(err.str(), HasSubstr("has the same name"));
 }
 
@@ -152,10 +230,10 @@ TEST_F(Making, AValueThatWouldMakeAFalseDocumentStopsTheJobsThatUseIt) {
 
 TEST_F(Making, ProgressShowsOnATerminalOnlyAndQuietSilencesAll) {
     EXPECT_EQ(Make({"Hollis"}, true), 0);
-    EXPECT_THAT(err.str(), HasSubstr("job 1 of 1 (Hollis), document 2 of 2"));
-    EXPECT_THAT(err.str(), EndsWith("\r\x1b[K")) << "the line is cleared";
+    EXPECT_THAT(err.str(), HasSubstr("job 1 of 1 (Hollis), document 2 of 2\r\x1b[K"))
+        << "the line is cleared";
     EXPECT_EQ(Make({"--quiet", "Hollis"}, true), 0);
-    EXPECT_EQ(out.str() + err.str(), "");
+    EXPECT_EQ(out.str() + err.str(), "") << "no notice either";
     EXPECT_EQ(Make({"--quiet", "Missing"}, true), 1);
     EXPECT_THAT(err.str(), HasSubstr("Missing"));
 }
@@ -178,8 +256,10 @@ TEST_F(Making, EverySampleJobMakesItsDocuments) {
     for (const fs::directory_entry& entry : fs::directory_iterator(samples)) {
         if (entry.path().extension() != ".dat") continue;
         ++jobs;
-        const std::string trace = Trace(TextOf(entry.path()));
-        EXPECT_EQ(err.str(), "") << entry.path();
+        EXPECT_EQ(MakeAsked({"--trace", TextOf(made / "trace.txt"), TextOf(entry.path())}), 0)
+            << entry.path() << ": " << err.str();
+        const std::string trace = ReadBytes(made / "trace.txt");
+        EXPECT_THAT(err.str(), Not(HasSubstr("no text yet"))) << entry.path();
         EXPECT_THAT(trace, Not(HasSubstr("\"[")))
             << entry.path() << ": a field that its documents need is open";
     }

@@ -47,6 +47,8 @@ std::string ErrorOf(std::string_view bytes) {
         JobOf(bytes);
     } catch (const RecordError& error) {
         return error.what();
+    } catch (const JobFileError& error) {
+        return error.what();
     }
     return "read";
 }
@@ -149,7 +151,7 @@ TEST(JobFile, LoadedFieldsRunTheirRulesAndAreLocked) {
 }
 
 TEST(JobFile, OneOptionOfAGroupIsSet) {
-    const Job job = JobOf("\"C02\",#TRUE#\r\n\"C09\",#TRUE#\r\n\"C13\",#TRUE#\r\n\"C07\",#FALSE#\r\n");
+    const Job job = JobOf("\"C02\",#TRUE#\r\n\"C09\",#FALSE#\r\n\"C13\",#TRUE#\r\n\"C07\",#FALSE#\r\n");
     EXPECT_EQ(JobFileRecords(job), OptionRecords({2, 3, 5, 12, 13}));
 }
 
@@ -160,9 +162,39 @@ TEST(JobFile, OtherVersionsFilesAreRead) {
     EXPECT_EQ(JobFileRecords(job), kStartOptions + "\"021\",\"Doe\"\r\n");
 }
 
+TEST(JobFile, AFileOfANewerVersionAndOneInUtf8AreToldOf) {
+    using testing::ElementsAre;
+    using testing::IsEmpty;
+    const auto noticesOf = [](std::string_view bytes) {
+        return JobFileContentsOf("Smith.dat", bytes).notices;
+    };
+    EXPECT_THAT(
+        noticesOf("\"C16\",#TRUE#\r\n"),
+        ElementsAre("Smith.dat was saved by a newer version of Quillmark: option C16 is not known here "
+                    "and is left out."));
+    const std::string utf8 = "\"021\",\"Ren\xC3\xA9 \xE2\x80\x93 Roe\"\r\n";
+    EXPECT_THAT(noticesOf(utf8),
+                ElementsAre("Smith.dat is UTF-8 text and was read as such; job files are windows-1252."));
+    EXPECT_EQ(JobOf(utf8).D(21), "Ren\xC3\xA9 \xE2\x80\x93 Roe");
+    EXPECT_EQ(JobOf("\xEF\xBB\xBF\"021\",\"Doe\"\r\n").D(21), "Doe") << "a mark at the beginning";
+    EXPECT_THAT(noticesOf("\"021\",\"Ren\xE9 Roe\"\r\n"), IsEmpty());
+    EXPECT_EQ(JobOf("\"021\",\"\xC3\xA9 \xE9\"\r\n").D(21), "\xC3\x83\xC2\xA9 \xC3\xA9")
+        << "what is not UTF-8 throughout is windows-1252";
+    EXPECT_THAT(ErrorOf("\"021\",\"\xC5\x81ukasz\"\r\n"), HasSubstr("is UTF-8 text and holds the character"));
+}
+
+TEST(JobFile, OptionsOfOneGroupThatAreBothSetAreRefused) {
+    EXPECT_EQ(ErrorOf("\"C01\",#TRUE#\r\n\"C02\",#TRUE#\r\n"),
+              "Smith.dat: the options \"1 Seller\" and \"2 Sellers\" contradict each other");
+    EXPECT_THAT(ErrorOf("\"C09\",#TRUE#\r\n\"C13\",#TRUE#\r\n"),
+                HasSubstr("\"Condo\" and \"Land / Multi-Fam\""));
+    EXPECT_EQ(ErrorOf("\"C02\",#TRUE#\r\n"), "read") << "takes the place of the option of a new job";
+}
+
 TEST(JobFile, WhatCannotBeReadIsNamedByRecordFieldAndValue) {
-    EXPECT_EQ(ErrorOf("\"021\",\"Doe\"\r\n\"241\",\"x\"\r\n"),
-              "Smith.dat, record 2: \"241\" is no field, they run from 002 to 240");
+    EXPECT_EQ(
+        ErrorOf("\"021\",\"Doe\"\r\n\"241\",\"x\"\r\n"),
+        "Smith.dat, record 2: there is no field 241 yet: the job was saved by a newer version of Quillmark");
     for (const char* key : {"0", "-21", "+21", "2 1", "0021", "2147483648", "x", "", "Deed", " 021"}) {
         EXPECT_THAT(ErrorOf(fmt::format("\"{}\",\"x\"\r\n", key)), HasSubstr("is no field")) << key;
     }

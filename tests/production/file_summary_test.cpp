@@ -29,7 +29,8 @@ TEST(FileSummarySheet, ByItsParties) {
     for (const auto& [n, text] :
          {std::pair(BuyerLawfirm, "Lang & Ruiz LLP"), std::pair(BinderDeposit, "$5,000.00"),
           std::pair(ContractDeposit, "$36,500.00"), std::pair(Realtor2Name, "Harbor Homes"),
-          std::pair(PropertyAddress2, "Unit 4"), std::pair(Buyer1TaxId, "123-45-6789")})
+          std::pair(PropertyAddress2, "Unit 4"), std::pair(Buyer1TaxId, "123-45-6789"),
+          std::pair(Buyer1Addr2, ""), std::pair(Buyer2Addr2, "Unit 3")})
         job.SetField(n, text);
     ExpectReading("file_summary_sheet", "a company sells to a couple, deposits known", job);
     ExpectReading("file_summary_unfilled", "a job without any entry: blanks for what is optional or unknown",

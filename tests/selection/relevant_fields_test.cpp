@@ -155,6 +155,12 @@ TEST_F(RelevantFields, ParkedDocumentsKeepTheirWayBack) {
     EXPECT_TRUE(offered.test(OnePayoff));
     EXPECT_TRUE(offered.test(TwoPayoffs));
     EXPECT_FALSE(offered.test(Commercial));
+    hand.ParkedDocuments = {};
+    hand.ParkedDocuments[0] = {"1099 Seller Certification"};
+    List({"Schedule A"});
+    EXPECT_TRUE(offered.test(EstateTrust)) << "the parked document made sense of it";
+    EXPECT_FALSE(offered.test(Entity) || offered.test(Commercial) || offered.test(Condo))
+        << "no document of this job does";
 }
 
 TEST_F(RelevantFields, CustomDocumentsBringTheirMarkers) {
@@ -203,6 +209,7 @@ TEST_F(RelevantFields, NoteCellsShowTheTagAndTheValueStandsWithoutIt) {
     EXPECT_EQ((std::array<bool, 2>{false, true}), Row(170)->lit);
     EXPECT_EQ("unpaid", Row(170)->notes[1]);
     EXPECT_EQ((std::array<bool, 2>{false, false}), Row(171)->lit);
+    EXPECT_EQ((std::array<std::string, 2>{"pay w-taxes", "credit buyer"}), Row(171)->notes);
     EXPECT_EQ((std::array<bool, 2>{true, true}), Row(100)->lit);
 }
 

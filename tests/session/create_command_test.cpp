@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "platform/paths.h"
+#include "selection/field_rows.h"
 #include "session/create_fixture.h"
 #include "word/docx/check/package_check.h"
 #include "word/docx/zip/zip_reader.h"
@@ -47,7 +48,8 @@ TEST_F(CreateTest, ARunEndsWithAnOpenDocumentAndAKeptJob) {
 
     EXPECT_EQ(State().cmdCreate.caption, "Re-Make");
     EXPECT_TRUE(State().cmdEnvelopes.enabled && State().cmdOP236.enabled);
-    EXPECT_EQ(State().picInfo, " Edit fields and Re-Make/Save OR click 'RESET' to clear & start over");
+    EXPECT_THAT(State().picInfo,
+                StartsWith(" Edit fields and Re-Make/Save OR click 'RESET' to clear & start over"));
     EXPECT_EQ(State().picInfoColours.text, State().picInfo);
     EXPECT_EQ(State().picInfoColours.spans.at(0).colour, InfoColour::Blue);
     EXPECT_FALSE(State().waiting || State().progress.visible || !State().message.empty());
@@ -101,8 +103,8 @@ TEST_F(CreateTest, ValuesThatWouldMakeAFalseDocumentStopTheRun) {
     const Case cases[] = {
         {"\"000\",\"Deed / Warranty\"\r\n", "\"072\",\"Guilfort, CT\"\r\n",
          "  TOWN/DISTRICT NAME NOT RECOGNIZED", "Please check spelling or use parent municipality, \nand be"},
-        {"\"000\",\"Deed / Warranty\"\r\n", "\"C06\",#TRUE#\r\n\"092\",\"in common\"\r\n", "  ALERT",
-         "The 'Tenancy Type' field has an improper value,\n"},
+        {"\"000\",\"Deed / Warranty\"\r\n", "\"C05\",#FALSE#\r\n\"C06\",#TRUE#\r\n\"092\",\"in common\"\r\n",
+         "  ALERT", "The 'Tenancy Type' field has an improper value,\n"},
         {"\"000\",\"Power Of Attorney / Short Form\"\r\n", "\"021\",\"Ann Lee\"\r\n\"156\",\"Anne Lee\"\r\n",
          "  ALERT", "The 'Principal of Power' field does not match Seller's name,\n"},
         {"\"000\",\"Closing Statement\"\r\n", "\"081\",\"soon\"\r\n", "  ALERT",
@@ -141,10 +143,67 @@ TEST_F(CreateTest, NoIsTheAnswerForUnfilledFieldsAndCompleteJobsAreNotAsked) {
     Open();
     EXPECT_EQ(State().remaining, 3);
     for (const int n : {201, 202}) screen->EnterField(n, "None.", EntryWay::Type);
-    EXPECT_EQ(State().remaining, 1) << "the date of the document, which the run fills in";
+    EXPECT_EQ(State().remaining, 1) << "the date of the document";
+    Create({});
+    EXPECT_FALSE(screen->LastDocument()) << "it counts as any other";
+    EXPECT_THAT(TitlesShown(), Contains(kProceed));
+    screen->EnterField(1, "3/9/2026", EntryWay::Type);
     Create({});
     EXPECT_TRUE(screen->LastDocument());
     EXPECT_THAT(TitlesShown(), Not(Contains(kProceed)));
+}
+
+TEST_F(CreateTest, WhatStandsInAnOpenEditorIsInTheDocument) {
+    Open();
+    const auto row = [&](int n) { return static_cast<int>(FindRow(n, State()) - State().grid.data()); };
+    screen->ClickGrid(row(59), 1);
+    screen->SetEditorText({"Bea Burke", 9, 0});
+    Create();
+    EXPECT_EQ(State().job.D(59), "Bea Burke");
+    EXPECT_THAT(ReadBytes(JobFile("Hollis")), HasSubstr("\"059\",\"Bea Burke\""));
+
+    screen->UnlockRow(72);
+    screen->ClickGrid(row(72), 1);
+    screen->SetEditorText({"Atlantis, CT", 12, 0});
+    dialogs.TakeShown();
+    Create();
+    EXPECT_FALSE(screen->LastDocument() && State().progress.visible);
+    EXPECT_THAT(TitlesShown(), ElementsAre("property cy,st zip  "));
+    EXPECT_EQ(screen->Editor().EditField, 72) << "the row is open with what was typed";
+    EXPECT_EQ(screen->Editor().txtEdit.text, "Atlantis, CT");
+}
+
+TEST_F(CreateTest, AValueThatItsFieldCannotTakeKeepsTheRunFromStarting) {
+    WriteJob("", "\"000\",\"Closing Statement\"\r\n");
+    Open();
+    screen->ClickGrid(static_cast<int>(FindRow(79, State()) - State().grid.data()), 1);
+    screen->SetEditorText({"soon", 4, 0});
+    screen->LoseFocus(ScreenFocus::Buttons);  // the mouse on its way to the button
+    Create();
+    EXPECT_FALSE(screen->LastDocument());
+    EXPECT_THAT(TitlesShown(), ElementsAre("closing date"));
+    EXPECT_EQ(screen->Editor().EditField, 79);
+}
+
+TEST_F(CreateTest, TheGuidanceBarNamesWhatTheDocumentLacks) {
+    std::filesystem::remove(scratch / "defaults.fld");
+    WriteJob("\"021\",\"Walter Hollis\"\r\n",
+             "\"000\",\"Deed / Warranty\"\r\n\"000\",\"Notice Of Lease\"\r\n");
+    Open();
+    EXPECT_EQ(FindRow(3, State()), nullptr) << "a firm without defaults is never asked for its attorney";
+    Create();
+    EXPECT_THAT(State().picInfo, HasSubstr(".  No text yet for:  Notice Of Lease"));
+    EXPECT_THAT(State().picInfo, HasSubstr(".  Nothing fills:  [seller atty]"));
+    EXPECT_THAT(State().picInfo, Not(HasSubstr("[buyer 1 name]"))) << "the grid asks for it";
+}
+
+TEST_F(CreateTest, ADocumentNamedByItsPathIsNotReplacedEither) {
+    WriteBytes(scratch / "made.docx", "of the user");
+    Open();
+    screen->SetCreateTarget({.to = scratch / "made.docx"});
+    Create();
+    EXPECT_EQ(screen->LastDocument(), scratch / "made (2).docx");
+    EXPECT_EQ(ReadBytes(scratch / "made.docx"), "of the user");
 }
 
 TEST_F(CreateTest, AFileOfTheSameNameIsOverwrittenOnlyWhenTheUserSaysSo) {
@@ -164,7 +223,7 @@ TEST_F(CreateTest, AFileOfTheSameNameIsOverwrittenOnlyWhenTheUserSaysSo) {
 TEST_F(CreateTest, AJobWithoutANameIsMadeAndNotKept) {
     Start();
     screen->PickDocument("Schedule A");
-    screen->SetCreateTarget(scratch / "made.docx", scratch / "trace.txt");
+    screen->SetCreateTarget({.to = scratch / "made.docx", .trace = scratch / "trace.txt"});
     Create();
     EXPECT_EQ(screen->LastDocument(), scratch / "made.docx");
     EXPECT_THAT(shell.opened, IsEmpty()) << "who names the file will find it";

@@ -112,7 +112,7 @@ TEST_F(CreateFailing, ADocumentThatCannotBeWrittenIsTold) {
     EXPECT_THAT(Failure(), HasSubstr((scratch / "Documents").string()));
     EXPECT_EQ(ReadBytes(JobFile("Hollis")), before);
     Open();
-    screen->SetCreateTarget(scratch / "none" / "Hollis.docx", {});
+    screen->SetCreateTarget({.to = scratch / "none" / "Hollis.docx"});
     EXPECT_THAT(Failure(), StartsWith("CREATE error 76: "));
     EXPECT_THAT(State().picInfo, HasSubstr("Hollis.docx"));
 }

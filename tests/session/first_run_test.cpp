@@ -76,7 +76,9 @@ TEST_F(FirstRunTest, EachFirstStepLeadsSomewhere) {
     Start();
     TakeFirstStep(*screen, FirstStep::SampleJob);
     EXPECT_EQ(State().txtJobName.text, sample);
-    screen->SetCreateTarget(scratch.path(), {});
+    EXPECT_EQ(State().remaining, 1) << "the date of the documents";
+    screen->SetCreateTarget({.to = scratch.path()});
+    Answer({"Yes"});
     screen->Click("cmdCreate");
     ASSERT_TRUE(screen->LastDocument().has_value());
     EXPECT_TRUE(fs::exists(*screen->LastDocument()));

@@ -267,16 +267,41 @@ TEST_F(GridEditing, PastesAreOneLineOfCharactersThatFilesCanHold) {
     EXPECT_TRUE(Editor().IsOpen());
 }
 
-TEST_F(GridEditing, LeavingTheEditorCommitsExceptForTheTopBarWithNothingToSave) {
+TEST_F(GridEditing, TheKeyboardReachesEveryRowAndTypingOpensIt) {
+    StartWith({"Deed / Warranty"});
+    screen->KeyInGrid(EditorKey::End);
+    const int last = static_cast<int>(State().grid.size()) - 1;
+    EXPECT_EQ(last, Editor().EditRow);
+    screen->KeyInEditor(EditorKey::Escape);
+    screen->KeyInGrid(EditorKey::Home);
+    EXPECT_EQ(0, Editor().EditRow);
+    screen->KeyInEditor(EditorKey::Up);
+    EXPECT_EQ(0, Editor().EditRow) << "there is no row above the first";
+    screen->KeyInEditor(EditorKey::Escape);
+    screen->TypeInGrid("M");
+    EXPECT_EQ("M", Editor().txtEdit.text) << "the key takes the proposal's place";
+    EXPECT_THROW(screen->TypeInGrid("a"), NotAllowed) << "the editor has the keyboard";
+}
+
+TEST_F(GridEditing, EnterInTheCalendarTakesTheDayShown) {
     StartWith({"Closing Statement"});
+    Click(79);
+    using std::chrono::year;
+    screen->KeyInCalendar(EditorKey::Enter, year(2026) / 4 / 17);
+    EXPECT_EQ("April 17, 2026", Value(79));
+}
+
+TEST_F(GridEditing, LeavingTheEditorCommitsWhereverTheKeyboardGoes) {
+    StartWith({"Closing Statement"});
+    EXPECT_FALSE(State().cmdOpen.enabled) << "there is nothing to save yet";
     Click(21);
     Type("Anna");
     screen->LoseFocus(ScreenFocus::Buttons);
-    EXPECT_FALSE(State().job.IsFilled(21));
-    Click(21);
-    Type("Anna");
-    screen->ScrollTo(5);
     EXPECT_EQ("Anna", Value(21));
+    Click(21);
+    Type("Anne");
+    screen->ScrollTo(5);
+    EXPECT_EQ("Anne", Value(21));
     EXPECT_EQ(-1, Editor().markedRow);
     EXPECT_EQ(" Click an item for edit.  Use Enter, Tab, or Up/Down Arrow keys to navigate", State().picInfo);
     Click(86);

@@ -1,6 +1,7 @@
 #include "session/main_screen.h"
 
 #include "session/office_fixture.h"
+#include "session/state/buttons.h"
 
 namespace quillmark {
 namespace {
@@ -26,6 +27,44 @@ TEST_F(NameBoxTest, ANameClosesTheOtherWaysIn) {
     screen->TypeName("");
     EXPECT_TRUE(State().cmdOpen.enabled);
     EXPECT_TRUE(State().cmdTemplate.enabled);
+}
+
+TEST_F(NameBoxTest, EveryButtonSaysWhatItDoesOrWhyItDoesNot) {
+    screen = std::make_unique<MainScreen>(scratch.path(),
+                                          Machine{.clock = clock, .dialogs = dialogs, .shell = shell});
+    for (const NamedButton& named : Buttons())
+        EXPECT_FALSE((State().*named.button).caption.empty()) << named.name << " before the start";
+    Start();
+    screen->TypeName("Abbott");
+    for (const NamedButton& named : Buttons()) {
+        const Button& button = State().*named.button;
+        EXPECT_EQ(button.enabled, WhyDisabled(named.name, State()).empty()) << named.name;
+    }
+    EXPECT_EQ("Choose documents first.", WhyDisabled("cmdCreate", State()));
+}
+
+TEST_F(NameBoxTest, WithoutAMailProgramTheAddressIsOffered) {
+    struct NoMail final : Shell {
+        std::filesystem::path FolderOf(SpecialFolder) override { return {}; }
+        void Open(const std::string&) override { throw MachineError("No program opens mail."); }
+        void Start(const std::filesystem::path&, const std::vector<std::string>&) override {}
+    } noMail;
+    std::string copied;
+    screen = std::make_unique<MainScreen>(
+        scratch.path(), Machine{.clock = clock,
+                                .dialogs = dialogs,
+                                .shell = noMail,
+                                .copyText = [&](const std::string& text) { copied = text; }});
+    screen->Start();
+    screen->TypeName("Abbott");
+    screen->EnterName();
+    screen->PickDocument("Contract / Danbury Bar");
+    screen->EnterField(18, "lee@example.com", EntryWay::Type);
+    Answer({"Yes"});
+    screen->Click("cmdExit");
+    EXPECT_EQ("No program opens mail.\n\nThe address is lee@example.com\nCopy it to the clipboard ?",
+              LastBox());
+    EXPECT_EQ("lee@example.com", copied);
 }
 
 TEST_F(NameBoxTest, SpecialNamesAreCommands) {
@@ -83,6 +122,26 @@ TEST_F(JobFilesTest, ASavedJobComesBackWhole) {
     EXPECT_EQ("SAVE", State().cmdOpen.caption);
     screen->Click("cmdOpen");
     EXPECT_NE(std::string::npos, ReadBytes(JobFile("Abbott - 14 Orchard Lane")).find("Ann Abbott"));
+}
+
+TEST_F(JobFilesTest, FirmDetailsThatNoDocumentNeedsAreNotTheJobs) {
+    WriteBytes(scratch / "defaults.fld", FirmDefaultRecord("[seller lawfirm]", "Hale & Pike, LLC") +
+                                             FirmDefaultRecord("[seller atty]", "Nora Hale; Jon Pike"));
+    Start();
+    screen->TypeName("Abbott");
+    screen->EnterName();
+    screen->PickDocument("Schedule A");
+    screen->EnterField(201, "Lot 7.", EntryWay::Type);
+    EXPECT_EQ("Hale & Pike, LLC", State().job.D(2)) << "for show";
+    screen->Click("cmdOpen");
+    const std::string bytes = ReadBytes(JobFile("Abbott"));
+    EXPECT_EQ(std::string::npos, bytes.find("\"002\"")) << bytes;
+    EXPECT_EQ(std::string::npos, bytes.find("\"003\"")) << bytes;
+    screen->Click("cmdReset");
+    MakeSmallJob("Burke");
+    screen->Click("cmdOpen");
+    EXPECT_NE(std::string::npos, ReadBytes(JobFile("Burke")).find("\"003\",\"Nora Hale\""))
+        << "a deed needs the attorney, and the firm has two";
 }
 
 TEST_F(JobFilesTest, AnotherFileIsOverwrittenOnlyWhenTheUserSaysSo) {
@@ -155,6 +214,9 @@ TEST_F(JobFilesTest, ATemplateSpawnsJobsWithItsValuesLocked) {
     Start();
     screen->Click("cmdTemplate");
     screen->LoadJob(kNewTemplateEntry, true);
+    EXPECT_EQ(ScreenFocus::NameBox, screen->Editor().focus);
+    EXPECT_TRUE(State().picInfo.starts_with(" Enter the Client or Project/Development name"))
+        << State().picInfo;
     screen->TypeName("Regency");
     screen->EnterName();
     screen->ClickOption(Condo);

@@ -143,8 +143,9 @@ TEST(PackageEditor, AsksBeforeChangesAreLeftBehind) {
 
 TEST(PackageEditor, TellsOfLinesThatItCannotUse) {
     Desk desk;
-    WriteBytes(desk.scratch / "package.def",
-               "\"<03>SHORT\"\r\n\"Deed / Warranty\"\r\n\"<1>BAD HEADER\"\r\n\"<01>GOOD\"\r\n\"Schedule A\"\r\n");
+    WriteBytes(
+        desk.scratch / "package.def",
+        "\"<03>SHORT\"\r\n\"Deed / Warranty\"\r\n\"<1>BAD HEADER\"\r\n\"<01>GOOD\"\r\n\"Schedule A\"\r\n");
     PackageEditor editor = desk.Open();
     EXPECT_THAT(desk.Boxes(), ElementsAre(HasSubstr("line 3: a package's header")));
     EXPECT_THAT(editor.State().Combo1, ElementsAre("NEW PACKAGE", "SHORT", "GOOD"));

@@ -15,6 +15,10 @@ bool IsKnownDocument(std::string_view entry) {
            IsCustomDocument(entry);
 }
 
+bool StaysEmpty(std::string_view entry) {
+    return entry != kNewDocument && !FindBuilder(entry);
+}
+
 std::string TypeEntry(std::string_view entry, const Production& production, WordSession& session) {
     if (const Builder* builder = FindBuilder(entry)) {
         TypeDocument(*builder, production, session);

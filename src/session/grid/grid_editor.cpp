@@ -65,12 +65,27 @@ void GridEditor::DoubleClick(int row, int column) {
 void GridEditor::KeyInGrid(EditorKey key) {
     Require(!state_.IsOpen(), "an editor is open");
     if (key == EditorKey::Escape) return;
+    const int rows = static_cast<int>(screen_.grid.size());
+    if (key == EditorKey::Home || key == EditorKey::End) {
+        const int row = key == EditorKey::Home ? NextRow(-1, 1) : NextRow(rows, -1);
+        if (row >= 0) OpenRow(row, key == EditorKey::Home ? -1 : 1);
+        return;
+    }
     const int direction = key == EditorKey::Up ? -1 : 1;
     const int current = screen_.currentRow;
     const bool opens = (key == EditorKey::Enter || key == EditorKey::Tab) && IsInGrid(current) &&
                        RowAt(current).kind != RowKind::Heading && !RowAt(current).locked;
     const int row = opens ? current : NextRow(current, direction);
     if (row >= 0) OpenRow(row, direction);
+}
+
+void GridEditor::TypeInGrid(std::string_view character) {
+    Require(!state_.IsOpen(), "an editor is open");
+    const int row = screen_.currentRow;
+    if (!IsInGrid(row) || RowAt(row).kind == RowKind::Heading || RowAt(row).locked) return;
+    OpenRow(row, 0);
+    if (state_.kind == EditorKind::Line) KeyInEditor(character);
+    if (state_.kind == EditorKind::Block) SetBlockText({std::string(character), character.size(), 0});
 }
 
 void GridEditor::ScrollTo(int topRow) {
@@ -101,6 +116,7 @@ void GridEditor::ClickJumpLabel(int group) {
 /// click hit it.
 void GridEditor::OpenRow(int row, int direction) {
     Close();
+    refusedRow_ = -1;
     state_.focus = ScreenFocus::Grid;
     state_.markedRow = -1;
     const int open = RowToOpen(row, direction);
@@ -215,6 +231,7 @@ void GridEditor::Leave() {
 
 void GridEditor::Forget() {
     Close();
+    refusedRow_ = -1;
     state_.markedRow = -1;
     state_.topRow = 0;
 }

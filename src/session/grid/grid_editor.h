@@ -28,7 +28,7 @@ enum class EditorKind {
 };
 
 /// Keys that are no characters.
-enum class EditorKey { Enter, Tab, Up, Down, Escape };
+enum class EditorKey { Enter, Tab, Up, Down, Escape, Home, End };
 
 /// What has the keyboard.
 enum class ScreenFocus {
@@ -121,9 +121,12 @@ class GridEditor {
     /// heading open none either.
     void Click(int row, int column);
     void DoubleClick(int row, int column);  ///< on a locked row: asks to unlock it, then opens it
-    /// A key while the grid has the keyboard: Up and Down go on from the current row; Enter and Tab open it,
-    /// or go on from one that is locked.
+    /// A key while the grid has the keyboard: Up and Down go on from the current row, Home and End to the
+    /// first and the last one; Enter and Tab open it, or go on from one that is locked.
     void KeyInGrid(EditorKey key);
+    /// A character while the grid has the keyboard: it opens the current row and replaces its value. On a row
+    /// that opens no editor it does nothing.
+    void TypeInGrid(std::string_view character);
     void ScrollTo(int topRow);  ///< by the scroll bar or `cboScroll`: the open editor is committed and closed
     void SetRowsOnScreen(int rows);
     void ClickJumpLabel(int group);
@@ -139,9 +142,13 @@ class GridEditor {
     void MoveToSalePrice();
     void SetEditorText(EditorText text);
     void SetBlockText(EditorText text);
-    /// Commits, unless the keyboard went to the calendar or a list of the editor's own. A change is dropped
-    /// when a button of the top bar took it while there was nothing to save.
+    /// Commits, unless the keyboard went to the calendar or a list of the editor's own.
     void LoseFocus(ScreenFocus to);
+    /// As LoseFocus, before a command that takes all values for good. False where a value was refused, now or
+    /// when a button of the top bar just took the keyboard: its row is open again.
+    bool CommitAll(ScreenFocus to);
+    /// The rule of the field under the editor cannot take what was committed.
+    void NoteRefusal() { refused_ = true; }
 
     // `MonthView1`, `Combo1`, `Combo2`.
     void ClickDay(std::chrono::year_month_day day, bool twice);
@@ -209,6 +216,8 @@ class GridEditor {
     GridSurroundings around_;
     GridEditorState state_;
     bool staysOnRow_ = false;      ///< the last commit left a value to be corrected
+    bool refused_ = false;         ///< a rule could not take the last value
+    int refusedRow_ = -1;          ///< where a button took the keyboard from a value to be corrected
     bool blockUntouched_ = false;  ///< `txtBlock` holds what it opened with
 };
 

@@ -45,7 +45,7 @@ void GridEditor::SetBlockText(EditorText editor) {
 
 /// Enter is a new line in a text, and as Tab beside a picture or in an empty box.
 void GridEditor::KeyInBlock(EditorKey key) {
-    if (key == EditorKey::Up || key == EditorKey::Down) return;
+    if (key != EditorKey::Enter && key != EditorKey::Tab) return;
     if (key == EditorKey::Tab || state_.ImageInField || state_.txtBlock.empty()) return CommitAndAdvance();
     PasteIntoBlock("\n");
 }

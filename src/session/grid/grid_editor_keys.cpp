@@ -42,6 +42,7 @@ void GridEditor::KeyInEditor(EditorKey key) {
     if (state_.BlockEdit) return KeyInBlock(key);
     if (key == EditorKey::Up) return CommitAndMove(-1);
     if (key == EditorKey::Down) return CommitAndMove(1);
+    if (key == EditorKey::Home || key == EditorKey::End) return;  // of the line, which the window moves in
     CommitAndAdvance();
 }
 
@@ -59,11 +60,21 @@ void GridEditor::LoseFocus(ScreenFocus to) {
     const bool questionStands = state_.IsOpen() && state_.EditRow < 0;
     if (questionStands) return;
     if (state_.IsOpen() && !IsPartOfEditor(to)) {
-        const bool dropped = to == ScreenFocus::Buttons && !screen_.cmdOpen.enabled;
-        if (!dropped) Commit();
+        const int row = state_.EditRow;
+        staysOnRow_ = refused_ = false;
+        Commit();
+        if (to == ScreenFocus::Buttons && (staysOnRow_ || refused_)) refusedRow_ = row;
         Close();
     }
     state_.focus = to;
+}
+
+bool GridEditor::CommitAll(ScreenFocus to) {
+    LoseFocus(to);
+    const int row = std::exchange(refusedRow_, -1);
+    if (!IsInGrid(row)) return true;
+    OpenRow(row, 0);
+    return false;
 }
 
 /// The editor's text goes to its field; whether the field has another value now.

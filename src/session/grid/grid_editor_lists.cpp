@@ -25,7 +25,7 @@ void GridEditor::KeyInCalendar(EditorKey key, std::chrono::year_month_day day) {
     RequireEditor(EditorKind::Line);
     Require(state_.MonthView1.has_value(), "the calendar does not show");
     if (key == EditorKey::Escape) return Leave();
-    if (key == EditorKey::Up) return ClickDay(day, true);
+    if (key == EditorKey::Up || key == EditorKey::Enter) return ClickDay(day, true);
     CommitAndAdvance();
 }
 
@@ -39,7 +39,7 @@ void GridEditor::KeyInChoices(EditorKey key, std::string_view text) {
     RequireEditor(EditorKind::Line);
     Require(state_.Combo1.open || state_.Combo2, "no list is open");
     if (key == EditorKey::Escape) return Leave();
-    if (key == EditorKey::Up || key == EditorKey::Down || !state_.Combo1.open) return;
+    if ((key != EditorKey::Enter && key != EditorKey::Tab) || !state_.Combo1.open) return;
     const auto& lines = state_.Combo1.lines;
     Require(!state_.Combo1.fixed || std::find(lines.begin(), lines.end(), text) != lines.end(),
             "the field can only be picked from its list");

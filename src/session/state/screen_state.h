@@ -76,6 +76,8 @@ struct ProgressBar {
     bool visible = false;
     double value = 0;
     double maximum = 1;
+    std::size_t document = 0;  ///< in hand, from 1; past the last while the job is finished
+    std::size_t documents = 0;
 };
 
 struct ScreenState : JobInHand {

@@ -25,10 +25,6 @@ std::string Blank() {
     return RepeatUnderscore(25);
 }
 
-std::string ValueOrBlank(const JobValues& job, Field n) {
-    return job.IsFilled(n) ? job[n] : Blank();
-}
-
 /// Two columns side by side, whichever is longer.
 void TypeColumns(Typist& type, Lines left, Lines right) {
     const std::size_t rows = std::max(left.size(), right.size());
@@ -44,39 +40,35 @@ void AddAddress(Lines& lines, const JobValues& job, Field addr1, Field addr2, Fi
     lines.push_back(job[cityStateZip]);
 }
 
-void AddTelephones(Lines& lines, const JobValues& job, Field taxId) {
-    lines.insert(lines.end(), {"Tax ID#:  " + job[taxId], "Home:  " + Blank(), "Work:  " + Blank()});
-}
+/// The fields of one party, in the order of its block.
+struct PartyFields {
+    Field name, addr1, addr2, cityStateZip, taxId;
+};
+constexpr PartyFields kSeller1Fields = {Seller1Name, Seller1Addr1, Seller1Addr2, Seller1CityStateZip,
+                                        Seller1TaxId};
+constexpr PartyFields kSeller2Fields = {Seller2Name, Seller2Addr1, Seller2Addr2, Seller2CityStateZip,
+                                        Seller2TaxId};
+constexpr PartyFields kBuyer1Fields = {Buyer1Name, Buyer1Addr1, Buyer1Addr2, Buyer1CityStateZip, Buyer1TaxId};
+constexpr PartyFields kBuyer2Fields = {Buyer2Name, Buyer2Addr1, Buyer2Addr2, Buyer2CityStateZip, Buyer2TaxId};
 
-Lines Seller1(const JobValues& job) {
-    Lines lines = {job[Seller1Name]};
-    AddAddress(lines, job, Seller1Addr1, Seller1Addr2, Seller1CityStateZip);
-    if (job.Has(Entity)) lines.push_back(job[Seller1Agent]);
-    AddTelephones(lines, job, Seller1TaxId);
+/// The block of one party. `secondLine`: one of the two beside each other has a second line of address, so
+/// that both leave room for it; `agentLine` likewise.
+Lines PartyLines(const JobValues& job, const PartyFields& party, bool secondLine, bool agentLine,
+                 const std::string& agent) {
+    Lines lines = {job[party.name], job[party.addr1]};
+    if (secondLine) lines.push_back(job.IsFilled(party.addr2) ? job[party.addr2] : std::string());
+    lines.push_back(job[party.cityStateZip]);
+    if (agentLine) lines.push_back(agent);
+    lines.insert(lines.end(), {"Tax ID#:  " + job[party.taxId], "Home:  " + Blank(), "Work:  " + Blank()});
     return lines;
 }
 
-Lines Seller2(const JobValues& job) {
-    if (!job.Has(TwoSellers)) return {};
-    Lines lines = {job[Seller2Name]};
-    AddAddress(lines, job, Seller2Addr1, Seller2Addr2, Seller2CityStateZip);
-    AddTelephones(lines, job, Seller2TaxId);
-    return lines;
-}
-
-Lines Buyer1(const JobValues& job) {
-    Lines lines = {job[Buyer1Name]};
-    AddAddress(lines, job, Buyer1Addr1, Buyer1Addr2, Buyer1CityStateZip);
-    AddTelephones(lines, job, Buyer1TaxId);
-    return lines;
-}
-
-Lines Buyer2(const JobValues& job) {
-    if (!job.Has(TwoBuyers)) return {};
-    Lines lines = {job[Buyer2Name]};
-    AddAddress(lines, job, Buyer2Addr1, Buyer2Addr2, Buyer2CityStateZip);
-    AddTelephones(lines, job, Buyer2TaxId);
-    return lines;
+/// Two parties beside each other, line by line; the right column stays empty where there is one.
+void TypeParties(const JobValues& job, Typist& type, const PartyFields& first, const PartyFields& second,
+                 bool two, bool hasAgent) {
+    const bool secondLine = job.IsFilled(first.addr2) || (two && job.IsFilled(second.addr2));
+    TypeColumns(type, PartyLines(job, first, secondLine, hasAgent, job[Seller1Agent]),
+                two ? PartyLines(job, second, secondLine, hasAgent, {}) : Lines());
 }
 
 void TypeRealtors(const JobValues& job, Typist& type) {
@@ -84,7 +76,7 @@ void TypeRealtors(const JobValues& job, Typist& type) {
     type.TypeBold("Realtor 1");
     type.Text(fiveBlanks, job[Realtor1Name], "\t");
     type.TypeBold("Realtor 2");
-    type.Text(fiveBlanks, ValueOrBlank(job, Realtor2Name), RepeatReturn(2));
+    type.Text(fiveBlanks, job[Realtor2Name], RepeatReturn(2));
     Lines rows;
     for (const char* label : {"Agent:", "Addr1:", "Addr2:", "City:", "Phone:", "Fax:", "Email:"})
         rows.push_back(label + ("\t" + Blank()));
@@ -108,7 +100,7 @@ Lines Notes(const JobValues& job, std::size_t rows) {
 }
 
 Lines SellersAttorney(const JobValues& job) {
-    Lines lines = {job[SellerLawfirm]};
+    Lines lines = {job[SellerLawfirm], job[SellerAtty]};
     AddAddress(lines, job, SellerAttyAddr1, SellerAttyAddr2, SellerAttyCityStateZip);
     lines.insert(lines.end(), {"Phone:  " + job[SellerAttyPhone], "Fax:  " + job[SellerAttyFax]});
     return lines;
@@ -140,12 +132,12 @@ void TypeRule(Typist& type) {
     type.Text(RepeatUnderscore(86), RepeatReturn(2));
 }
 
-void TypeParties(const JobValues& job, Typist& type) {
+void TypeBothSides(const JobValues& job, Typist& type) {
     type.Text(job.TwoLines(PropertyAddress1), ", ", job.Town(PropertyCityStateZip), RepeatReturn(2));
     TypeHeadings(type, "Seller 1 Information", "Seller 2 Information");
-    TypeColumns(type, Seller1(job), Seller2(job));
+    TypeParties(job, type, kSeller1Fields, kSeller2Fields, job.Has(TwoSellers), job.Has(Entity));
     TypeHeadings(type, "Buyer 1 Information", "Buyer 2 Information");
-    TypeColumns(type, Buyer1(job), Buyer2(job));
+    TypeParties(job, type, kBuyer1Fields, kBuyer2Fields, job.Has(TwoBuyers), false);
     TypeRule(type);
 }
 
@@ -168,7 +160,7 @@ void TypeFileSummarySheet(const JobValues& job, Typist& type) {
     type.Bold(false);
     type.Italic(false);
     type.AtTab(kRightColumn, [&] {
-        TypeParties(job, type);
+        TypeBothSides(job, type);
         TypeRealtors(job, type);
         TypeAttorneys(job, type);
     });

@@ -1,4 +1,4 @@
-#include "selection/options.h"
+#include "core/options.h"
 
 #include <algorithm>
 #include <iterator>
