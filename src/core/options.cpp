@@ -96,10 +96,15 @@ bool GroupMayBeOff(int n) {
 }
 
 bool IsExcluded(int n, const Job& job) {
+    return ExcludedBy(n, job) != 0;
+}
+
+int ExcludedBy(int n, const Job& job) {
     const auto row = std::find_if(std::begin(kExclusions), std::end(kExclusions),
                                   [n](const Exclusion& exclusion) { return exclusion.option == n; });
-    return row != std::end(kExclusions) &&
-           std::any_of(row->by.begin(), row->by.end(), [&](int other) { return job.optConf(other); });
+    if (row == std::end(kExclusions)) return 0;
+    const auto other = std::find_if(row->by.begin(), row->by.end(), [&](int by) { return job.optConf(by); });
+    return other == row->by.end() ? 0 : *other;
 }
 
 }  // namespace quillmark

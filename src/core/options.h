@@ -30,5 +30,7 @@ inline constexpr Option kExcludable[] = {TwoSellers, Entity, PowerOfAttorney, Es
 /// Whether what is set leaves no room for this option: an entity or an estate sells alone, an entity acts by
 /// its agents and not by a power, and so on.
 bool IsExcluded(int n, const Job& job);
+/// The option that excludes this one; 0 if none does.
+int ExcludedBy(int n, const Job& job);
 
 }  // namespace quillmark

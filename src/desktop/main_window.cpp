@@ -21,15 +21,13 @@ bool IsWithin(const QWidget* widget, const QWidget* part) {
 
 }  // namespace
 
-MainWindow::MainWindow(MainScreen& screen, DocumentOpener& opener)
-    : appearance_(*this),
-      desk_(screen, *this),
-      buttons_(desk_, appearance_, this),
-      flow_(desk_, opener, *this) {
+MainWindow::MainWindow(MainScreen& screen)
+    : appearance_(*this), desk_(screen, *this), buttons_(desk_, appearance_, this), flow_(desk_, *this) {
     setObjectName(QStringLiteral("Form1"));
     Arrange();
     editors_ = new GridEditors(desk_, *grid_, *this);
     progress_ = new ProgressPanel(desk_, this);
+    reasons_ = new GreyReasons(desk_, *this);
     Connect();
     AddShortcuts();
     SetTabOrder();
@@ -43,6 +41,7 @@ void MainWindow::Connect() {
         flow_.Follow();
     });
     connect(&desk_, &Desk::Refused, guidance_, &GuidanceBar::ShowRefusal);
+    connect(reasons_, &GreyReasons::Asked, guidance_, &GuidanceBar::ShowRefusal);
     connect(&buttons_, &MainButtons::Pressed, &flow_, &SideWindowFlow::Press);
     connect(&flow_, &SideWindowFlow::PathWanted, this, [this] { List3_->SelectRow(kPathRow); });
     connect(List3_, &SettingsView::RowSelected, this, [this](std::size_t row) {
@@ -83,6 +82,7 @@ void MainWindow::ShowState() {
     editors_->Show();
     ShowCounters();
     progress_->Show();
+    reasons_->Show();
     ShowTitle();
     ShowFocus();
     showing_ = false;

@@ -6,6 +6,7 @@
 #include "desktop/grid/grid_editors.h"
 #include "desktop/grid/grid_view.h"
 #include "desktop/panels/document_panel.h"
+#include "desktop/panels/grey_reasons.h"
 #include "desktop/panels/guidance_bar.h"
 #include "desktop/panels/jump_bar.h"
 #include "desktop/panels/main_buttons.h"
@@ -26,13 +27,16 @@ class MainWindow final : public QWidget {
     Q_OBJECT
 
  public:
-    /// Both must outlive the window.
-    MainWindow(MainScreen& screen, DocumentOpener& opener);
+    /// `screen` must outlive the window.
+    explicit MainWindow(MainScreen& screen);
 
     /// Every panel as the state has it now.
     void ShowState();
     /// In the middle of a command: shows the state at once, while the command goes on.
     void ShowProgress();
+
+    /// A notice on the guidance bar, until the next command.
+    void Tell(const QString& notice) { guidance_->ShowRefusal(notice); }
 
     void Restore(const WindowPlacement& placement);
     WindowPlacement Placement() const;
@@ -82,6 +86,7 @@ class MainWindow final : public QWidget {
     QWidget* welcome_;
     GridEditors* editors_;
     ProgressPanel* progress_;
+    GreyReasons* reasons_;
     ViewControls* view_;
     QLabel* counters_;
     QWidget* left_ = nullptr;

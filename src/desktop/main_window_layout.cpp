@@ -12,7 +12,7 @@ namespace quillmark::desktop {
 
 namespace {
 
-constexpr int kLeftColumns = 50;  ///< width of the left side in characters
+constexpr int kLeftColumns = 46;  ///< width of the left side in characters
 
 // clang-format off
 constexpr std::string_view kMainButtons[] = {"cmdOpen", "cmdCreate", "cmdReset", "cmdExit"};
@@ -24,7 +24,7 @@ struct WelcomeStep {
 };
 constexpr WelcomeStep kWelcome[] = {
     {"1.  Name the job",        "Type a name, such as \"Smith - 101 Any Street\", and press Enter."},
-    {"2.  Choose the documents", "Set who sells and who buys, then double-click documents or a package."},
+    {"2.  Choose the documents", "Double-click documents or a package, then set who sells and who buys."},
     {"3.  Fill in the fields",   "They appear here. Enter goes from one to the next."},
     {"4.  CREATE",               "The documents are made, ready to print and sign."},
 };
@@ -55,7 +55,7 @@ QWidget* MainWindow::MakeLeft() {
     layout->setSpacing(6);
     name_ = new NamePanel(desk_, buttons_, appearance_, left);
     options_ = new OptionPanel(desk_, left);
-    documents_ = new DocumentPanel(desk_, left);
+    documents_ = new DocumentPanel(desk_, appearance_, left);
     layout->addWidget(name_);
     layout->addWidget(options_);
     layout->addWidget(documents_, 1);

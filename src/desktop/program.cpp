@@ -1,6 +1,6 @@
 #include "desktop/program.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QTimer>
 
 #include "desktop/guide/first_run_window.h"
@@ -49,27 +49,25 @@ Program::Program(LaunchOrder order) : order_(std::move(order)) {
     if (order_.folder.empty())
         order_.folder = DefaultProgramFolder(fs::current_path(), ProgramFile(), shell_);
     order_.folder = fs::absolute(order_.folder);
+    instance_ = std::make_unique<SingleInstance>(SingleInstance::NameFor(order_.folder));
     screen_ = std::make_unique<MainScreen>(order_.folder, MachineAround());
-    window_ = std::make_unique<MainWindow>(*screen_, opener_);
+    window_ = std::make_unique<MainWindow>(*screen_);
     boxes_.SetParent(window_.get());
     printer_.SetParent(window_.get());
+    shell_.SetParent(window_.get());
     dialogs_.beforeBox = [this] {
         window_->ShowState();
         window_->show();
     };
-    connect(&instance_, &SingleInstance::Called, this, &Program::Raise);
+    connect(instance_.get(), &SingleInstance::Called, this, &Program::TakeOver);
     connect(window_.get(), &MainWindow::Closed, this, &Program::KeepPlacement);
 }
 
 /// Upgrades are looked for when the window is up (LookForUpgrade), not while the person waits for it.
 Machine Program::MachineAround() {
     Machine machine{.clock = clock_, .dialogs = dialogs_, .shell = shell_};
-    machine.startWord = [this] {
-        word::StartedWordProcessor started = word::StartWordProcessor(word::WordProcessor::Automatic);
-        opener_.SetShownElsewhere(!started.isEmbedded);
-        return started;
-    };
-    if (!order_.shared) machine.handOver = [this] { return instance_.HandOver(); };
+    machine.startWord = [] { return word::StartWordProcessor(word::WordProcessor::Automatic); };
+    if (!order_.shared) machine.handOver = [this] { return instance_->HandOver(Shown(order_.job)); };
     machine.printer = &printer_;
     machine.programFile = ProgramFile();
     machine.waitForBooks = [this, wait = WaitForBooks()](const BooksInUse& use) mutable {
@@ -85,23 +83,25 @@ bool Program::Start() {
         StartUpgrade(order_.folder, shell_);
         return false;
     }
-    SetUpFirstRun();
+    // A newcomer is welcomed first, and only then told what has not been set up.
+    std::optional<FirstStep> first;
+    if (SetUpFirstRun() && order_.job.empty()) first = Welcome();
     if (!screen_->Start()) return false;
     if (const auto placement = ReadWindowPlacement(order_.folder)) window_->Restore(*placement);
     window_->ShowState();
     window_->show();
     if (!order_.job.empty()) OpenJob();
+    if (first) window_->CommandDesk().Do([&](MainScreen& screen) { TakeFirstStep(screen, *first); });
     QTimer::singleShot(0, this, [this] {
-        if (firstRun_ && order_.job.empty()) Welcome(window_.get(), *screen_);
-        window_->ShowState();
         if (order_.lookForUpgrade) LookForUpgrade();
     });
     return true;
 }
 
-void Program::SetUpFirstRun() {
-    firstRun_ = IsFirstRun(order_.folder);
-    if (firstRun_) SetUpProgramFolder(order_.folder, SeedFiles());
+bool Program::SetUpFirstRun() {
+    const bool isFirst = IsFirstRun(order_.folder);
+    if (isFirst) SetUpProgramFolder(order_.folder, SeedFiles());
+    return isFirst;
 }
 
 void Program::OpenJob() {
@@ -126,6 +126,23 @@ void Program::KeepPlacement() {
         if (!window_->isMinimized()) WriteWindowPlacement(order_.folder, window_->Placement());
     });
     QCoreApplication::quit();
+}
+
+/// The job of another copy comes after the one on the screen has been left, as by RESET; while a box or a
+/// side window stands open it cannot be left.
+void Program::TakeOver(const QString& job) {
+    Raise();
+    if (job.isEmpty()) return;
+    Desk& desk = window_->CommandDesk();
+    if (desk.IsBusy() || QApplication::activeModalWidget())
+        return window_->Tell(tr("\"%1\" can be opened when this window is closed").arg(job));
+    const auto reset = [](MainScreen& screen) { screen.Click("cmdReset"); };
+    desk.Do(reset);
+    const bool savedInstead = !desk.State().txtJobName.text.empty() && !desk.State().HasUnsavedChanges();
+    if (savedInstead) desk.Do(reset);
+    if (!desk.State().txtJobName.text.empty()) return;
+    order_.job = Utf8(job);
+    OpenJob();
 }
 
 void Program::Raise() {

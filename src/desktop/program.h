@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "desktop/machine/document_opener.h"
+#include "desktop/machine/desktop_shell.h"
 #include "desktop/machine/http_client.h"
 #include "desktop/machine/qt_printer.h"
 #include "desktop/machine/single_instance.h"
@@ -50,22 +50,23 @@ class Program final : public QObject {
 
  private:
     Machine MachineAround();
-    void SetUpFirstRun();
+    /// True when the program folder is new; it holds the first files by then.
+    bool SetUpFirstRun();
     void OpenJob();
     void LookForUpgrade();
     void KeepPlacement();
     void Raise();
+    void TakeOver(const QString& job);
 
     LaunchOrder order_;
-    bool firstRun_ = false;
     SystemClock clock_;
-    SystemShell shell_;
+    SystemShell system_;
+    DesktopShell shell_{system_};
     QtHttpClient http_;
     QtPrinter printer_;
     QtDialogs boxes_;
     ShowingDialogs dialogs_{boxes_};
-    DocumentOpener opener_{shell_};
-    SingleInstance instance_;
+    std::unique_ptr<SingleInstance> instance_;
     std::unique_ptr<MainScreen> screen_;
     std::unique_ptr<MainWindow> window_;
 };

@@ -5,18 +5,21 @@
 #include "desktop/side_windows/clients_window.h"
 #include "desktop/side_windows/custom_forms_dialog.h"
 #include "desktop/side_windows/packages_window.h"
+#include "desktop/toolkit/text.h"
+#include "session/state/reasons.h"
 
 namespace quillmark::desktop {
 
-SideWindowFlow::SideWindowFlow(Desk& desk, DocumentOpener& opener, QWidget& window)
-    : QObject(&window), desk_(desk), opener_(opener), window_(window) {}
+SideWindowFlow::SideWindowFlow(Desk& desk, QWidget& window)
+    : QObject(&window), desk_(desk), window_(window) {}
 
 void SideWindowFlow::Press(std::string_view name) {
+    const std::string reason = WhyDisabled(name, desk_.State());
+    if (!reason.empty()) return desk_.Refuse(Shown(reason));
     if (name == "cmdPackages") return EditPackages();
     if (!desk_.Do([name](MainScreen& screen) { screen.Click(name); })) return;
     ShowBrowserIfOpen();
     if (name == "cmdCustom") desk_.Do([this](MainScreen& screen) { ShowCustomForms(screen, &window_); });
-    if (name == "cmdCreate") OpenDocument();
 }
 
 void SideWindowFlow::ShowBrowserIfOpen() {
@@ -54,10 +57,6 @@ void SideWindowFlow::Follow() {
     desk_.Do([&](MainScreen& screen) { chosen = ShowClients(screen, &window_); });
     choosing_ = false;
     if (!chosen && desk_.Screen().ChoosingClient()) window_.close();
-}
-
-void SideWindowFlow::OpenDocument() {
-    if (const auto document = desk_.Screen().LastDocument()) opener_.Open(*document, window_);
 }
 
 }  // namespace quillmark::desktop

@@ -4,7 +4,6 @@
 #include <QWidget>
 #include <string_view>
 
-#include "desktop/machine/document_opener.h"
 #include "desktop/side_windows/calculator_window.h"
 #include "desktop/toolkit/desk.h"
 
@@ -15,8 +14,7 @@ class SideWindowFlow final : public QObject {
     Q_OBJECT
 
  public:
-    /// `opener` must outlive the object.
-    SideWindowFlow(Desk& desk, DocumentOpener& opener, QWidget& window);
+    SideWindowFlow(Desk& desk, QWidget& window);
 
     /// A click on the main screen's button of that name, and the window it leads to.
     void Press(std::string_view name);
@@ -33,10 +31,8 @@ class SideWindowFlow final : public QObject {
  private:
     void ShowBrowserIfOpen();
     void EditPackages();
-    void OpenDocument();
 
     Desk& desk_;
-    DocumentOpener& opener_;
     QWidget& window_;
     QPointer<CalculatorWindow> calculator_;
     bool choosing_ = false;

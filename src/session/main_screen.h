@@ -67,6 +67,7 @@ class MainScreen {
     void DoubleClickGrid(int row, int column) { editor_.DoubleClick(row, column); }
     void KeyInGrid(EditorKey key) { editor_.KeyInGrid(key); }
     void TypeInGrid(std::string_view character) { editor_.TypeInGrid(character); }
+    void MoveCursor(int row) { editor_.MoveCursor(row); }
     void KeyInEditor(std::string_view character) { editor_.KeyInEditor(character); }
     void KeyInEditor(EditorKey key) { editor_.KeyInEditor(key); }
     void SetEditorText(EditorText text) { editor_.SetEditorText(std::move(text)); }

@@ -37,8 +37,36 @@ TEST_F(DialogsTest, EnterTakesTheDefaultAndEscapeCancelsWhereItCan) {
     EXPECT_EQ(Answer({"", "Done"}, Qt::Key_Escape), OK);
     const MessageDialog question{"  ALERT", "Save?", {Yes, No}, No, DialogIcon::Question};
     EXPECT_EQ(Answer(question, Qt::Key_Return), No);
-    EXPECT_EQ(Answer(question, Qt::Key_Escape), No);
     EXPECT_EQ(Answer(question, Qt::Key_Y), Yes);
+}
+
+TEST_F(DialogsTest, AQuestionWithoutCancelStaysUntilItIsAnswered) {
+    using enum DialogButton;
+    for (const DialogButton preset : {Yes, No}) {
+        const WhenOpened opened([](QWidget& window) {
+            Press(window, Qt::Key_Escape);
+            window.close();
+            EXPECT_TRUE(window.isVisible());
+            Press(window, Qt::Key_N);
+        });
+        EXPECT_EQ(boxes.Show({"  ALERT", "Save?", {Yes, No}, preset, DialogIcon::Question}), No);
+    }
+}
+
+TEST_F(DialogsTest, AQuestionIsAsWideAsItsTitle) {
+    const char* const title = " A QUESTION OF THE CLOSING STATEMENT WITH A TITLE OF MORE WORDS THAN ITS TEXT";
+    const auto isWide = [&](QWidget& window) {
+        QFont bold = window.font();
+        bold.setBold(true);
+        EXPECT_GT(window.width(), QFontMetrics(bold).horizontalAdvance(QLatin1String(title)) + 100);
+        Press(window, Qt::Key_Return);
+    };
+    {
+        const WhenOpened opened(isWide);
+        boxes.Show({title, "Why?"});
+    }
+    const WhenOpened opened(isWide);
+    boxes.Ask({title, "Why?", ""});
 }
 
 TEST_F(DialogsTest, ABoxShowsItsTextAsItStandsAndALongOneFits) {

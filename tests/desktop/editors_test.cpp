@@ -8,6 +8,7 @@
 #include "desktop/grid/block_editor.h"
 #include "desktop/grid/month_view.h"
 #include "desktop/grid/pictures.h"
+#include "desktop/grid/pop_list.h"
 #include "desktop/panels/settings_view.h"
 #include "desktop/side_windows_support.h"
 
@@ -28,6 +29,20 @@ TEST(Pictures, ABitmapComesBackAsThePictureThatItWas) {
     EXPECT_EQ(again.pixelColor(0, 0), QColor(Qt::white));
     EXPECT_TRUE(PictureOf("BM no picture").isNull());
     EXPECT_TRUE(BitmapOf({}).empty());
+}
+
+TEST(ListUnderAnEditor, ShowsEveryRecordWhole) {
+    PopList list(QStringLiteral("Combo2"), QStringLiteral("Address book"), nullptr);
+    list.ShowLines(
+        {"< SELECT FROM DATABASE >",
+         "Hale and Hale _ Nora Hale _ 1 Main Street _ Suite 2 _ Guilford, CT 06437 _ (203) 555-0100"},
+        0);
+    list.resize(list.WantedSize());
+    list.show();
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(1))));
+    EXPECT_GE(list.viewport()->width(), list.sizeHintForColumn(0));
+    list.resize(list.width() / 2, list.height());
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(1)).bottomLeft()));
 }
 
 TEST(Pictures, AClipboardWithTextAndPictureCountsAsText) {

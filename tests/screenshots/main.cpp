@@ -50,12 +50,6 @@ class NoShell final : public Shell {
     std::filesystem::path home_;
 };
 
-class NoOpener final : public DocumentOpener {
- public:
-    using DocumentOpener::DocumentOpener;
-    void Open(const std::filesystem::path&, QWidget&) override {}
-};
-
 void Settle() {
     for (int i = 0; i < 5; ++i) QApplication::processEvents();
 }
@@ -127,7 +121,6 @@ class Studio {
     FixedClock clock_{std::chrono::year(2026) / 3 / 9};
     ScriptedDialogs dialogs_;
     NoShell shell_{scratch_.path()};
-    NoOpener opener_{shell_};
     MainScreen screen_{
         scratch_.path(),
         Machine{.clock = clock_,
@@ -136,7 +129,7 @@ class Studio {
                 .startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
                 .handOver = {},
                 .programFile = {}}};
-    MainWindow window_{screen_, opener_};
+    MainWindow window_{screen_};
 };
 
 void StartSmith(Studio& studio) {

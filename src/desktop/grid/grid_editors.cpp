@@ -1,9 +1,6 @@
 #include "desktop/grid/grid_editors.h"
 
-#include <QMenu>
-
 #include "core/field_registry.h"
-#include "desktop/grid/pictures.h"
 #include "desktop/toolkit/controls.h"
 #include "desktop/toolkit/text.h"
 
@@ -25,20 +22,20 @@ GridEditors::GridEditors(Desk& desk, GridView& grid, QWidget& ground)
       MonthView1_(new MonthView(&ground)),
       Combo1_(new PopList(QStringLiteral("Combo1"), tr("Choices"), &ground)),
       Combo2_(new PopList(QStringLiteral("Combo2"), tr("Address book"), &ground)),
-      menu_(new QMenu(&ground)) {
+      menu_(new EditMenu(desk, *txtEdit_, *txtBlock_, &ground)) {
     MonthView1_->setObjectName(QStringLiteral("MonthView1"));
     txtBlock_->setObjectName(QStringLiteral("txtBlock"));
     MonthView1_->hide();
     txtBlock_->hide();
-    MakeMenu();
     ConnectCalendar();
     ConnectBlock();
     ConnectLists();
-    connect(&around_, &EditorSignals::MenuWanted, this, &GridEditors::OpenMenu);
-    connect(&around_, &EditorSignals::PasteWanted, this, &GridEditors::Paste);
+    connect(&around_, &EditorSignals::MenuWanted, menu_, &EditMenu::OpenOverEditor);
+    connect(&around_, &EditorSignals::PasteWanted, menu_, &EditMenu::PasteIntoEditor);
     connect(&around_, &EditorSignals::ChoicesWanted, this, &GridEditors::FocusChoices);
     connect(&around_, &EditorSignals::NoteWanted, this, &GridEditors::ClickNote);
-    connect(&grid_, &GridView::MenuWanted, this, &GridEditors::OpenMenu);
+    connect(&grid_, &GridView::MenuWanted, menu_, &EditMenu::OpenOverEditor);
+    connect(&grid_, &GridView::LockedMenuWanted, menu_, &EditMenu::OpenOverLocked);
     connect(&grid_, &GridView::Moved, this, &GridEditors::Place);
 }
 
@@ -58,23 +55,8 @@ void GridEditors::ConnectBlock() {
     });
     connect(txtBlock_, &BlockEditor::KeyPressed, this,
             [this](EditorKey key) { desk_.Do([&](MainScreen& screen) { screen.KeyInEditor(key); }); });
-    connect(txtBlock_, &BlockEditor::PasteWanted, this, &GridEditors::Paste);
-    connect(txtBlock_, &BlockEditor::MenuWanted, this, &GridEditors::OpenMenu);
-}
-
-void GridEditors::MakeMenu() {
-    menu_->setAttribute(Qt::WA_WindowPropagation);
-    menu_->setObjectName(QStringLiteral("mnuEdit"));
-    const auto clears = [this] { desk_.Do([](MainScreen& screen) { screen.ClearValue(); }); };
-    menu_->addAction(tr("Cu&t"), this, [this] { CutOrCopy(true); })->setShortcut(QKeySequence::Cut);
-    menu_->addAction(tr("&Copy"), this, [this] { CutOrCopy(false); })->setShortcut(QKeySequence::Copy);
-    menu_->addAction(tr("&Paste"), this, [this] { Paste(); })->setShortcut(QKeySequence::Paste);
-    menu_->addAction(tr("Select &All"), this,
-                     [this] { desk_.Do([](MainScreen& screen) { screen.SelectAll(); }); });
-    menu_->addSeparator();
-    menu_->addAction(tr("C&lear"), this, clears);
-    mnuView_ = menu_->addAction(tr("&View picture"), this,
-                                [this] { desk_.Do([](MainScreen& screen) { screen.ViewPicture(); }); });
+    connect(txtBlock_, &BlockEditor::PasteWanted, menu_, &EditMenu::PasteIntoEditor);
+    connect(txtBlock_, &BlockEditor::MenuWanted, menu_, &EditMenu::OpenOverEditor);
 }
 
 void GridEditors::ConnectLists() {
@@ -162,28 +144,15 @@ void GridEditors::ShowLists() {
     const QRect wide = grid_.CellRect(editor.EditRow, GridModel::kValue, GridModel::kSecondNote);
     if (editor.Combo1.open && !cell.isNull()) {
         Combo1_->ShowLines(editor.Combo1.lines, editor.Combo1.current);
-        PlaceUnder(Combo1_, cell, {cell.width(), Combo1_->WantedHeight()});
+        PlaceUnder(Combo1_, cell, Combo1_->WantedSize().expandedTo({cell.width(), 0}));
     } else {
         Combo1_->hide();
     }
     if (editor.Combo2 && !cell.isNull()) {
         Combo2_->ShowLines(editor.Combo2->lines, 0);
-        PlaceUnder(Combo2_, cell, {wide.width(), Combo2_->WantedHeight()});
+        PlaceUnder(Combo2_, cell, Combo2_->WantedSize().expandedTo({wide.width(), 0}));
     } else {
         Combo2_->hide();
-    }
-}
-
-void GridEditors::Paste() {
-    desk_.Do([clipboard = ReadClipboard()](MainScreen& screen) { screen.Paste(clipboard); });
-}
-
-void GridEditors::CutOrCopy(bool cut) {
-    if (txtEdit_->isVisible()) {
-        cut ? txtEdit_->cut() : txtEdit_->copy();
-        txtEdit_->Report();
-    } else if (txtBlock_->isVisible()) {
-        cut ? txtBlock_->Cut() : txtBlock_->Copy();
     }
 }
 
@@ -196,11 +165,6 @@ void GridEditors::FocusChoices() {
     for (QWidget* list : {static_cast<QWidget*>(Combo1_), static_cast<QWidget*>(Combo2_)})
         if (list->isVisible()) return list->setFocus();
     if (MonthView1_->isVisible()) MonthView1_->setFocus();
-}
-
-void GridEditors::OpenMenu(const QPoint& point) {
-    mnuView_->setVisible(desk_.Editor().ImageInField);
-    menu_->popup(point);
 }
 
 }  // namespace quillmark::desktop

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "desktop/grid/block_editor.h"
+#include "desktop/grid/edit_menu.h"
 #include "desktop/grid/grid_view.h"
 #include "desktop/grid/line_editor.h"
 #include "desktop/grid/month_view.h"
 #include "desktop/grid/pop_list.h"
-
-class QMenu;
 
 namespace quillmark::desktop {
 
@@ -30,16 +29,12 @@ class GridEditors final : public QObject {
     void ConnectCalendar();
     void ConnectBlock();
     void ConnectLists();
-    void MakeMenu();
     void Place();
     void ShowCalendar();
     void ShowLists();
     void PlaceUnder(QWidget* widget, const QRect& cell, QSize size) const;
-    void Paste();
-    void CutOrCopy(bool cut);
     void ClickNote(int column);
     void FocusChoices();
-    void OpenMenu(const QPoint& point);
 
     Desk& desk_;
     GridView& grid_;
@@ -50,8 +45,7 @@ class GridEditors final : public QObject {
     MonthView* MonthView1_;
     PopList* Combo1_;
     PopList* Combo2_;
-    QMenu* menu_;
-    QAction* mnuView_ = nullptr;
+    EditMenu* menu_;
 };
 
 }  // namespace quillmark::desktop

@@ -1,6 +1,7 @@
 #include "desktop/grid/grid_view.h"
 
 #include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -99,14 +100,18 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
-    const QModelIndex cell = indexAt(event->pos());
-    if (event->reason() == QContextMenuEvent::Mouse) {
-        if (!cell.isValid()) return;
-        if (desk_.Editor().EditRow != cell.row() &&
-            !desk_.Do([&](MainScreen& screen) { screen.ClickGrid(cell.row(), GridModel::kValue); }))
-            return;
-    }
-    Q_EMIT MenuWanted(event->globalPos());
+    const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
+    const int row = byMouse ? indexAt(event->pos()).row() : RowToStartFrom();
+    if (row < 0 || model_.Row(row).kind == RowKind::Heading) return;
+    if (desk_.Editor().EditRow != row &&
+        !desk_.Do([row](MainScreen& screen) { screen.ClickGrid(row, GridModel::kValue); }))
+        return;
+    const QPoint point =
+        byMouse ? event->globalPos() : viewport()->mapToGlobal(visualRect(model_.index(row, 0)).center());
+    if (model_.Row(row).locked)
+        Q_EMIT LockedMenuWanted(row, point);
+    else
+        Q_EMIT MenuWanted(point);
 }
 
 int GridView::RowToStartFrom() const {
@@ -116,10 +121,6 @@ int GridView::RowToStartFrom() const {
 
 void GridView::keyPressEvent(QKeyEvent* event) {
     const int row = RowToStartFrom();
-    const auto page = [&](int direction) {
-        verticalScrollBar()->triggerAction(direction < 0 ? QAbstractSlider::SliderPageStepSub
-                                                         : QAbstractSlider::SliderPageStepAdd);
-    };
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
@@ -133,25 +134,52 @@ void GridView::keyPressEvent(QKeyEvent* event) {
             desk_.Do([](MainScreen& screen) { screen.KeyInGrid(EditorKey::Down); });
             return;
         case Qt::Key_PageUp:
-            return page(-1);
+            return MoveCursorByPage(-1);
         case Qt::Key_PageDown:
-            return page(1);
+            return MoveCursorByPage(1);
         case Qt::Key_Home:
-            return verticalScrollBar()->setValue(0);
+            return MoveCursorTo(0);
         case Qt::Key_End:
-            return verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+            return MoveCursorTo(model_.rowCount() - 1);
         case Qt::Key_F2:
-            desk_.Do([row](MainScreen& screen) { screen.DoubleClickGrid(row, GridModel::kValue); });
+            if (row >= 0)
+                desk_.Do([row](MainScreen& screen) { screen.DoubleClickGrid(row, GridModel::kValue); });
             return;
         case Qt::Key_F7:
-            desk_.Do([row](MainScreen& screen) { screen.ClickGrid(row, GridModel::kFirstNote); });
+            if (row >= 0)
+                desk_.Do([row](MainScreen& screen) { screen.ClickGrid(row, GridModel::kFirstNote); });
             return;
         case Qt::Key_F8:
-            desk_.Do([row](MainScreen& screen) { screen.ClickGrid(row, GridModel::kSecondNote); });
+            if (row >= 0)
+                desk_.Do([row](MainScreen& screen) { screen.ClickGrid(row, GridModel::kSecondNote); });
             return;
         default:
-            event->ignore();
+            TypeInRow(*event);
     }
+}
+
+void GridView::MoveCursorTo(int row) {
+    if (model_.rowCount() > 0) desk_.Do([row](MainScreen& screen) { screen.MoveCursor(row); });
+}
+
+void GridView::MoveCursorByPage(int direction) {
+    const int page = std::max(1, desk_.Editor().rowsOnScreen - 1);
+    const int row = std::max(0, desk_.State().currentRow) + direction * page;
+    MoveCursorTo(std::clamp(row, 0, std::max(0, model_.rowCount() - 1)));
+}
+
+/// A letter opens the row and is the first of its new value; on a locked row the guidance tells how to open
+/// it.
+void GridView::TypeInRow(QKeyEvent& key) {
+    const int row = RowToStartFrom();
+    const bool isShortcut = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (row < 0 || isShortcut || key.text().isEmpty() || !key.text().front().isPrint()) return key.ignore();
+    const bool locked = model_.Row(row).locked;
+    const auto open = [&](MainScreen& screen) {
+        locked ? screen.ClickGrid(row, GridModel::kValue) : screen.KeyInGrid(EditorKey::Enter);
+    };
+    if (!desk_.Do(open) || !desk_.Editor().IsOpen()) return;
+    if (QWidget* editor = window()->focusWidget(); editor != this) QCoreApplication::sendEvent(editor, &key);
 }
 
 /// Tab goes down the rows, as in the editors; behind the last one, or with Control, it leaves the grid.

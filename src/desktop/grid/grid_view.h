@@ -21,8 +21,10 @@ class GridView final : public QTableView {
     QRect CellRect(int row, int first, int last) const;
 
  Q_SIGNALS:
-    /// The right mouse button, or the menu key, on a row; the point is global.
+    /// The right mouse button, or the menu key, on a row whose editor is open now, or on one that is locked;
+    /// the point is global.
     void MenuWanted(const QPoint& point);
+    void LockedMenuWanted(int row, const QPoint& point);
     /// Rows have moved or columns changed their width: what lies over them has to follow.
     void Moved();
 
@@ -41,6 +43,9 @@ class GridView final : public QTableView {
 
  private:
     bool TakeTab(const QKeyEvent& key);
+    void MoveCursorTo(int row);
+    void MoveCursorByPage(int direction);
+    void TypeInRow(QKeyEvent& key);
     void ScrolledTo(int topRow);
     void FitRows();
     void FitColumns();

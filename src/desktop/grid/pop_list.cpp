@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "desktop/toolkit/controls.h"
@@ -19,22 +20,35 @@ PopList::PopList(const QString& objectName, const QString& name, QWidget* parent
     setObjectName(objectName);
     setUniformItemSizes(true);
     setFocusPolicy(Qt::ClickFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);  // it would lie over the last line
+    setTextElideMode(Qt::ElideRight);
     setFrameStyle(QFrame::Box | QFrame::Plain);
     Describe(this, name, tr("Enter picks the line, Escape closes the list"));
     hide();
 }
 
 void PopList::ShowLines(const std::vector<std::string>& lines, std::size_t current) {
+    typeAhead_.Forget();
     if (lines == lines_) return;
     lines_ = lines;
     clear();
-    for (const std::string& line : lines) addItem(Shown(line).trimmed());
+    for (const std::string& line : lines) {
+        addItem(Shown(line).trimmed());
+        item(count() - 1)->setToolTip(item(count() - 1)->text());
+    }
     if (count() > 0) setCurrentRow(static_cast<int>(std::min(current, lines.size() - 1)));
 }
 
-int PopList::WantedHeight() const {
+QSize PopList::WantedSize() const {
     const int line = std::max(sizeHintForRow(0), fontMetrics().height());
-    return line * std::clamp(count(), 1, kMostLines) + 2 * frameWidth() + 2;
+    const int frame = 2 * frameWidth() + 2;
+    const int bar = count() > kMostLines ? verticalScrollBar()->sizeHint().width() : 0;
+    return {sizeHintForColumn(0) + frame + bar, line * std::clamp(count(), 1, kMostLines) + frame};
+}
+
+void PopList::keyboardSearch(const QString& letter) {
+    const int line = typeAhead_.Search(*model(), currentRow(), letter);
+    if (line >= 0) setCurrentRow(line);
 }
 
 bool PopList::TakeKey(int key) {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "desktop/toolkit/type_ahead.h"
 #include "session/grid/grid_editor.h"
 
 namespace quillmark::desktop {
@@ -16,8 +17,9 @@ class PopList final : public QListWidget {
     PopList(const QString& objectName, const QString& name, QWidget* parent);
 
     void ShowLines(const std::vector<std::string>& lines, std::size_t current);
-    /// Height for its lines, up to a limit.
-    int WantedHeight() const;
+    /// Room for its lines, up to a number of them, and for the longest to be read whole.
+    QSize WantedSize() const;
+    void keyboardSearch(const QString& letter) override;
 
  Q_SIGNALS:
     void Picked(int line);
@@ -31,6 +33,7 @@ class PopList final : public QListWidget {
     bool TakeKey(int key);
 
     std::vector<std::string> lines_;
+    TypeAhead typeAhead_;
 };
 
 }  // namespace quillmark::desktop

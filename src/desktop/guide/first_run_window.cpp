@@ -65,7 +65,7 @@ FirstRunWindow::FirstRunWindow(QWidget* parent) : SideWindow(parent, "Welcome") 
                          "to this list at any time by typing DEFAULTS in the name box."),
           FirstStep::FirmDefaults, QStringLiteral("cmdDefaults"));
     Offer(QStringLiteral("Start a job of your own"),
-          QStringLiteral("Type a name for it, press Enter, and double-click the documents that you need."),
+          QStringLiteral("Type a name for it, press Enter, choose documents first, then fill in the fields."),
           FirstStep::NewJob, QStringLiteral("cmdNewJob"));
     column->addWidget(Paragraph(QStringLiteral("Press F1 anywhere for the user's guide.")));
     findChild<QCommandLinkButton*>(QStringLiteral("cmdSample"))->setFocus();
@@ -85,10 +85,10 @@ void FirstRunWindow::Offer(const QString& caption, const QString& explanation, F
     layout()->addWidget(button);
 }
 
-void Welcome(QWidget* parent, MainScreen& screen) {
-    FirstRunWindow window(parent);
+FirstStep Welcome() {
+    FirstRunWindow window(nullptr);
     window.exec();
-    TakeFirstStep(screen, window.Step());
+    return window.Step();
 }
 
 }  // namespace quillmark::desktop

@@ -25,8 +25,7 @@ class FirstRunWindow final : public SideWindow {
     Mnemonics keys_;
 };
 
-/// Shows the page over the main window and does what was chosen. The window is to show the screen's state
-/// anew afterwards.
-void Welcome(QWidget* parent, MainScreen& screen);
+/// Shows the page; what was chosen on it.
+FirstStep Welcome();
 
 }  // namespace quillmark::desktop

@@ -1,30 +1,38 @@
 #include "desktop/machine/single_instance.h"
 
 #include <QDir>
-#include <QLocalSocket>
+
+#include "desktop/toolkit/text.h"
+#include "platform/paths.h"
 
 namespace quillmark::desktop {
 
 namespace {
 
-constexpr int kPatience = 1000;  ///< milliseconds that another copy has to answer
+constexpr int kPatience = 1000;     ///< milliseconds that another copy has to answer
+constexpr qint64 kLongest = 16384;  ///< bytes of a job's name or path
 
 }  // namespace
 
-SingleInstance::SingleInstance(QString name) : name_(std::move(name)) {
+/// The home folder tells users apart who share a computer.
+QString SingleInstance::NameFor(const std::filesystem::path& programFolder) {
+    std::error_code unresolved;
+    const auto folder = std::filesystem::weakly_canonical(programFolder, unresolved);
+    const QString place = Shown(TextOf(unresolved ? programFolder : folder));
+    return QStringLiteral("quillmark-%1").arg(qHash(QDir::homePath() + QLatin1Char('\n') + place), 0, 16);
+}
+
+void SingleInstance::Listen() {
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     connect(&server_, &QLocalServer::newConnection, this, &SingleInstance::Answer);
 }
 
-/// The home folder tells users apart who share a computer.
-QString SingleInstance::DefaultName() {
-    return QStringLiteral("quillmark-%1").arg(qHash(QDir::homePath()), 0, 16);
-}
-
-bool SingleInstance::HandOver() {
+bool SingleInstance::HandOver(const QString& job) {
     QLocalSocket other;
     other.connectToServer(name_);
     if (other.waitForConnected(kPatience)) {
+        other.write(job.toUtf8() + '\n');
+        other.waitForBytesWritten(kPatience);
         other.waitForDisconnected(kPatience);
         return true;
     }
@@ -37,9 +45,19 @@ bool SingleInstance::HandOver() {
 void SingleInstance::Answer() {
     while (QLocalSocket* caller = server_.nextPendingConnection()) {
         connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-        caller->disconnectFromServer();
+        connect(caller, &QLocalSocket::readyRead, this, [this, caller] { Read(caller); });
+        Read(caller);
     }
-    Q_EMIT Called();
+}
+
+void SingleInstance::Read(QLocalSocket* caller) {
+    if (!caller->canReadLine()) {
+        if (caller->bytesAvailable() > kLongest) caller->abort();
+        return;
+    }
+    const QString job = QString::fromUtf8(caller->readLine(kLongest)).trimmed();
+    caller->disconnectFromServer();
+    Q_EMIT Called(job);
 }
 
 }  // namespace quillmark::desktop

@@ -2,11 +2,27 @@
 
 #include <QLabel>
 #include <QListWidget>
+#include <QStyledItemDelegate>
 #include <QWidget>
 
+#include "desktop/toolkit/appearance.h"
 #include "desktop/toolkit/desk.h"
+#include "desktop/toolkit/type_ahead.h"
 
 namespace quillmark::desktop {
+
+/// A line of the job list: one that goes on legal paper has a badge that says so, and no line looks selected.
+class JobLine final : public QStyledItemDelegate {
+ public:
+    JobLine(const Appearance& appearance, QObject* parent)
+        : QStyledItemDelegate(parent), appearance_(appearance) {}
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+
+ private:
+    const Appearance& appearance_;
+};
 
 /// A list box whose lines are opened by a double click, Enter, or a key that stands for it.
 class DocumentList final : public QListWidget {
@@ -20,6 +36,7 @@ class DocumentList final : public QListWidget {
     const std::vector<std::string>& Lines() const { return lines_; }
     /// Delete opens a line, too.
     void OpenByDelete() { openByDelete_ = true; }
+    void keyboardSearch(const QString& letter) override;
 
  Q_SIGNALS:
     void Opened(const std::string& line);
@@ -32,6 +49,7 @@ class DocumentList final : public QListWidget {
     void OpenLine(int row);
 
     std::vector<std::string> lines_;
+    TypeAhead typeAhead_;
     bool openByDelete_ = false;
 };
 
@@ -40,7 +58,7 @@ class DocumentPanel final : public QWidget {
     Q_OBJECT
 
  public:
-    DocumentPanel(Desk& desk, QWidget* parent);
+    DocumentPanel(Desk& desk, const Appearance& appearance, QWidget* parent);
 
     void Show();
     QListWidget* Catalogue() const { return List1_; }

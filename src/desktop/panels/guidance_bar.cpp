@@ -9,6 +9,17 @@
 
 namespace quillmark::desktop {
 
+namespace {
+
+/// The session's refusals are parts of a sentence.
+QString Sentence(QString text) {
+    if (!text.isEmpty()) text.front() = text.front().toUpper();
+    if (!text.isEmpty() && text.back().isLetterOrNumber()) text += QLatin1Char('.');
+    return text;
+}
+
+}  // namespace
+
 GuidanceBar::GuidanceBar(Desk& desk, const Appearance& appearance, QWidget* parent)
     : QLabel(parent), desk_(desk), appearance_(appearance) {
     setObjectName(QStringLiteral("picInfo"));
@@ -74,7 +85,8 @@ QColor GuidanceBar::ColourOf(InfoColour colour) const {
 
 void GuidanceBar::ShowRefusal(const QString& reason) {
     QApplication::beep();
-    if (Shown(desk_.State().picInfo).trimmed().isEmpty()) Say(reason, reason, false);
+    const QString sentence = Sentence(reason);
+    Say(sentence, sentence, false);
 }
 
 void GuidanceBar::Say(const QString& plain, const QString& shown, bool rich) {

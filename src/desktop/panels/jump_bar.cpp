@@ -1,8 +1,7 @@
 #include "desktop/panels/jump_bar.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
-
-#include "desktop/toolkit/controls.h"
 
 namespace quillmark::desktop {
 
@@ -10,6 +9,9 @@ namespace {
 
 constexpr const char* kCaptions[] = {
     "", "ATTORNEY", "SELLER/FIDUCIARY", "BUYER", "PROPERTY/TRANSACTION", "PAYOFF/ESCROW", "ADJUSTMENTS"};
+
+constexpr double kFont = 0.86;  ///< of the window's, so that all six fit beside the documents
+const QString kComplete = QStringLiteral(" ✓");
 
 QPalette MarkPalette(const StateColours& colours) {
     QPalette mark;
@@ -24,11 +26,12 @@ JumpBar::JumpBar(Desk& desk, const Appearance& appearance, QWidget* parent)
     : QWidget(parent), desk_(desk), appearance_(appearance) {
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
-    layout->setSpacing(4);
+    layout->setSpacing(3);
     for (int g = 1; g <= kLabels; ++g) {
-        auto* label = new QPushButton(QLatin1String(kCaptions[g]), this);
+        auto* label = new CompactButton(QLatin1String(kCaptions[g]), this);
         label->setObjectName(QStringLiteral("lblJump%1").arg(g));
         label->setAutoDefault(false);
+        label->KeepRoomFor(label->text() + kComplete);
         label->setShortcut(QKeySequence(Qt::ALT | (Qt::Key_0 + g)));
         label->setToolTip(tr("go to this group (Alt+%1)").arg(g));
         Describe(label, tr("Go to %1").arg(label->text()), label->toolTip());
@@ -38,15 +41,27 @@ JumpBar::JumpBar(Desk& desk, const Appearance& appearance, QWidget* parent)
         label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         layout->addWidget(label);
     }
+    FitFont();
+}
+
+void JumpBar::FitFont() {
+    QFont smaller = font();
+    smaller.setPointSizeF(smaller.pointSizeF() * kFont);
+    for (std::size_t g = 1; g < lblJump_.size(); ++g) lblJump_[g]->setFont(smaller);
+}
+
+void JumpBar::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange && lblJump_.back()) FitFont();
 }
 
 void JumpBar::Show() {
     for (std::size_t g = 1; g < lblJump_.size(); ++g) {
         const JumpLabel& state = desk_.State().lblJump(g);
-        QPushButton* label = lblJump_[g];
+        CompactButton* label = lblJump_[g];
         label->setEnabled(state.enabled);
-        const QString caption = QLatin1String(kCaptions[g]) +
-                                (state.complete && state.enabled ? QStringLiteral(" ✓") : QString());
+        const QString caption =
+            QLatin1String(kCaptions[g]) + (state.complete && state.enabled ? kComplete : QString());
         if (label->text() != caption) {
             const QKeySequence key = label->shortcut();
             label->setText(caption);

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QPushButton>
 #include <QWidget>
 #include <array>
 
 #include "desktop/toolkit/appearance.h"
+#include "desktop/toolkit/controls.h"
 #include "desktop/toolkit/desk.h"
 
 namespace quillmark::desktop {
@@ -18,12 +18,17 @@ class JumpBar final : public QWidget {
 
     void Show();
 
+ protected:
+    void changeEvent(QEvent* event) override;
+
  private:
     static constexpr int kLabels = 6;
 
+    void FitFont();
+
     Desk& desk_;
     const Appearance& appearance_;
-    std::array<QPushButton*, kLabels + 1> lblJump_ = {};
+    std::array<CompactButton*, kLabels + 1> lblJump_ = {};
 };
 
 }  // namespace quillmark::desktop

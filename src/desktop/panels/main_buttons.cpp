@@ -63,7 +63,7 @@ MainButtons::MainButtons(Desk& desk, const Appearance& appearance, QObject* pare
     : QObject(parent), desk_(desk), appearance_(appearance) {}
 
 QPushButton* MainButtons::Make(std::string_view name, QWidget* parent) {
-    auto* widget = new QPushButton(parent);
+    auto* widget = new CompactButton(parent);
     widget->setObjectName(Shown(name));
     widget->setAutoDefault(false);
     made_.push_back({name, RowOf(name).state, widget});

@@ -72,6 +72,8 @@ void Appearance::ApplyPalette() {
                 .jumpMark  = Dimmed(StateColour(0xE0E0E0)),
                 .jumpText  = StateColour(0xFF0000),
                 .template_ = Dimmed(StateColour(kHighlight)),
+                .badge     = dark ? QColor(0x3A, 0x5A, 0x78) : Dimmed(QColor(0xCF, 0xE3, 0xF4)),
+                .badgeText = dark ? Dimmed(QColor(0xE6, 0xF1, 0xFA)) : QColor(0x12, 0x3A, 0x5A),
                 .alarm     = dark ? Dimmed(QColor(0xFF, 0x8A, 0x80)) : QColor(0xB0, 0x00, 0x00),
                 .notice    = dark ? Dimmed(QColor(0x8A, 0xB4, 0xF8)) : QColor(0x00, 0x00, 0xC0)};
     // clang-format on

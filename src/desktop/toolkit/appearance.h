@@ -16,8 +16,10 @@ struct StateColours {
     QColor jumpMark;   ///< of the current jump label, and the text on it
     QColor jumpText;
     QColor template_;  ///< of `cmdTemplate` while a template is being set
-    QColor alarm;      ///< text of errors and of an unsaved name
-    QColor notice;     ///< text of what to do next
+    QColor badge;      ///< behind a short word about a line, and the word itself
+    QColor badgeText;
+    QColor alarm;   ///< text of errors and of an unsaved name
+    QColor notice;  ///< text of what to do next
 };
 
 /// Scale and brightness of one window and of the windows that it opens, which take over its font and palette.

@@ -2,6 +2,7 @@
 
 #include <QFrame>
 #include <QPalette>
+#include <algorithm>
 
 #include "desktop/toolkit/text.h"
 
@@ -63,6 +64,14 @@ void SetBackground(QAbstractButton* widget, const QColor& colour) {
         palette.setColor(QPalette::ButtonText, Qt::black);
     }
     widget->setPalette(palette);
+}
+
+QSize CompactButton::sizeHint() const {
+    constexpr int kPadding = 5;
+    const auto widthOf = [this](const QString& caption) {
+        return fontMetrics().size(Qt::TextShowMnemonic, caption).width() + 2 * kPadding;
+    };
+    return {std::max(widthOf(text()), widthOf(widest_)), QPushButton::sizeHint().height()};
 }
 
 QLabel* NewGuidance(QWidget* window, std::string_view text) {

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QColor>
 #include <QLabel>
+#include <QPushButton>
 #include <QSet>
 #include <QString>
 #include <QStyledItemDelegate>
@@ -40,6 +41,19 @@ void Caption(QAbstractButton* widget, const Button& button, Mnemonics& keys, cha
 void ShowButton(QAbstractButton* widget, const Button& button);
 /// Gives a button that colour behind dark text; an invalid colour puts back its own.
 void SetBackground(QAbstractButton* widget, const QColor& colour);
+
+/// A button no wider than its caption needs, where the toolkit's own never get narrower than a dialog's.
+class CompactButton : public QPushButton {
+ public:
+    using QPushButton::QPushButton;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+    /// Room is kept for this caption as well, so that nothing moves when it comes.
+    void KeepRoomFor(const QString& caption) { widest_ = caption; }
+
+ private:
+    QString widest_;
+};
 
 /// The bar at the foot of a window that says what can be done.
 QLabel* NewGuidance(QWidget* window, std::string_view text);

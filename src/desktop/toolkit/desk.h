@@ -28,6 +28,8 @@ class Desk final : public QObject {
     bool Do(const Command& command);
     /// The same for what merely follows from another event: no refusal is told.
     bool DoQuietly(const Command& command);
+    /// Tells why a command is not even tried.
+    void Refuse(const QString& reason) { Q_EMIT Refused(reason); }
     /// A command is running: a box of its own may be on the screen, and events are no commands.
     bool IsBusy() const { return busy_; }
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QGridLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -56,9 +57,40 @@ void SetTextOf(QMessageBox& window, const QString& text) {
     Describe(&window, window.windowTitle(), text);
 }
 
-DialogButton EscapeButtonOf(const MessageDialog& box) {
+/// What leaving the box without an answer means: Cancel, or the box's only button. Nothing for a question
+/// that has to be answered.
+std::optional<DialogButton> EscapeButtonOf(const MessageDialog& box) {
     const auto cancel = std::find(box.buttons.begin(), box.buttons.end(), DialogButton::Cancel);
-    return cancel == box.buttons.end() ? box.defaultButton : *cancel;
+    if (cancel != box.buttons.end()) return *cancel;
+    return box.buttons.size() == 1 ? std::optional(box.buttons.front()) : std::nullopt;
+}
+
+/// A box that Escape and the window's close button leave only where there is a button for that.
+class Box final : public QMessageBox {
+ public:
+    Box(QWidget* parent, std::optional<DialogButton> escape) : QMessageBox(parent), stays_(!escape) {
+        setWindowFlag(Qt::WindowCloseButtonHint, !stays_);
+    }
+
+ protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (stays_ && event->matches(QKeySequence::Cancel)) return;
+        QMessageBox::keyPressEvent(event);
+    }
+    void closeEvent(QCloseEvent* event) override {
+        if (stays_) return event->ignore();
+        QMessageBox::closeEvent(event);
+    }
+
+ private:
+    bool stays_;
+};
+
+/// The toolkit leaves less room for the title than the frames of most desktops take.
+void FitTitleOf(QMessageBox& window) {
+    auto* grid = qobject_cast<QGridLayout*>(window.layout());
+    if (!grid) return;
+    grid->addItem(new QSpacerItem(WidthOfTitle(window), 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 /// The pointer of a long action gives way while a box waits for the person.
@@ -86,7 +118,8 @@ QWidget* QtDialogs::Owner() const {
 
 DialogButton QtDialogs::Show(const MessageDialog& box) {
     const AnsweringPointer pointer;
-    QMessageBox window(Owner());
+    const std::optional<DialogButton> escape = EscapeButtonOf(box);
+    Box window(Owner(), escape);
     window.setAttribute(Qt::WA_WindowPropagation);
     window.setWindowTitle(Shown(box.title));
     window.setIcon(IconOf(box.icon));
@@ -96,11 +129,12 @@ DialogButton QtDialogs::Show(const MessageDialog& box) {
         Describe(added, Shown(CaptionOf(button)), Shown(box.text));
     }
     window.setDefaultButton(ButtonOf(box.defaultButton));
-    window.setEscapeButton(ButtonOf(EscapeButtonOf(box)));
+    if (escape) window.setEscapeButton(ButtonOf(*escape));
+    FitTitleOf(window);
     const int pressed = window.exec();
     for (const DialogButton button : box.buttons)
         if (ButtonOf(button) == pressed) return button;
-    return EscapeButtonOf(box);
+    return escape.value_or(DialogButton::No);  // the program itself is ending
 }
 
 std::optional<std::string> QtDialogs::Ask(const InputDialog& box) {

@@ -18,8 +18,8 @@ class QtDialogs final : public Dialogs {
     /// The window that boxes belong to while no side window stands open.
     void SetParent(QWidget* parent) { parent_ = parent; }
 
-    /// Enter presses the default button; Escape and closing press Cancel where there is one, else the
-    /// default button.
+    /// Enter presses the default button; Escape and closing press Cancel where there is one, or the only
+    /// button. A question with neither stays until it is answered.
     DialogButton Show(const MessageDialog& box) override;
     /// The box opens with its text selected; Enter accepts it, Escape and closing cancel.
     std::optional<std::string> Ask(const InputDialog& box) override;

@@ -46,9 +46,15 @@ void LinesView::KeepPlace(int row) {
     if (kept >= 0) selectionModel()->setCurrentIndex(model_.index(kept), QItemSelectionModel::NoUpdate);
 }
 
+void LinesView::keyboardSearch(const QString& letter) {
+    const int line = typeAhead_.Search(model_, currentIndex().row(), letter);
+    if (line >= 0) SelectLine(line);
+}
+
 void LinesView::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter) return QListView::keyPressEvent(event);
+    typeAhead_.Forget();
     if (Line() >= 0) Q_EMIT LineOpened(Line());
 }
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "desktop/toolkit/type_ahead.h"
+
 namespace quillmark::desktop {
 
 /// Shows a list of the state as it stands, without a copy: a line is turned into text when it comes into
@@ -46,6 +48,7 @@ class LinesView final : public QListView {
     /// The selected line, -1 for none.
     int Line() const;
     void SelectLine(int line);
+    void keyboardSearch(const QString& letter) override;
 
  Q_SIGNALS:
     void LineSelected(int line);
@@ -66,6 +69,7 @@ class LinesView final : public QListView {
     void KeepPlace(int row);
 
     LinesModel model_;
+    TypeAhead typeAhead_;
 };
 
 }  // namespace quillmark::desktop

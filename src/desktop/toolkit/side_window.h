@@ -5,6 +5,9 @@
 
 namespace quillmark::desktop {
 
+/// How wide a window has to be for its title to be read whole, buttons of the frame included.
+int WidthOfTitle(const QWidget& window);
+
 /// A modal window beside the main screen. It takes over its parent's font, and so its scale. Enter presses
 /// the button that has the focus, and no other.
 class SideWindow : public QDialog {

@@ -40,7 +40,7 @@ void GridEditor::ClickNote(int row, int column) {
     RequireCell(row, column);
     GridRow& clicked = RowAt(row);
     Require(!clicked.locked, "the field is locked");
-    Require(IsNoteCell(clicked, column), "the row has no such note cell");
+    Require(IsNoteCell(clicked, column), "the line has no note of that kind");
     Require(screen_.job.IsFilled(clicked.n), "the field has no value to note this of");
     LoseFocus(ScreenFocus::Grid);
     if (LacksTemplateName() || !BeginsFieldEntry()) return;
@@ -86,6 +86,19 @@ void GridEditor::TypeInGrid(std::string_view character) {
     OpenRow(row, 0);
     if (state_.kind == EditorKind::Line) KeyInEditor(character);
     if (state_.kind == EditorKind::Block) SetBlockText({std::string(character), character.size(), 0});
+}
+
+void GridEditor::MoveCursor(int row) {
+    Require(!state_.IsOpen(), "an editor is open");
+    Require(IsInGrid(row), "the grid has no such row");
+    const int to = RowToOpen(row, 1);
+    if (to < 0) return;
+    LoseFocus(ScreenFocus::Grid);
+    state_.markedRow = -1;
+    screen_.currentRow = to;
+    screen_.currentGroup = GroupOfKey(RowAt(to).key);
+    BringIntoView(to);
+    screen_.picInfo = RowAt(to).locked ? std::string(kLocked) : FieldDescription(RowAt(to).n, screen_.job);
 }
 
 void GridEditor::ScrollTo(int topRow) {

@@ -127,6 +127,8 @@ class GridEditor {
     /// A character while the grid has the keyboard: it opens the current row and replaces its value. On a row
     /// that opens no editor it does nothing.
     void TypeInGrid(std::string_view character);
+    /// The row cursor goes to a row, from a heading on to the next one, and nothing opens.
+    void MoveCursor(int row);
     void ScrollTo(int topRow);  ///< by the scroll bar or `cboScroll`: the open editor is committed and closed
     void SetRowsOnScreen(int rows);
     void ClickJumpLabel(int group);
