@@ -190,6 +190,7 @@ const std::vector<Command>& Table() {
         {"calculator",     {{"gross", Amount, kOptional}, {"from", Text, kOptional}, {"to", Text, kOptional},
                             {"date", Text, kOptional}, {"hand", Text, kOptional}},   UseCalculator},
         {"create",         {{"to", Path, kOptional}, {"trace", Path, kOptional}},    Create},
+        {"preview",        {{"to", Path}, {"document", Text, kOptional}},            MakePreviewAt},
         {"window",         {},                                                       ShowWindow,   kWhileBrowsing, kWhileWindowOpen},
         {"window-set",     {{"control", Path}, {"value", Any}},                      SetInWindow,  kWhileBrowsing, kWhileWindowOpen},
         {"window-click",   {{"control", Path}, {"double", Flag, kOptional}, {"to", Path, kOptional}},

@@ -52,4 +52,7 @@ Json WindowOrNull(ConsoleSession& session);
 // The closing statement's figures (console_statement.cpp).
 Json FiguresOfStatement(ConsoleSession& session, const Request& request);
 
+// The documents as CREATE would make them now (console_preview.cpp).
+Json MakePreviewAt(ConsoleSession& session, const Request& request);
+
 }  // namespace quillmark::cli

@@ -302,5 +302,35 @@ TEST_F(ConsoleOffice, PackagesAreSavedRenamedAndDeleted) {
         << "a deed takes the place of a deed";
 }
 
+TEST_F(ConsoleOffice, APreviewIsMadeWhereItIsWantedAndChangesNothing) {
+    const Json to = {{"to", TextOf(office / "now.docx")}};
+    const Json deed = {{"to", TextOf(office / "deed.docx")}, {"document", "Deed / Warranty"}};
+    const auto replies = Session({
+        Do("preview", to),
+        Do("name", {{"text", "Abbott"}}),
+        Do("pick", {{"text", "Deed / Warranty"}}),
+        Do("pick", {{"text", "Closing Statement"}}),
+        Do("field", {{"n", 21}, {"text", "Anna Abbott"}}),
+        Do("state"),
+        Do("preview", to),
+        Do("preview", deed),
+        Do("preview", {{"to", TextOf(office / "now.docx")}, {"document", "Deed / Quitclaim"}}),
+        Do("state"),
+    });
+    EXPECT_THAT(replies[0], Refuses("job list is empty"));
+    ASSERT_THAT(replies[6], Succeeds());
+    ASSERT_THAT(replies[7], Succeeds());
+    EXPECT_THAT(replies[6]["dialogs"], SizeIs(0));
+    EXPECT_THAT(replies[8], Refuses("Deed / Quitclaim"));
+    EXPECT_EQ(replies[5]["result"], replies[9]["result"]);
+    EXPECT_TRUE(fs::exists(office / "now.docx") && fs::exists(office / "deed.docx"));
+    EXPECT_FALSE(fs::exists(JobFile("Abbott")));
+    std::map<int, Json> values;
+    for (const Json& value : replies[7]["result"]["values"]) values[value["n"]] = value;
+    EXPECT_EQ(values[21]["text"], "Anna Abbott");
+    EXPECT_THAT(values[21]["at"], ::testing::Not(SizeIs(0)));
+    EXPECT_EQ(values[59]["text"], "[buyer 1 name]");
+}
+
 }  // namespace
 }  // namespace quillmark::cli

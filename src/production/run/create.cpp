@@ -126,6 +126,10 @@ void CreateRun::CheckEntries() const {
         if (!IsKnownDocument(name)) throw std::invalid_argument("no document has the name \"" + name + "\"");
 }
 
+const std::vector<std::string>& CreateRun::JobList() const {
+    return order_.JobList.empty() ? order_.DocumentNames : order_.JobList;
+}
+
 void CreateRun::StartWord() {
     const word::StartedWordProcessor started = order_.startWord();
     session_.emplace(started.application, started.clipboard, started.hints);
@@ -139,7 +143,7 @@ void CreateRun::TypeDocumentAt(std::size_t entry) {
     Dialogs& dialogs = order_.dialogs ? *order_.dialogs : defaultAnswers_;
     if (session_->hints) session_->hints->SetRole(word::Role::Body);
     notices_ += TypeEntry(order_.DocumentNames[entry],
-                          {job_, order_.settings, dialogs, order_.DocumentNames, order_.CustomFormsFolder},
+                          {job_, order_.settings, dialogs, JobList(), order_.CustomFormsFolder},
                           *session_);
     // In front of the document, so that a builder's own paragraph format never reaches the break.
     if (entry > 0) beginning.InsertBreak(word::SectionBreakNextPage);
@@ -149,7 +153,11 @@ void CreateRun::TypeDocumentAt(std::size_t entry) {
 void CreateRun::FinishDocument() {
     Report(progress_.value, progress_.documents + 1);
     FinishSections(*session_, job_,
-                   {order_.DocumentNames, order_.LegalList, order_.settings.footers, order_.nameUsable});
+                   {.documents = order_.DocumentNames,
+                    .LegalList = order_.LegalList,
+                    .footers = order_.settings.footers,
+                    .nameUsable = order_.nameUsable,
+                    .isWholeJob = JobList().size() == order_.DocumentNames.size()});
     if (order_.settings.footers == Footers::Description) LockFooters(*session_);
     session_->WordSel.GoTo(word::GoToLine, word::GoToFirst);
 }

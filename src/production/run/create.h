@@ -28,7 +28,8 @@ struct CreateProgress {
 
 /// What a run makes, and how.
 struct CreateOrder {
-    std::vector<std::string> DocumentNames;  ///< the job list, in order
+    std::vector<std::string> DocumentNames;  ///< what is typed, in order: the job list
+    std::vector<std::string> JobList = {};   ///< all of it where only some of it is typed; empty otherwise
     std::string LegalList;                   ///< names of the entries on legal-size paper, joined by commas
     Settings settings;
     std::chrono::year_month_day today;
@@ -102,6 +103,7 @@ class CreateRun {
     class ValuesForTyping;
 
     void CheckEntries() const;
+    const std::vector<std::string>& JobList() const;
     void StartWord();
     void TypeDocumentAt(std::size_t entry);
     void FinishDocument();

@@ -82,7 +82,7 @@ class FooterPass {
         const bool described = plan_.footers != Footers::None && !IsRecordedDocument(document, job_);
         if (described && range.StoryType == word::PrimaryFooterStory) {
             TypeFooter(range, beginning_, document, end_);
-        } else if (!document.starts_with('[') || plan_.documents.size() > 1) {
+        } else if (!document.starts_with('[') || plan_.documents.size() > 1 || !plan_.isWholeJob) {
             range.Text = "";
         }
     }

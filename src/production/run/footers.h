@@ -16,6 +16,7 @@ struct FooterPlan {
     std::string_view LegalList = {};  ///< names of the entries on legal-size paper, joined by commas
     Footers footers = Footers::Description;
     bool nameUsable = true;  ///< the job has a name that can be shown
+    bool isWholeJob = true;  ///< the job list has no other entries
 };
 
 /// Whether the document goes on the land records, or is the firm's own form: such a document takes no

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/job.h"
+
+/// Where the values of a job's fields stand in a document that was typed from them. The document is typed a
+/// second time from a job in which the letters and digits of each value are a sign of its field: what comes
+/// out at a place tells whose value stands there, also when it is raised, cut or joined to another.
+namespace quillmark {
+
+/// A stretch of the document's text that one field gave it, in code points.
+struct ValuePlace {
+    int n = 0;               ///< the field; 0 for a marker that no field has
+    std::size_t at = 0;      ///< from the start of the text
+    std::size_t length = 0;  ///< at least 1
+    bool isOpen = false;     ///< a marker: the field has no value
+
+    bool operator==(const ValuePlace&) const = default;
+};
+
+/// The job with signs for values. Values that documents do not merely type but look into (amounts, choices,
+/// towns) stay as they are.
+Job WithSigns(const Job& job);
+
+/// The places in order, none over another. `signs` is the same document typed from `WithSigns`. Where the two
+/// do not correspond, the values are searched for instead.
+std::vector<ValuePlace> FindValues(const Job& job, std::u32string_view text, std::u32string_view signs);
+
+/// Whether every character of the one text has its counterpart in the other.
+bool Correspond(std::u32string_view text, std::u32string_view signs);
+
+}  // namespace quillmark

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string_view>
+
+#include "production/run/preview.h"
+#include "session/main_screen.h"
+
+namespace quillmark {
+
+/// What CREATE would make now of the job on the screen: one document of the job list, or all of it when
+/// `document` is empty. The screen is only read. Throws NotAllowed where there is no such document to make.
+PreviewOrder OrderOfPreview(const MainScreen& screen, std::string_view document = {});
+
+}  // namespace quillmark
