@@ -6,7 +6,7 @@ set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 add_custom_target(package_contents)
-foreach(program quillmark-cli quillmark)
+foreach(program quillmark-cli quillmark quillmark-preview)
   if(TARGET ${program})
     add_dependencies(package_contents ${program})
     install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
