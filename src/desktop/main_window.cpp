@@ -49,6 +49,7 @@ void MainWindow::Connect() {
     });
     connect(List3_, &SettingsView::RowOpened, this,
             [this](std::size_t row) { desk_.Do([row](MainScreen& screen) { screen.EditSetting(row); }); });
+    connect(preview_, &PreviewPane::RowWanted, this, &MainWindow::GoToField);
     connect(view_, &ViewControls::Dimmed, this, &MainWindow::ShowState);
     connect(qApp, &QApplication::focusChanged, this, &MainWindow::FocusMoved);
 }
@@ -67,6 +68,7 @@ void MainWindow::AddShortcuts() {
         if (desk_.State().Saves()) flow_.Press("cmdOpen");
     });
     add(Qt::Key_F9, [this] { flow_.OpenCalculator(); });
+    add(Qt::Key_F4, [this] { ShowPreview(!PreviewShown()); });
 }
 
 void MainWindow::ShowState() {
@@ -85,6 +87,7 @@ void MainWindow::ShowState() {
     reasons_->Show();
     ShowTitle();
     ShowFocus();
+    preview_->Show();
     showing_ = false;
     if (desk_.Screen().HasEnded()) close();
 }
@@ -118,6 +121,40 @@ void MainWindow::ShowCounters() {
     const bool counts = !state.grid.empty() && state.mode == ScreenMode::Job;
     counters_->setText(counts ? tr("total flds %1     remaining %2").arg(state.total).arg(state.remaining)
                               : QString());
+}
+
+void MainWindow::ShowPreview(bool shown) {
+    if (shown == PreviewShown()) return;
+    if (!shown) previewWidth_ = PreviewWidth();
+    preview_->setVisible(shown);
+    if (shown) SetPreviewWidth(previewWidth_);
+}
+
+void MainWindow::SetPreviewWidth(int width) {
+    constexpr int kUsual = 460;
+    previewWidth_ = width > 0 ? width : kUsual;
+    const int whole = beside_->width() - beside_->handleWidth();
+    beside_->setSizes({std::max(1, whole - previewWidth_), previewWidth_});
+}
+
+int MainWindow::PreviewWidth() const {
+    return PreviewShown() ? beside_->sizes().last() : previewWidth_;
+}
+
+/// As a click on the row does, which first has to be in sight.
+void MainWindow::GoToField(int n) {
+    const std::vector<GridRow>& rows = desk_.State().grid;
+    const auto found = std::ranges::find_if(
+        rows, [n](const GridRow& row) { return row.kind == RowKind::Field && row.n == n; });
+    if (found == rows.end()) return;
+    const int row = static_cast<int>(found - rows.begin());
+    desk_.Do([row](MainScreen& screen) {
+        screen.LoseFocus(ScreenFocus::Grid);
+        const GridEditorState& editor = screen.Editor();
+        if (row < editor.topRow || row >= editor.topRow + editor.rowsOnScreen)
+            screen.ScrollTo(std::max(0, row - editor.rowsOnScreen / 2));
+        screen.ClickGrid(row, GridModel::kValue);
+    });
 }
 
 QWidget* MainWindow::WidgetOf(ScreenFocus focus) const {

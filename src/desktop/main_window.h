@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSplitter>
 #include <QStackedWidget>
 #include <QWidget>
 
@@ -15,6 +16,7 @@
 #include "desktop/panels/progress_panel.h"
 #include "desktop/panels/settings_view.h"
 #include "desktop/panels/view_controls.h"
+#include "desktop/preview/preview_pane.h"
 #include "desktop/side_window_flow.h"
 #include "desktop/toolkit/appearance.h"
 #include "desktop/toolkit/desk.h"
@@ -40,6 +42,14 @@ class MainWindow final : public QWidget {
 
     void Restore(const WindowPlacement& placement);
     WindowPlacement Placement() const;
+
+    /// The live page beside the grid.
+    void ShowPreview(bool shown);
+    bool PreviewShown() const { return !preview_->isHidden(); }
+    /// Its width in pixels; 0 leaves it to the window.
+    void SetPreviewWidth(int width);
+    int PreviewWidth() const;
+    PreviewPane& Preview() { return *preview_; }
 
     Desk& CommandDesk() { return desk_; }
     Appearance& Look() { return appearance_; }
@@ -70,6 +80,7 @@ class MainWindow final : public QWidget {
     ScreenFocus FocusOf(const QWidget* widget) const;
     QWidget* WidgetOf(ScreenFocus focus) const;
     void FitToFont();
+    void GoToField(int n);
 
     Appearance appearance_;
     Desk desk_;
@@ -88,6 +99,9 @@ class MainWindow final : public QWidget {
     ProgressPanel* progress_;
     GreyReasons* reasons_;
     ViewControls* view_;
+    QSplitter* beside_ = nullptr;
+    PreviewPane* preview_ = nullptr;
+    int previewWidth_ = 0;
     QLabel* counters_;
     QWidget* left_ = nullptr;
     std::vector<QPushButton*> topButtons_;

@@ -38,7 +38,17 @@ void MainWindow::Arrange() {
     layout->setSpacing(10);
     left_ = MakeLeft();
     layout->addWidget(left_);
-    layout->addWidget(MakeRight(), 1);
+    beside_ = new QSplitter(Qt::Horizontal, this);
+    beside_->setObjectName(QStringLiteral("besideGrid"));
+    beside_->setChildrenCollapsible(false);
+    beside_->setHandleWidth(8);
+    beside_->addWidget(MakeRight());
+    preview_ = new PreviewPane(desk_, PreviewPane::RendererProgram(), beside_);
+    preview_->hide();
+    beside_->addWidget(preview_);
+    beside_->setStretchFactor(0, 1);
+    beside_->setStretchFactor(1, 0);
+    layout->addWidget(beside_, 1);
     FitToFont();
 }
 
@@ -142,6 +152,8 @@ QWidget* MainWindow::MakeMore(QWidget* parent) {
     auto* menu = new QMenu(more);
     menu->setAttribute(Qt::WA_WindowPropagation);
     menu->addAction(tr("Proration &calculator"), Qt::Key_F9, &flow_, &SideWindowFlow::OpenCalculator)
+        ->setShortcutContext(Qt::WidgetShortcut);
+    menu->addAction(tr("Live &page"), Qt::Key_F4, this, [this] { ShowPreview(!PreviewShown()); })
         ->setShortcutContext(Qt::WidgetShortcut);
     menu->addAction(tr("Lawfirms / &Attorneys"), this,
                     [this] { flow_.OpenAddresses(AddressBook::Attorneys); });

@@ -1,6 +1,7 @@
 #include "desktop/program.h"
 
 #include <QApplication>
+#include <QSettings>
 #include <QTimer>
 
 #include "desktop/guide/first_run_window.h"
@@ -28,6 +29,14 @@ std::chrono::year_month_day DateOfFile(const fs::path& file) {
     const auto written = std::chrono::file_clock::to_sys(fs::last_write_time(file));
     return std::chrono::floor<std::chrono::days>(written);
 }
+
+/// What one user likes, whatever the program folder.
+QSettings OwnSettings() {
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("quillmark"),
+                     QStringLiteral("desktop"));
+}
+const QString kPreviewShown = QStringLiteral("preview/shown");
+const QString kPreviewWidth = QStringLiteral("preview/width");
 
 }  // namespace
 
@@ -90,6 +99,7 @@ bool Program::Start() {
     if (const auto placement = ReadWindowPlacement(order_.folder)) window_->Restore(*placement);
     window_->ShowState();
     window_->show();
+    RestorePreview();
     if (!order_.job.empty()) OpenJob();
     if (first) window_->CommandDesk().Do([&](MainScreen& screen) { TakeFirstStep(screen, *first); });
     QTimer::singleShot(0, this, [this] {
@@ -124,6 +134,9 @@ void Program::LookForUpgrade() {
 void Program::KeepPlacement() {
     Guarded(window_.get(), [this] {
         if (!window_->isMinimized()) WriteWindowPlacement(order_.folder, window_->Placement());
+        QSettings own = OwnSettings();
+        own.setValue(kPreviewShown, window_->PreviewShown());
+        own.setValue(kPreviewWidth, window_->PreviewWidth());
     });
     QCoreApplication::quit();
 }
@@ -143,6 +156,14 @@ void Program::TakeOver(const QString& job) {
     if (!desk.State().txtJobName.text.empty()) return;
     order_.job = Utf8(job);
     OpenJob();
+}
+
+/// Where there is no word of it yet, a window with room for the page has it.
+void Program::RestorePreview() {
+    constexpr int kRoomy = 1500;
+    const QSettings own = OwnSettings();
+    window_->SetPreviewWidth(own.value(kPreviewWidth, 0).toInt());
+    window_->ShowPreview(own.value(kPreviewShown, window_->width() >= kRoomy).toBool());
 }
 
 void Program::Raise() {

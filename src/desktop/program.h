@@ -55,6 +55,7 @@ class Program final : public QObject {
     void OpenJob();
     void LookForUpgrade();
     void KeepPlacement();
+    void RestorePreview();
     void Raise();
     void TakeOver(const QString& job);
 

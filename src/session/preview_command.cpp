@@ -5,7 +5,7 @@
 namespace quillmark {
 
 PreviewOrder OrderOfPreview(const MainScreen& screen, std::string_view document) {
-    const SelectionState& state = screen.State();
+    const ScreenState& state = screen.State();
     if (state.List2.empty()) throw NotAllowed("the job list is empty");
     PreviewOrder order;
     for (const JobListLine& line : state.List2) order.JobList.push_back(line.name);
@@ -15,8 +15,8 @@ PreviewOrder OrderOfPreview(const MainScreen& screen, std::string_view document)
     order.job = state.job;
     order.job.name = state.txtJobName.IsSaveable() ? state.txtJobName.text : std::string();
     order.LegalList = state.LegalList;
-    order.settings = screen.OfficeSettings();
-    order.today = screen.OfficeAround().clock.Today();
+    order.settings = screen.FirmAround().settings;
+    order.today = screen.FirmAround().clock.Today();
     order.nameUsable = state.txtJobName.IsSaveable();
     return order;
 }
