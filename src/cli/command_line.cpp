@@ -146,6 +146,7 @@ MakeOrder OrderOf(const MakeWords& words, const CLI::App& make) {
 struct ConsoleWords {
     std::string folder = ".";
     std::string today;
+    std::string answers;
 };
 
 CLI::App* AddConsole(CLI::App& app, ConsoleWords& words) {
@@ -155,6 +156,8 @@ CLI::App* AddConsole(CLI::App& app, ConsoleWords& words) {
                      "Program folder: settings, firm defaults, packages, data (default: .)")
         ->type_name("DIR");
     console->add_option("--today", words.today, "The date that counts as today")->type_name("YYYY-MM-DD");
+    console->add_option("--answers", words.answers, "Answers to the questions of the start, in order")
+        ->type_name("Yes,No,...");
     return console;
 }
 
@@ -163,6 +166,8 @@ ConsoleOrder OrderOf(const ConsoleWords& words, const CLI::App& console) {
     ConsoleOrder order;
     order.folder = PathOf(words.folder);
     if (console.count("--today")) order.today = Today(words.today);
+    if (console.count("--answers"))
+        for (std::string& answer : Split(words.answers, ',')) order.answers.emplace_back(std::move(answer));
     order.programFile = ProgramFile();
     return order;
 }

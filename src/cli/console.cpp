@@ -15,7 +15,9 @@ namespace {
 class Console {
  public:
     Console(const ConsoleOrder& order, const Streams& streams)
-        : streams_(streams), session_(order, streams.err) {}
+        : streams_(streams), session_(order, streams.err) {
+        session_.dialogs().Prepare(order.answers);
+    }
 
     int Run(std::istream& in) {
         if (!Start()) return kFailed;

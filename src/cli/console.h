@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "cli/command_line.h"
+#include "platform/dialogs.h"
 
 namespace quillmark::cli {
 
@@ -13,7 +14,8 @@ namespace quillmark::cli {
 struct ConsoleOrder {
     std::filesystem::path folder = ".";                ///< the program folder
     std::optional<std::chrono::year_month_day> today;  ///< the system's date if none is given
-    std::filesystem::path programFile;  ///< whose date the data's version marker is held against
+    ScriptedDialogs::Answers answers = {};             ///< to the boxes of the start itself
+    std::filesystem::path programFile = {};  ///< whose date the data's version marker is held against
 };
 
 /// One session of the main screen, driven by JSON lines: one reply a line, one more before the first request.

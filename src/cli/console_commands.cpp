@@ -147,6 +147,18 @@ Json Create(ConsoleSession& session, const Request& request) {
     return {{"document", TextOf(*screen.LastDocument())}};
 }
 
+Json Undo(ConsoleSession& session, const Request&) {
+    return session.screen().Undo();
+}
+
+Json Redo(ConsoleSession& session, const Request&) {
+    return session.screen().Redo();
+}
+
+Json Recent(ConsoleSession& session, const Request&) {
+    return session.screen().RecentJobs();
+}
+
 Json State(ConsoleSession& session, const Request&) {
     return StateOf(session.screen());
 }
@@ -190,6 +202,10 @@ const std::vector<Command>& Table() {
         {"calculator",     {{"gross", Amount, kOptional}, {"from", Text, kOptional}, {"to", Text, kOptional},
                             {"date", Text, kOptional}, {"hand", Text, kOptional}},   UseCalculator},
         {"create",         {{"to", Path, kOptional}, {"trace", Path, kOptional}},    Create},
+        {"blanks",         {},                                                       Blanks},
+        {"undo",           {},                                                       Undo},
+        {"redo",           {},                                                       Redo},
+        {"recent",         {},                                                       Recent,       kWhileBrowsing},
         {"preview",        {{"to", Path}, {"document", Text, kOptional}},            MakePreviewAt},
         {"window",         {},                                                       ShowWindow,   kWhileBrowsing, kWhileWindowOpen},
         {"window-set",     {{"control", Path}, {"value", Any}},                      SetInWindow,  kWhileBrowsing, kWhileWindowOpen},

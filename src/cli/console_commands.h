@@ -54,5 +54,6 @@ Json FiguresOfStatement(ConsoleSession& session, const Request& request);
 
 // The documents as CREATE would make them now (console_preview.cpp).
 Json MakePreviewAt(ConsoleSession& session, const Request& request);
+Json Blanks(ConsoleSession& session, const Request& request);
 
 }  // namespace quillmark::cli

@@ -42,4 +42,14 @@ Json MakePreviewAt(ConsoleSession& session, const Request& request) {
     return {{"document", TextOf(to)}, {"values", ValuesOf(made)}};
 }
 
+Json Blanks(ConsoleSession& session, const Request&) {
+    Json list = Json::array();
+    for (const Blank& blank : BlanksNow(session.screen()))
+        list.push_back({{"n", blank.n},
+                        {"marker", blank.marker},
+                        {"required", blank.required},
+                        {"documents", blank.documents}});
+    return list;
+}
+
 }  // namespace quillmark::cli

@@ -68,6 +68,10 @@ void MainWindow::AddShortcuts() {
         if (desk_.State().Saves()) flow_.Press("cmdOpen");
     });
     add(Qt::Key_F9, [this] { flow_.OpenCalculator(); });
+    add(QKeySequence::Undo, [this] { desk_.Do([](MainScreen& screen) { screen.Undo(); }); });
+    add(control(Qt::Key_Y), [this] { desk_.Do([](MainScreen& screen) { screen.Redo(); }); });
+    add(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+        [this] { desk_.Do([](MainScreen& screen) { screen.Redo(); }); });
     add(Qt::Key_F4, [this] { ShowPreview(!PreviewShown()); });
 }
 
@@ -87,6 +91,7 @@ void MainWindow::ShowState() {
     reasons_->Show();
     ShowTitle();
     ShowFocus();
+    ShowHistory();
     preview_->Show();
     showing_ = false;
     if (desk_.Screen().HasEnded()) close();

@@ -2,6 +2,7 @@
 
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QToolButton>
 #include <QWidget>
 
 #include "desktop/grid/grid_editors.h"
@@ -81,6 +82,9 @@ class MainWindow final : public QWidget {
     QWidget* WidgetOf(ScreenFocus focus) const;
     void FitToFont();
     void GoToField(int n);
+    QToolButton* MakeHistoryButton(const QString& name, const QString& sign, QWidget* parent,
+                                   Desk::Command command);
+    void ShowHistory();
 
     Appearance appearance_;
     Desk desk_;
@@ -99,6 +103,8 @@ class MainWindow final : public QWidget {
     ProgressPanel* progress_;
     GreyReasons* reasons_;
     ViewControls* view_;
+    QToolButton* undo_ = nullptr;
+    QToolButton* redo_ = nullptr;
     QSplitter* beside_ = nullptr;
     PreviewPane* preview_ = nullptr;
     int previewWidth_ = 0;

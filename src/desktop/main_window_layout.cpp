@@ -6,6 +6,7 @@
 #include "desktop/guide/guide_window.h"
 #include "desktop/main_window.h"
 #include "desktop/toolkit/controls.h"
+#include "desktop/toolkit/text.h"
 
 /// Where everything stands on the main screen.
 namespace quillmark::desktop {
@@ -137,12 +138,42 @@ QLayout* MainWindow::MakeFooter(QWidget* parent) {
     row->setSpacing(10);
     counters_ = new QLabel(parent);
     view_ = new ViewControls(appearance_, parent);
+    undo_ = MakeHistoryButton(QStringLiteral("undo"), QStringLiteral("\u21B6"), parent,
+                              [](MainScreen& screen) { screen.Undo(); });
+    redo_ = MakeHistoryButton(QStringLiteral("redo"), QStringLiteral("\u21B7"), parent,
+                              [](MainScreen& screen) { screen.Redo(); });
+    row->addWidget(undo_);
+    row->addWidget(redo_);
     row->addWidget(counters_);
     row->addStretch(1);
     row->addWidget(buttons_.Make("cmdPrintFList", parent));
     row->addWidget(MakeMore(parent));
     row->addWidget(view_);
     return row;
+}
+
+QToolButton* MainWindow::MakeHistoryButton(const QString& name, const QString& sign, QWidget* parent,
+                                           Desk::Command command) {
+    auto* button = new QToolButton(parent);
+    button->setObjectName(name);
+    button->setText(sign);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::NoFocus);
+    connect(button, &QToolButton::clicked, this, [this, command] { desk_.Do(command); });
+    return button;
+}
+
+/// What one press would take back or do again.
+void MainWindow::ShowHistory() {
+    const UndoHistory& history = desk_.Screen().History();
+    const auto show = [](QToolButton& button, const QString& what, const std::string& act) {
+        const QString text = act.empty() ? what : what + QStringLiteral(": ") + Shown(act);
+        button.setEnabled(!act.empty());
+        button.setToolTip(text);
+        Describe(&button, text);
+    };
+    show(*undo_, tr("Undo"), history.UndoName());
+    show(*redo_, tr("Redo"), history.RedoName());
 }
 
 QWidget* MainWindow::MakeMore(QWidget* parent) {

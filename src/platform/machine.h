@@ -20,6 +20,7 @@ class MachineError : public std::runtime_error {
 enum class SpecialFolder {
     Documents,         ///< the user's documents
     LocalApplication,  ///< this computer's data of the user's programs
+    State,             ///< what the user's programs remember from one run to the next
 };
 
 /// The system's own programs and folders.

@@ -52,8 +52,8 @@ struct GridGroup {
     bool HasRows() const { return headingRow >= 0; }
 };
 
-struct JobInHand {
-    Job job;
+/// What belongs to a job beside its values and its rows.
+struct JobAround {
     ScreenMode mode = ScreenMode::Job;
     bool fromTemplate = false;  ///< the file chosen in the browser is a template
 
@@ -62,12 +62,16 @@ struct JobInHand {
     /// Documents that a choice took off the list: A by seller kind and property type, B by no payoffs.
     std::array<std::vector<std::string>, 2> ParkedDocuments;
 
-    std::vector<GridRow> grid;        ///< without the fixed header row
     std::array<GridGroup, 7> groups;  ///< 1 to 6
     int relevantFieldCount = 0;
     int total = 0;                         ///< "total flds"
     int remaining = 0;                     ///< required fields that are open
     std::vector<std::string> userMarkers;  ///< markers of user-defined fields of the job's custom documents
+};
+
+struct JobInHand : JobAround {
+    Job job;
+    std::vector<GridRow> grid;  ///< without the fixed header row
 };
 
 }  // namespace quillmark

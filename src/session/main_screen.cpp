@@ -92,8 +92,12 @@ bool MainScreen::Start(bool warns) {
     firm_.MakeFolders();
     documents_.Offer();
     if (warns) WarnOfUnsetDefaults();
+    OpenOwnState();
     StartAnew();
-    if (firm_.settings().paraPro) clients_.Open();
+    if (firm_.settings().paraPro)
+        clients_.Open();
+    else
+        OfferWhatWasLeft();
     return true;
 }
 
@@ -132,13 +136,37 @@ void MainScreen::Click(std::string_view name) {
     Require(button != nullptr, "there is no button \"" + std::string(name) + "\"");
     Require(button->enabled && button->visible,
             std::string(name) + " is " + (button->visible ? "disabled" : "hidden"));
-    if (name == "cmdCreate") {
-        if (editor_.CommitAll(ScreenFocus::Buttons)) create_.Run();
-        return;
-    }
-    editor_.LoseFocus(IsInTopBar(name) ? ScreenFocus::Buttons : ScreenFocus::Elsewhere);
+    // What the editor held is an act of its own; what the buttons do is none.
+    bool goesOn = true;
+    Act([&] {
+        if (name == "cmdCreate")
+            goesOn = editor_.CommitAll(ScreenFocus::Buttons);
+        else
+            editor_.LoseFocus(IsInTopBar(name) ? ScreenFocus::Buttons : ScreenFocus::Elsewhere);
+    });
+    if (!goesOn) return;
+    const AfterCommand after{[&] { EndsHistory(name) ? EndHistory() : NoteAct(0); }};
+    ClickButton(name);
+}
+
+/// A run of CREATE that left early has changed nothing.
+bool MainScreen::EndsHistory(std::string_view name) const {
+    if (name == "cmdCreate") return create_.LastDocument() || screen_.List2.empty();
+    return name == "cmdOpen" || name == "cmdReset" || name == "cmdNameAs" || name == "cmdTemplate";
+}
+
+/// A key in an editor changes the job only where it leaves the row.
+void MainScreen::Type(std::string_view character) {
+    const int hint = FieldInHand();
+    const int row = editor_.State().EditRow;
+    editor_.KeyInEditor(character);
+    if (!editor_.State().IsOpen() || editor_.State().EditRow != row) NoteAct(hint);
+}
+
+void MainScreen::ClickButton(std::string_view name) {
     if (name == "cmdOpen") return OpenJobOrSave();
     if (name == "cmdReset") return ResetSession();
+    if (name == "cmdCreate") return create_.Run();
     if (name == "cmdNameAs") return files_.NameJob();
     if (name == "cmdTemplate") return Templates();
     if (name == "cmdSelect") return clients_.Open();
@@ -208,6 +236,7 @@ void MainScreen::StartAnew() {
     create_.Forget();
     sideWindows_.CloseAll();
     FocusName();
+    EndHistory();
     if (screen_.testMode) CloseForTest();
 }
 
@@ -259,7 +288,7 @@ void MainScreen::OpenBrowser(bool templates) {
 void MainScreen::Spawn(std::string_view entry) {
     RequireReady(screen_);
     Require(screen_.templateBeingSet && screen_.browserOpen, "the template browser is not open");
-    files_.Spawn(entry);
+    Anew([&] { files_.Spawn(entry); });
 }
 
 void MainScreen::PrintFieldList() {

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "entry/smart_fields.h"
@@ -14,12 +15,15 @@
 #include "session/grid/grid_editor.h"
 #include "session/grid/grid_steps.h"
 #include "session/job_files.h"
+#include "session/journal.h"
 #include "session/machine.h"
 #include "session/name_box.h"
+#include "session/recent_jobs.h"
 #include "session/settings_list.h"
 #include "session/side_windows.h"
 #include "session/state/not_allowed.h"
 #include "session/state/screen_state.h"
+#include "session/undo.h"
 
 /// The main screen without a toolkit: a window shows its state and passes keys and clicks to it; it decides
 /// everything. It owns exactly one job.
@@ -45,60 +49,126 @@ class MainScreen {
     Dialogs& Person() const { return machine_.dialogs; }
 
     // The name box.
-    void FocusName() { nameBox_.Focus(); }
-    void TypeName(std::string_view text) { nameBox_.Type(text); }
-    void EditName(std::string_view text) { nameBox_.Edit(text); }
-    void EnterName() { nameBox_.Enter(); }
+    void FocusName() {
+        Act([&] { nameBox_.Focus(); });
+    }
+    void TypeName(std::string_view text) {
+        Act([&] { nameBox_.Type(text); });
+    }
+    void EditName(std::string_view text) {
+        Act([&] { nameBox_.Edit(text); });
+    }
+    void EnterName() {
+        Act([&] { nameBox_.Enter(); });
+    }
 
     // The lists and the options.
-    void FocusList1() { documents_.FocusList1(); }
-    void FocusList2() { documents_.FocusList2(); }
-    void PickDocument(std::string_view line) { documents_.Pick(line); }
-    void DropDocument(std::string_view line) { documents_.Drop(line); }
-    void SelectLegal(const std::vector<std::string>& lines) { documents_.SelectLegal(lines); }
-    void ClickOption(int n) { documents_.ClickOption(n); }
-    void DoubleClickOption(int n) { documents_.DoubleClickOption(n); }
+    void FocusList1() {
+        Act([&] { documents_.FocusList1(); });
+    }
+    void FocusList2() {
+        Act([&] { documents_.FocusList2(); });
+    }
+    void PickDocument(std::string_view line) {
+        Act([&] { documents_.Pick(line); });
+    }
+    void DropDocument(std::string_view line) {
+        Act([&] { documents_.Drop(line); });
+    }
+    void SelectLegal(const std::vector<std::string>& lines) {
+        Act([&] { documents_.SelectLegal(lines); });
+    }
+    void ClickOption(int n) {
+        Act([&] { documents_.ClickOption(n); });
+    }
+    void DoubleClickOption(int n) {
+        Act([&] { documents_.DoubleClickOption(n); });
+    }
     /// After the package editor: `List1` offers the packages as they are now.
     void LeavePackages() { documents_.Offer(); }
 
     // The grid and the editors over it: see GridEditor for each.
     const GridEditorState& Editor() const { return editor_.State(); }
-    void ClickGrid(int row, int column) { editor_.Click(row, column); }
-    void DoubleClickGrid(int row, int column) { editor_.DoubleClick(row, column); }
-    void KeyInGrid(EditorKey key) { editor_.KeyInGrid(key); }
-    void TypeInGrid(std::string_view character) { editor_.TypeInGrid(character); }
-    void MoveCursor(int row) { editor_.MoveCursor(row); }
-    void KeyInEditor(std::string_view character) { editor_.KeyInEditor(character); }
-    void KeyInEditor(EditorKey key) { editor_.KeyInEditor(key); }
+    void ClickGrid(int row, int column) {
+        Act([&] { editor_.Click(row, column); });
+    }
+    void DoubleClickGrid(int row, int column) {
+        Act([&] { editor_.DoubleClick(row, column); });
+    }
+    void KeyInGrid(EditorKey key) {
+        Act([&] { editor_.KeyInGrid(key); });
+    }
+    void TypeInGrid(std::string_view character) {
+        Act([&] { editor_.TypeInGrid(character); });
+    }
+    void MoveCursor(int row) {
+        Act([&] { editor_.MoveCursor(row); });
+    }
+    void KeyInEditor(std::string_view character) { Type(character); }
+    void KeyInEditor(EditorKey key) {
+        Act([&] { editor_.KeyInEditor(key); });
+    }
     void SetEditorText(EditorText text) { editor_.SetEditorText(std::move(text)); }
     void SetBlockText(EditorText text) { editor_.SetBlockText(std::move(text)); }
     void SetBlockText(std::string_view text) {  ///< the caret behind it
         editor_.SetBlockText({std::string(text), text.size(), 0});
     }
-    void ClickDay(std::chrono::year_month_day day, bool twice) { editor_.ClickDay(day, twice); }
-    void KeyInCalendar(EditorKey key, std::chrono::year_month_day day) { editor_.KeyInCalendar(key, day); }
-    void PickChoice(std::size_t line) { editor_.PickChoice(line); }
-    void KeyInChoices(EditorKey key, std::string_view text) { editor_.KeyInChoices(key, text); }
-    void PickRecord(std::size_t line) { editor_.PickRecord(line); }
-    void LoseFocus(ScreenFocus to) { editor_.LoseFocus(to); }
-    void ScrollTo(int topRow) { editor_.ScrollTo(topRow); }
+    void ClickDay(std::chrono::year_month_day day, bool twice) {
+        Act([&] { editor_.ClickDay(day, twice); });
+    }
+    void KeyInCalendar(EditorKey key, std::chrono::year_month_day day) {
+        Act([&] { editor_.KeyInCalendar(key, day); });
+    }
+    void PickChoice(std::size_t line) {
+        Act([&] { editor_.PickChoice(line); });
+    }
+    void KeyInChoices(EditorKey key, std::string_view text) {
+        Act([&] { editor_.KeyInChoices(key, text); });
+    }
+    void PickRecord(std::size_t line) {
+        Act([&] { editor_.PickRecord(line); });
+    }
+    void LoseFocus(ScreenFocus to) {
+        Act([&] { editor_.LoseFocus(to); });
+    }
+    void ScrollTo(int topRow) {
+        Act([&] { editor_.ScrollTo(topRow); });
+    }
     void SetRowsOnScreen(int rows) { editor_.SetRowsOnScreen(rows); }
-    void ClickJumpLabel(int group) { editor_.ClickJumpLabel(group); }
-    void Paste(const Clipboard& clipboard) { editor_.Paste(clipboard); }
-    void ClearValue() { editor_.ClearValue(); }
+    void ClickJumpLabel(int group) {
+        Act([&] { editor_.ClickJumpLabel(group); });
+    }
+    void Paste(const Clipboard& clipboard) {
+        Act([&] { editor_.Paste(clipboard); });
+    }
+    void ClearValue() {
+        Act([&] { editor_.ClearValue(); });
+    }
     void SelectAll() { editor_.SelectAll(); }
     void ViewPicture() { editor_.ViewPicture(); }
 
     // Field entry as one step each: see GridSteps.
     std::string EnterField(int n, std::string_view text, EntryWay way) {
-        return steps_.EnterField(n, text, way);
+        return Act([&] { return steps_.EnterField(n, text, way); });
     }
     std::string EnterUserField(std::string_view marker, std::string_view text, EntryWay way) {
-        return steps_.EnterUserField(marker, text, way);
+        return Act([&] { return steps_.EnterUserField(marker, text, way); });
     }
-    std::string TypeInEditor(int n, std::string_view text) { return steps_.TypeInEditor(n, text); }
-    void UnlockRow(int n) { steps_.UnlockRow(n); }
-    std::string ClickNote(int n, int column) { return steps_.ClickNote(n, column); }
+    std::string TypeInEditor(int n, std::string_view text) {
+        return Act([&] { return steps_.TypeInEditor(n, text); });
+    }
+    void UnlockRow(int n) {
+        Act([&] { steps_.UnlockRow(n); });
+    }
+    std::string ClickNote(int n, int column) {
+        return Act([&] { return steps_.ClickNote(n, column); });
+    }
+
+    // Acts taken back and done again: see UndoHistory. An open editor commits first, as on any click outside
+    // it.
+    std::string Undo();
+    std::string Redo();
+    const UndoHistory& History() const { return history_; }
 
     /// A click on a button of the main screen by its control name, such as "cmdCreate".
     void Click(std::string_view button);
@@ -109,8 +179,12 @@ class MainScreen {
     bool BrowserOpen() const { return screen_.browserOpen; }
     void OpenBrowser(bool templates);
     void CloseBrowser() { screen_.browserOpen = false; }
-    void LoadJob(std::string_view name, bool asTemplate) { files_.Load(name, asTemplate); }
+    void LoadJob(std::string_view name, bool asTemplate) {
+        Anew([&] { files_.Load(name, asTemplate); });
+    }
     void Spawn(std::string_view entry);
+    /// Jobs last opened or saved by this user, newest first, those that are still there.
+    std::vector<std::string> RecentJobs() const;
 
     // Windows beside the main one.
     /// The screen of an address book: by the browser's `cmdAttorneys` and `cmdServicers`, or from the main
@@ -124,7 +198,9 @@ class MainScreen {
     ProrationCalculator* Calculator() { return sideWindows_.Calculator(); }
     /// `cmdBuyer`, `cmdSeller`: the amount goes into the grid's current row, if it takes one, as a credit to
     /// that side, with nothing asked; the calculator closes and the grid has the keyboard.
-    void HandOver(CreditTo side) { sideWindows_.HandOver(side); }
+    void HandOver(CreditTo side) {
+        Act([&] { sideWindows_.HandOver(side); });
+    }
     void CloseCalculator() { sideWindows_.CloseCalculator(); }
 
     /// The side tool's window that `cmdCustom` and its like have opened; null when there is none. After each
@@ -136,12 +212,18 @@ class MainScreen {
     const std::vector<SettingsRow>& List3() const { return settings_.Rows(); }
     bool SettingsListShown() const { return settings_.IsShown(); }
     void SelectSetting(std::size_t row) { settings_.Select(row); }
-    void EditSetting(std::size_t row) { settings_.Edit(row); }
+    void EditSetting(std::size_t row) {
+        Anew([&] { settings_.Edit(row); });
+    }
     bool ChoosingClient() const { return clients_.IsOpen(); }
     const std::vector<std::string>& Clients() const { return firm_.ClientLines(); }
     const std::string& Client() const { return firm_.Client(); }  ///< being served, in Para-Pro mode
-    void SelectClient(std::string_view name) { clients_.Select(name); }
-    void DeleteClient(std::string_view name) { clients_.Delete(name); }
+    void SelectClient(std::string_view name) {
+        Anew([&] { clients_.Select(name); });
+    }
+    void DeleteClient(std::string_view name) {
+        Anew([&] { clients_.Delete(name); });
+    }
 
     // CREATE: see CreateCommand.
     void SetCreateTarget(CreateTarget target) { create_.SetTarget(std::move(target)); }
@@ -161,6 +243,33 @@ class MainScreen {
     const std::vector<std::string>& FileNotices() const { return files_.Notices(); }
 
  private:
+    /// Runs a command that a person may take back. Whatever it changed of the job is one act, also where it
+    /// then failed.
+    template <class Command>
+    std::invoke_result_t<Command> Act(Command command) {
+        const AfterCommand after{[this, hint = FieldInHand()] { NoteAct(hint); }};
+        return command();
+    }
+    /// Runs a command behind which nothing can be taken back.
+    template <class Command>
+    void Anew(Command command) {
+        const AfterCommand after{[this] { EndHistory(); }};
+        command();
+    }
+    struct AfterCommand {
+        std::function<void()> then;
+        ~AfterCommand() { then(); }
+    };
+    int FieldInHand() const { return editor_.State().IsOpen() ? editor_.State().EditField : 0; }
+    void NoteAct(int hint);
+    void EndHistory();
+    void Keep();
+    void OpenOwnState();
+    void OfferWhatWasLeft();
+    void Type(std::string_view character);
+    void ClickButton(std::string_view name);
+    bool EndsHistory(std::string_view name) const;
+
     GridSurroundings AroundGrid();
     NameSurroundings AroundName();
     void ResetSession();
@@ -191,6 +300,10 @@ class MainScreen {
     SettingsList settings_;
     ClientChoice clients_;
     SideWindows sideWindows_;
+    UndoHistory history_{screen_, editor_};
+    std::optional<RecentJobList> recent_;
+    std::optional<Journal> journal_;        ///< none where the user has no folder for it
+    std::size_t changesBeforeHistory_ = 0;  ///< since the job's file, that cannot be taken back
 };
 
 }  // namespace quillmark

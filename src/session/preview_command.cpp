@@ -21,4 +21,11 @@ PreviewOrder OrderOfPreview(const MainScreen& screen, std::string_view document)
     return order;
 }
 
+std::vector<Blank> BlanksNow(const MainScreen& screen) {
+    const ScreenState& state = screen.State();
+    const std::vector<Preview> typed =
+        state.List2.empty() ? std::vector<Preview>() : OpenMarkersOfEach(OrderOfPreview(screen));
+    return BlanksOf(state, screen.FirmAround(), typed);
+}
+
 }  // namespace quillmark

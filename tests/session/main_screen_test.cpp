@@ -2,6 +2,7 @@
 
 #include "session/office_fixture.h"
 #include "session/state/buttons.h"
+#include "session/state/reasons.h"
 
 namespace quillmark {
 namespace {
@@ -40,7 +41,7 @@ TEST_F(NameBoxTest, EveryButtonSaysWhatItDoesOrWhyItDoesNot) {
         const Button& button = State().*named.button;
         EXPECT_EQ(button.enabled, WhyDisabled(named.name, State()).empty()) << named.name;
     }
-    EXPECT_EQ("Choose documents first.", WhyDisabled("cmdCreate", State()));
+    EXPECT_EQ("Choose documents first: double-click them in the list.", WhyDisabled("cmdCreate", State()));
 }
 
 TEST_F(NameBoxTest, WithoutAMailProgramTheAddressIsOffered) {

@@ -12,10 +12,10 @@ namespace quillmark::desktop {
 const std::vector<std::string_view>& GuidePages() {
     // The program's first box sends the reader to page 3, the firm's defaults.
     static const std::vector<std::string_view> pages = {
-        "index",      "first-document",    "firm-defaults", "naming",   "documents",
-        "gallery",    "packages",          "grid",          "amounts",  "address-books",
-        "schedule-a", "calculator",        "create",        "files",    "templates",
-        "field-list", "closing-statement", "messages",      "keyboard", "command-line"};
+        "index",      "first-document", "firm-defaults", "naming",    "documents",     "gallery",
+        "packages",   "custom-forms",   "grid",          "amounts",   "address-books", "schedule-a",
+        "calculator", "create",         "files",         "templates", "field-list",    "closing-statement",
+        "messages",   "keyboard",       "command-line"};
     return pages;
 }
 
@@ -29,6 +29,7 @@ const std::vector<GuideTopic>& GuideTopics() {
         {"List1",           "documents"},
         {"List2",           "documents"},
         {"cmdPackages",     "packages"},
+        {"cmdCustom",       "custom-forms"},
         {"grdField",        "grid"},
         {"lblJump",         "grid"},
         {"txtEdit",         "grid"},

@@ -74,6 +74,9 @@ fs::path SystemShell::FolderOf(SpecialFolder folder) {
     if (folder == SpecialFolder::LocalApplication) {
         if (const fs::path data = FromEnvironment("XDG_DATA_HOME"); !data.empty()) return data;
         if (!home.empty()) return home / ".local" / "share";
+    } else if (folder == SpecialFolder::State) {
+        if (const fs::path state = FromEnvironment("XDG_STATE_HOME"); !state.empty()) return state;
+        if (!home.empty()) return home / ".local" / "state";
     } else if (!home.empty()) {
         const fs::path documents = DocumentsOfUserDirs(home);
         if (!documents.empty()) return documents;

@@ -97,4 +97,19 @@ Preview MakePreview(const PreviewOrder& order, const fs::path& to) {
     return made;
 }
 
+std::vector<Preview> OpenMarkersOfEach(const PreviewOrder& order) {
+    const Job job = TypedJob(order);
+    std::vector<Preview> each;
+    for (const std::string& document : order.JobList) {
+        Preview& made = each.emplace_back();
+        try {
+            made.text = Type(job, order, {document}, {});
+            made.values = FindMarkers(job, made.text);
+        } catch (const CreateError&) {
+            made.missing = {document};
+        }
+    }
+    return each;
+}
+
 }  // namespace quillmark

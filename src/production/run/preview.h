@@ -37,4 +37,8 @@ struct Preview {
 /// one that cannot be typed is an empty section; throws CreateError when none can.
 Preview MakePreview(const PreviewOrder& order, const std::filesystem::path& to);
 
+/// Each entry of the job list typed alone, in order: its text, and of the values the open ones. What cannot
+/// be typed is empty.
+std::vector<Preview> OpenMarkersOfEach(const PreviewOrder& order);
+
 }  // namespace quillmark

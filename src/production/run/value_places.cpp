@@ -291,4 +291,10 @@ std::vector<ValuePlace> FindValues(const Job& job, std::u32string_view text, std
     return finder.Places();
 }
 
+std::vector<ValuePlace> FindMarkers(const Job& job, std::u32string_view text) {
+    Finder finder(job, text);
+    finder.TakeMarkers();
+    return finder.Places();
+}
+
 }  // namespace quillmark

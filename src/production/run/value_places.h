@@ -30,6 +30,9 @@ Job WithSigns(const Job& job);
 /// do not correspond, the values are searched for instead.
 std::vector<ValuePlace> FindValues(const Job& job, std::u32string_view text, std::u32string_view signs);
 
+/// Of the places those that are open.
+std::vector<ValuePlace> FindMarkers(const Job& job, std::u32string_view text);
+
 /// Whether every character of the one text has its counterpart in the other.
 bool Correspond(std::u32string_view text, std::u32string_view signs);
 

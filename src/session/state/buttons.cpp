@@ -102,24 +102,6 @@ const Button* FindButton(std::string_view name, const ScreenState& screen) {
     return found == std::end(kButtons) ? nullptr : &(screen.*(found->button));
 }
 
-std::string WhyDisabled(std::string_view name, const ScreenState& screen) {
-    const Button* button = FindButton(name, screen);
-    if (!button || button->enabled) return {};
-    if (screen.creating) return "Documents are being made.";
-    if (name == "cmdCreate")
-        return screen.templateBeingSet ? "A template makes no documents." : "Choose documents first.";
-    if (name == "cmdOpen") {
-        if (!screen.Saves()) return "A job is being entered. RESET clears the screen for another one.";
-        return screen.txtJobName.IsSaveable() ? "There is nothing to save."
-                                              : "The job has no name to save it under.";
-    }
-    if (name == "cmdTemplate" || name == "cmdPackages" || name == "cmdCustom")
-        return "A job is on the screen. RESET clears it first.";
-    if (name == "cmdEnvelopes" || name == "cmdOP236") return "Open a job, or make its documents first.";
-    if (name == "cmdNameAs") return "There is no change to keep under another name.";
-    return "A law firm is to be chosen first.";
-}
-
 bool IsInTopBar(std::string_view name) {
     constexpr std::string_view kTopBar[] = {"cmdOpen",     "cmdCreate",   "cmdReset", "cmdExit",
                                             "cmdTemplate", "cmdPackages", "cmdCustom"};

@@ -30,9 +30,6 @@ std::span<const NamedButton> Buttons();
 /// Null if there is no button of that name.
 const Button* FindButton(std::string_view name, const ScreenState& screen);
 
-/// Why the button cannot be pressed at present, as a sentence; empty for one that can.
-std::string WhyDisabled(std::string_view name, const ScreenState& screen);
-
 /// Whether the button belongs to the bar on top, where the document choice is.
 bool IsInTopBar(std::string_view name);
 

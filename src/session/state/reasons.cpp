@@ -3,7 +3,7 @@
 #include <charconv>
 #include <optional>
 
-#include "selection/options.h"
+#include "core/options.h"
 #include "session/state/buttons.h"
 
 namespace quillmark {
@@ -50,6 +50,7 @@ std::string WhyNoTaxFormOrEnvelopes() {
 }
 
 std::string WhyNotButton(std::string_view name, const ScreenState& screen) {
+    if (screen.creating) return "Documents are being made.";
     if (!screen.cmdReset.enabled) return kChooseClient;
     if (name == "cmdOpen") return WhyNotOpen(screen);
     if (name == "cmdCreate") return WhyNotCreate(screen);

@@ -80,7 +80,8 @@ struct ProgressBar {
     std::size_t documents = 0;
 };
 
-struct ScreenState : JobInHand {
+/// The controls around the job in hand.
+struct ScreenControls {
     NameBox txtJobName;
     bool FieldEntryStarted = false;
     bool templateBeingSet = false;  ///< `cmdTemplate` has the colour 0xC0FFFF
@@ -117,6 +118,12 @@ struct ScreenState : JobInHand {
     OptionButton& ButtonOf(int n) { return options.at(static_cast<std::size_t>(n)); }
     const OptionButton& ButtonOf(int n) const { return options.at(static_cast<std::size_t>(n)); }
 
+    /// The first button saves; enabled, it has something to save.
+    bool Saves() const { return openDoes != OpenDoes::OpenJob && openDoes != OpenDoes::EditJob; }
+    bool HasUnsavedChanges() const { return Saves() && cmdOpen.enabled; }
+};
+
+struct ScreenState : JobInHand, ScreenControls {
     /// The label of group g, 1 to 6.
     JumpLabel lblJump(std::size_t g) const {
         const GridGroup& group = groups.at(g);
@@ -125,10 +132,6 @@ struct ScreenState : JobInHand {
     const char* List2Tooltip() const {
         return List2.empty() ? "" : " Click to select doc(s) for legal size (8.5 x 14) ";
     }
-
-    /// The first button saves; enabled, it has something to save.
-    bool Saves() const { return openDoes != OpenDoes::OpenJob && openDoes != OpenDoes::EditJob; }
-    bool HasUnsavedChanges() const { return Saves() && cmdOpen.enabled; }
 };
 
 }  // namespace quillmark

@@ -1,0 +1,70 @@
+#include "session/recent_jobs.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <functional>
+
+#include "core/job_file.h"
+#include "platform/append_file.h"
+#include "platform/atomic_file.h"
+#include "platform/paths.h"
+
+namespace quillmark {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t kMost = 50;
+constexpr std::size_t kLimit = 1 << 20;
+
+}  // namespace
+
+RecentJobList::RecentJobList(const fs::path& folder, const fs::path& programFolder)
+    : file_(folder / fmt::format("recent-{:016x}.txt",
+                                 std::hash<std::string>{}(TextOf(fs::weakly_canonical(programFolder))))) {}
+
+std::vector<std::string> RecentJobList::Read() const {
+    std::vector<std::string> names;
+    try {
+        std::error_code none;
+        if (!fs::exists(file_, none)) return names;
+        const std::string bytes = ReadFile(file_, kLimit);
+        for (std::size_t begin = 0; begin < bytes.size();) {
+            const std::size_t end = std::min(bytes.find('\n', begin), bytes.size());
+            if (end > begin) names.push_back(bytes.substr(begin, end - begin));
+            begin = end + 1;
+        }
+    } catch (const FileError&) {
+        names.clear();
+    }
+    return names;
+}
+
+void RecentJobList::Touch(const std::string& name) {
+    std::vector<std::string> names = Read();
+    if (!names.empty() && names.front() == name) return;
+    std::erase(names, name);
+    names.insert(names.begin(), name);
+    if (names.size() > kMost) names.resize(kMost);
+    std::string bytes;
+    for (const std::string& each : names) bytes += each + "\n";
+    try {
+        MakeOwnFolder(file_.parent_path());
+        ReplaceFile(file_, bytes);
+    } catch (const FileError&) {
+        // The list stays as it was.
+    }
+}
+
+std::vector<std::string> RecentJobList::Names(const Folders& folders) const {
+    std::vector<std::string> names = Read();
+    std::erase_if(names, [&](const std::string& name) {
+        std::error_code none;
+        return !fs::exists(JobFilePath(folders, name), none);
+    });
+    return names;
+}
+
+}  // namespace quillmark
