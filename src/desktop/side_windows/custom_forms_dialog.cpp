@@ -50,6 +50,7 @@ void CustomFormsDialog::Arrange(Mnemonics& keys) {
     AddPane("File1", "Forms", *files, 2, keys);
     auto* markers = new QVBoxLayout;
     search_ = new QLineEdit(this);
+    search_->setObjectName(QStringLiteral("searchMarkers"));
     search_->setPlaceholderText(QStringLiteral("search the markers"));
     search_->setClearButtonEnabled(true);
     Describe(search_, QStringLiteral("Search the markers"));
@@ -73,6 +74,7 @@ void CustomFormsDialog::AddSource(QBoxLayout& layout, Mnemonics& keys) {
     line->setContentsMargins(0, 0, 0, 0);
     auto* caption = new QLabel(keys.Mark("Document"), source_);
     txtSourceFile_ = new QLineEdit(source_);
+    txtSourceFile_->setObjectName(QStringLiteral("txtSourceFile"));
     caption->setBuddy(txtSourceFile_);
     Describe(txtSourceFile_, QStringLiteral("Document to import"));
     auto* choose = new QPushButton(keys.Mark("Choose ..."), source_);
