@@ -79,6 +79,7 @@ class MakeRun {
             return kFailed;
         }
         for (number_ = 0; number_ < order_.jobs.size(); ++number_) MakeOne(order_.jobs[number_]);
+        MakePdfs();
         job_.clear();
         WriteTrace();
         return Summarise();
@@ -158,10 +159,27 @@ class MakeRun {
         const fs::path made = *screen_->LastDocument();
         Deliver(made);
         if (!pdf_) return;
-        progress_.Show(JobProgress() + ", PDF");
-        const fs::path pdf = fs::path(made).replace_extension(".pdf");
-        pdf_->Convert(made, pdf);
-        Deliver(pdf);
+        pdfs_.push_back({made, fs::path(made).replace_extension(".pdf")});
+        pdfWords_.push_back(job_);
+    }
+
+    /// All together, since LibreOffice takes longer to start than to make one.
+    void MakePdfs() {
+        if (pdfs_.empty()) return;
+        progress_.Show(fmt::format("PDF of {} documents", pdfs_.size()));
+        pdf_->ConvertAll(pdfs_, [this](const PdfOrder& order, const std::exception_ptr& failure) {
+            TellOfPdf(order, failure);
+        });
+        progress_.Clear();
+    }
+    void TellOfPdf(const PdfOrder& order, const std::exception_ptr& failure) {
+        job_ = pdfWords_[static_cast<std::size_t>(&order - pdfs_.data())];
+        try {
+            if (failure) std::rethrow_exception(failure);
+            Deliver(order.pdf);
+        } catch (const std::exception& why) {
+            Fail(why.what());
+        }
     }
 
     /// What kept the documents from being made: a box, and for open fields their names.
@@ -264,6 +282,8 @@ class MakeRun {
     ProgressLine progress_;
     std::unique_ptr<MainScreen> screen_;
     std::optional<PdfConverter> pdf_;
+    std::vector<PdfOrder> pdfs_;
+    std::vector<std::string> pdfWords_;  ///< the jobs that they are of, as they were asked for
     std::size_t number_ = 0;
     std::string job_;  ///< in hand, as it was named; empty for none
     std::set<fs::path> written_;

@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <functional>
 #include <random>
@@ -152,6 +152,15 @@ TEST(ClosingStatementPage, ByTheSale) {
         });
     ExpectGolden("closing/statement_unfilled.txt", std::string(kStatement) + "\na job without any entry\n\n" +
                                                        AsOnPaper(Typed(kStatement, UnfilledDeal())));
+}
+
+TEST(ClosingStatementPage, ALabelTooWideForItsColumnBreaksBeforeTheTab) {
+    Job job = TypicalSale();
+    job.SetField(OtherDisbursement1, "$150.00 - Title search and examination of the last sixty years");
+    const std::string text = Typed(kStatement, job);
+    EXPECT_THAT(
+        text, ::testing::HasSubstr("TITLE SEARCH AND EXAMINATION OF THE LAST SIXTY YEARS\v\t        150.00"));
+    EXPECT_THAT(text, ::testing::HasSubstr("RECORDING FEES - Branford Town Clerk\t         60.00"));
 }
 
 TEST(ClosingStatementPage, LinesAreCloserForAnOldWord) {

@@ -9,12 +9,15 @@
 #include "selection/document_catalogue.h"
 #include "support/scratch.h"
 #include "word/docx/check/package_check.h"
+#include "word/docx/zip/zip_reader.h"
 
 namespace quillmark::test {
 namespace {
 
 using ::testing::EndsWith;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::StartsWith;
 using namespace std::chrono;
 
@@ -82,6 +85,22 @@ TEST_F(CreatedDocument, OfTheWholeCatalogueIsAValidPackage) {
         Create();
         EXPECT_THAT(word::docx::check::CheckPackage(ReadBytes(folder / "Hollis_QMF.docx")), IsEmpty());
     }
+}
+
+TEST_F(CreatedDocument, FileSaysWhatItIsAndHowItIsShown) {
+    job.SetField(field::SellerLawfirm, "Penfield & Lowe LLC");
+    order.settings.bestFitPageView = true;
+    order.DocumentNames = {"Deed / Warranty"};
+    Create();
+    word::docx::zip::ZipReader package(ReadBytes(folder / "Hollis_QMF.docx"), "made");
+    const std::string core = package.Read("docProps/core.xml");
+    EXPECT_THAT(core, HasSubstr("<dc:title>Deed / Warranty - Hollis</dc:title>"
+                                "<dc:creator>Penfield &amp; Lowe LLC</dc:creator>"));
+    EXPECT_THAT(core, HasSubstr("2025-04-06T00:00:00Z</dcterms:created>"));
+    EXPECT_THAT(package.Read("word/settings.xml"), HasSubstr(R"(<w:zoom w:val="bestFit")"));
+    const std::string body = package.Read("word/document.xml");
+    EXPECT_THAT(body, HasSubstr(R"(<w:pStyle w:val="NotaryBlock"/>)"));
+    EXPECT_THAT(body, Not(HasSubstr(R"(<w:b w:val="0"/>)")));
 }
 
 TEST_F(CreatedDocument, FootersFillTheirColumnsUnderUnrecordedDocumentsOnly) {

@@ -83,10 +83,10 @@ TEST_F(FooterPass, TheFirmStandsInForTheProduct) {
         << "characters count, not bytes";
 }
 
-TEST_F(FooterPass, NamesThatFillTheLineLeaveNoBlanks) {
+TEST_F(FooterPass, NamesThatFillTheLineLeaveThePageNumberApart) {
     job.SetField(field::SellerLawfirm, std::string(120, 'x'));
     Finish({"Privacy Policy"}, {word::SectionNewPage}, {.footers = Footers::LawFirm});
-    EXPECT_EQ(Footer(1), "Privacy Policy - #" + std::string(120, 'x'));
+    EXPECT_EQ(Footer(1), "Privacy Policy - #  " + std::string(120, 'x'));
 }
 
 TEST_F(FooterPass, AnUnusableNameIsLeftOut) {

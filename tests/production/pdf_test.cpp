@@ -47,7 +47,7 @@ TEST_F(Pdf, TheProgramsOutputBecomesTheFile) {
     Install(
         "for last; do :; done\n"
         "while [ \"$1\" != --outdir ]; do case $1 in -env:*) profile=$1;; esac; shift; done\n"
-        "mkdir -p \"$2\"; { cat \"$last\"; echo \" $profile\"; } > \"$2/Hollis.pdf\"\n");
+        "mkdir -p \"$2\"; { cat \"$last\"; echo \" $profile\"; } > \"$2/$(basename \"$last\" .docx).pdf\"\n");
     ASSERT_EQ(Failure(), "");
     EXPECT_THAT(ReadBytes(folder / "Hollis.pdf"), HasSubstr("document -env:UserInstallation=file:///"));
 }
@@ -64,6 +64,33 @@ TEST_F(Pdf, AProgramThatHangsIsEndedWithAllThatItStarted) {
     const auto start = std::chrono::steady_clock::now();
     EXPECT_THAT(Failure(std::chrono::seconds(1)), HasSubstr("within 1 seconds"));
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+TEST_F(Pdf, ManyDocumentsCostOneStartAndOneThatTakesTheProgramDownOnlyOneMore) {
+    fs::create_directory(folder / "other");
+    WriteBytes(folder / "other/Hollis.docx", "the same name");
+    WriteBytes(folder / "Bad.docx", "bad");
+    WriteBytes(folder / "Deadly.docx", "deadly");
+    WriteBytes(folder / "Last.docx", "last");
+    Install(
+        "while [ \"$1\" != --outdir ]; do shift; done; out=$2; shift 2; mkdir -p \"$out\"\n"
+        "echo start >> \"" +
+        TextOf(folder / "starts") +
+        "\"\n"
+        "for f; do case $(cat \"$f\") in bad) ;; deadly) exit 1;;\n"
+        "  *) cp \"$f\" \"$out/$(basename \"$f\" .docx).pdf\";; esac; done\n");
+    std::vector<PdfOrder> orders;
+    for (const char* name : {"Hollis", "other/Hollis", "Bad", "Missing", "Deadly", "Last"})
+        orders.push_back({folder / (name + std::string(".docx")), folder / (name + std::string(".pdf"))});
+    std::vector<std::string> failed;
+    PdfConverter().ConvertAll(orders, [&](const PdfOrder& order, const std::exception_ptr& failure) {
+        if (failure) failed.push_back(TextOf(order.document.filename()));
+    });
+    EXPECT_EQ(ReadBytes(folder / "Hollis.pdf"), "document");
+    EXPECT_EQ(ReadBytes(folder / "other/Hollis.pdf"), "the same name");
+    EXPECT_EQ(ReadBytes(folder / "Last.pdf"), "last");
+    EXPECT_THAT(failed, ::testing::UnorderedElementsAre("Bad.docx", "Missing.docx", "Deadly.docx"));
+    EXPECT_EQ(ReadBytes(folder / "starts"), "start\nstart\nstart\n");
 }
 
 TEST_F(Pdf, WithoutLibreOfficeThereIsNoConverter) {

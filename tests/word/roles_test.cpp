@@ -101,6 +101,25 @@ TEST_F(Roles, BlocksToSignStayWholeAndTheDocumentsEndTakesNoPage) {
               "BodyText BodyText BodyText+ BodyText+ BodyText DocumentEnd DocumentEnd");
 }
 
+TEST_F(Roles, StatementThatMissesItsPageByAFewLinesIsSetCloser) {
+    const auto spacingOf = [](int lines) {
+        EngineSession session;
+        docx::objects::HintsOf(session.app.Reach())->SetRole(Role::StatementLine);
+        session.sel.Font.Name = "Times New Roman";
+        session.sel.Font.Size = 10;
+        session.sel.Paragraphs.LineSpacing = 11.9;
+        for (int i = 0; i < lines; ++i) session.sel.TypeText("TAX ADJUSTMENT\r");
+        const auto again = docx::read::OpenDocxBytes(docx::write::WriteDocx(session.Model()));
+        const auto& first = std::get<docx::Paragraph>(again->body.front());
+        return *docx::EffectiveParagraph(*again, again->paraFormats[first.format]).line;
+    };
+    // A page of 9 inches has room for 56 lines of 11.4 points.
+    EXPECT_EQ(spacingOf(55), 238);
+    EXPECT_EQ(spacingOf(57), 228);
+    EXPECT_EQ(spacingOf(66), 198);
+    EXPECT_EQ(spacingOf(90), 238) << "a second page is needed in any case";
+}
+
 TEST_F(Roles, AreNothingToDocumentsWithoutAnyAndAfterTheEngineHasGone) {
     sel.TypeText("Plain.\r");
     EXPECT_EQ(Styles(), "Normal Normal");
@@ -227,7 +246,8 @@ TEST(RolesAtRandom, LeaveEveryLookAsItWas) {
         for (std::size_t i = 0; i < typed.size(); ++i) {
             // The empty paragraph at a document's end is made small.
             const bool isEnd = typed[i].starts_with("|") && read[i].ends_with(" 2");
-            if (!isEnd) EXPECT_EQ(typed[i], read[i]) << "seed " << seed << ", paragraph " << i;
+            if (isEnd) continue;
+            EXPECT_EQ(typed[i], read[i]) << "seed " << seed << ", paragraph " << i;
         }
     }
 }

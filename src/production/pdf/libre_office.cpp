@@ -42,24 +42,28 @@ LibreOffice::~LibreOffice() {
     fs::remove_all(folder_, ignored);
 }
 
+ProgramEnd LibreOffice::Run(std::string_view kind, const std::vector<fs::path>& documents,
+                            std::chrono::seconds limit) const {
+    std::vector<std::string> arguments = {"-env:UserInstallation=" + FileAddress(folder_ / "profile"),
+                                          "--headless",
+                                          "--norestore",
+                                          "--convert-to",
+                                          std::string(kind),
+                                          "--outdir",
+                                          TextOf(folder_ / "output")};
+    for (const fs::path& document : documents) arguments.push_back(TextOf(fs::absolute(document)));
+    try {
+        return RunProgram(program_, arguments, limit);
+    } catch (const std::system_error& failure) {
+        throw OfficeCannotStart(std::string("LibreOffice cannot be started: ") + failure.what());
+    }
+}
+
 fs::path LibreOffice::Make(std::string_view kind, const fs::path& document,
                            std::chrono::seconds limit) const {
     const fs::path made = folder_ / "output" / document.filename().replace_extension(kind);
-    const std::vector<std::string> arguments = {"-env:UserInstallation=" + FileAddress(folder_ / "profile"),
-                                                "--headless",
-                                                "--norestore",
-                                                "--convert-to",
-                                                std::string(kind),
-                                                "--outdir",
-                                                TextOf(folder_ / "output"),
-                                                TextOf(fs::absolute(document))};
     const std::string name = TextOf(document);
-    ProgramEnd end = ProgramEnd::Failed;
-    try {
-        end = RunProgram(program_, arguments, limit);
-    } catch (const std::system_error& failure) {
-        throw OfficeError(name + ": LibreOffice cannot be started: " + failure.what());
-    }
+    const ProgramEnd end = Run(kind, {document}, limit);
     if (end == ProgramEnd::TimedOut)
         throw OfficeError(name + ": LibreOffice made no " + InCapitals(kind) + " within " +
                           std::to_string(limit.count()) + " seconds");

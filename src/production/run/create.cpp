@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "core/fields.h"
 #include "core/text_conversions.h"
 #include "platform/atomic_file.h"
 #include "production/run/dispatch.h"
@@ -159,7 +160,21 @@ void CreateRun::FinishDocument() {
                     .nameUsable = order_.nameUsable,
                     .isWholeJob = JobList().size() == order_.DocumentNames.size()});
     if (order_.settings.footers == Footers::Description) LockFooters(*session_);
+    DescribeFile();
     session_->WordSel.GoTo(word::GoToLine, word::GoToFirst);
+}
+
+/// What the file says of itself; the view is set before it is saved, since it is shown later.
+void CreateRun::DescribeFile() {
+    if (!session_->hints) return;
+    word::DocumentProperties properties;
+    const bool isOne = order_.DocumentNames.size() == 1;
+    if (isOne) properties.title = order_.DocumentNames.front();
+    if (!job_.name.empty() && order_.nameUsable) properties.title += (isOne ? " - " : "") + job_.name;
+    properties.author = job_.IsFilled(field::SellerLawfirm) ? job_.D(field::SellerLawfirm) : "Quillmark";
+    properties.created = std::chrono::sys_days(order_.today);
+    session_->hints->SetProperties(properties);
+    session_->hints->SetBestFit(order_.settings.bestFitPageView);
 }
 
 void CreateRun::Save(const std::string& file) {

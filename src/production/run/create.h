@@ -107,6 +107,7 @@ class CreateRun {
     void StartWord();
     void TypeDocumentAt(std::size_t entry);
     void FinishDocument();
+    void DescribeFile();
     [[noreturn]] void Abandon();
     void Report(double value, std::size_t document);
 

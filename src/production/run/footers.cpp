@@ -10,6 +10,8 @@ namespace {
 
 constexpr std::string_view kProduct = "Quillmark";
 constexpr int kFooterColumns = 134;
+/// Between the page number and the text at the right, however long the names are.
+constexpr int kLeastBlanks = 2;
 /// From this version on the story's length falls one short.
 constexpr double kLongerFooters = 12;
 
@@ -49,7 +51,7 @@ void TypeFooter(const word::Range& range, const std::string& beginning, const st
     range.MoveStart(word::UnitStory);
     range.Fields.Add(range, word::FieldPage);
     range.MoveStart(word::UnitStory);
-    const int blanks = std::max(0, kFooterColumns - range.StoryLength - end.columns);
+    const int blanks = std::max(kLeastBlanks, kFooterColumns - range.StoryLength - end.columns);
     range.InsertAfter(std::string(static_cast<std::size_t>(blanks), ' ') + end.text);
 }
 

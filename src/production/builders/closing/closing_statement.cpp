@@ -17,9 +17,6 @@ using namespace field;
 
 namespace {
 
-constexpr double kIndent = 0.375;
-constexpr double kFigureTab = 4;
-constexpr double kTotalTab = 5.5;
 /// So that a full statement stays on one page.
 constexpr double kLines = 11.9;
 constexpr double kLinesOfOldWord = 11;
@@ -77,7 +74,7 @@ struct StatementPage {
 };
 
 void StatementPage::Head() {
-    type.Indents(kIndent);
+    type.Indents(StatementLines::kIndent);
     type.Align(word::AlignCentre);
     type.Font("Times New Roman", 12);
     type.Bold(true);
@@ -219,7 +216,7 @@ void StatementPage::Disbursements() {
     Commissions(payoffStands ? ' ' : '$');
     lines.Line("ATTY FEES - " + job[SellerLawfirm], entries.AttorneyFee);
     const std::string clerk = job.Town(PropertyCityStateZip) + " Town Clerk";
-    type.Text("CONVEYANCE TAX", statement.Municipal.rateText, clerk, "\t");
+    lines.Label("CONVEYANCE TAX" + std::string(statement.Municipal.rateText) + clerk);
     lines.Wide(statement.Municipal.tax);
     lines.FollowingLine("CONVEYANCE TAX" + std::string(statement.State.rateText) + "Comm. Revenue Services",
                         statement.State.tax);
@@ -248,7 +245,7 @@ bool StatementPage::Payoffs() {
         return true;
     }
     if (!job.Has(OnePayoff)) return false;
-    type.Text("MORTGAGE PAYOFF - ", job[Payoff1Servicer], "\t");
+    lines.Label("MORTGAGE PAYOFF - " + job[Payoff1Servicer]);
     lines.Dollar(entries.Payoff1);
     type.Text("\r");
     return true;
@@ -275,7 +272,7 @@ void StatementPage::Commissions(char mark) {
                      CommissionPart(entries.Commission2, second, Realtor2Name));
         type.Text("\r");
     } else if (entries.Commission1.amount > 0) {
-        type.Text("R.E. COMMISSION - ", job[Realtor1Name], "\t");
+        lines.Label("R.E. COMMISSION - " + job[Realtor1Name]);
         lines.Marked(mark, statement.CommissionTotal);
         type.Text("\r");
         if (!first) return;
@@ -298,7 +295,7 @@ void TypeClosingStatement(const Production& production, Typist& type, const Vari
     StatementPage page(production, type, statement);
     type.Role(word::Role::StatementLine);
     page.Head();
-    type.AtTabs({kFigureTab, kTotalTab}, [&] {
+    type.AtTabs({StatementLines::kFigureTab, StatementLines::kTotalTab}, [&] {
         type.LineSpacing(type.WordVersion() >= 12 ? kLines : kLinesOfOldWord);
         page.CreditsToSeller();
         page.CreditsToBuyer();

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include "core/text_conversions.h"
+#include "word/seam/letter_widths.h"
 
 namespace quillmark {
 
@@ -34,6 +35,12 @@ std::string Padded(const std::string& figure, std::size_t columns) {
 /// The line over a total, under the digits of a figure.
 std::string TotalRule() {
     return RepeatTab(2, 2) + RepeatUnderscore(12) + "\r";
+}
+
+/// Whether a label takes the tab behind it past the place of the figures.
+bool IsTooWide(std::string_view label) {
+    constexpr double kColumn = word::InchesToPoints(StatementLines::kFigureTab - StatementLines::kIndent);
+    return word::WidthOf(label, kLabelFont, StatementLines::kSize) >= kColumn;
 }
 
 std::string DetailText(const StatementProration& proration) {
@@ -81,14 +88,18 @@ void StatementLines::Marked(char mark, double dollars) {
     InCourier(mark + Padded(FigureText(dollars), 13));
 }
 
+void StatementLines::Label(std::string_view label) {
+    type_.Text(label, IsTooWide(label) ? "\v\t" : "\t");
+}
+
 void StatementLines::Line(std::string_view label, double dollars) {
-    type_.Text(label, "\t");
+    Label(label);
     Wide(dollars);
     type_.Text("\r");
 }
 
 void StatementLines::FollowingLine(std::string_view label, double dollars) {
-    type_.Text("\r", label, "\t");
+    type_.Text("\r", label, IsTooWide(label) ? "\v\t" : "\t");
     Wide(dollars);
 }
 
@@ -130,7 +141,7 @@ void StatementLines::LabelOrField(const std::string& label, const std::string& f
     if (label.empty())
         type_.TextField(field);
     else
-        type_.Text(label);
+        type_.Text(label, IsTooWide(label) ? "\v" : "");
 }
 
 void StatementLines::Total(double dollars, const std::string& end) {

@@ -31,12 +31,22 @@ struct StatementProration {
 
 /// Types the lines: a label, a tab, 14 characters of Courier for a figure. Every method goes back to "Times
 /// New Roman" at the size of the page, neither bold, italic nor underlined.
+///
+/// A label that is too wide for its column is followed by a line break, so that the figure stands in its
+/// column on the line below.
 class StatementLines {
  public:
     explicit StatementLines(Typist& type) : type_(type) {}
 
     static constexpr double kSize = 10;
     static constexpr double kDetailSize = 8;
+    /// Where the labels begin and where the figures of the lines and of the totals stand, in inches.
+    static constexpr double kIndent = 0.375;
+    static constexpr double kFigureTab = 4;
+    static constexpr double kTotalTab = 5.5;
+
+    /// What a line is called, and the tab to its figure.
+    void Label(std::string_view label);
 
     // Figures, at the insertion point.
     void Wide(double dollars);                             ///< a figure like most

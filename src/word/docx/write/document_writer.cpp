@@ -165,7 +165,7 @@ class PackageWriter {
     void AddPropertyParts() {
         const std::string core = state_.parts.Reserve("docProps/core.xml");
         package_.Add(kCoreRelationship, core);
-        state_.parts.Put(core, std::string(kCoreContentType), CorePropertiesPart());
+        state_.parts.Put(core, std::string(kCoreContentType), CorePropertiesPart(document_.properties));
         const std::string application = state_.parts.Reserve("docProps/app.xml");
         package_.Add("extended-properties", application);
         state_.parts.Put(application, std::string(kApplicationContentType), ApplicationPropertiesPart());

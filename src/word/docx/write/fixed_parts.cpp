@@ -27,6 +27,8 @@ void OpenRootWithExtensions(xml::XmlWriter& xml, std::string_view tag) {
     xml.Attribute("mc:Ignorable", xml::kIgnorable);
 }
 
+constexpr std::string_view kLanguage = "en-US";
+
 // ---- Settings ------------------------------------------------------------------------------------------
 
 void WriteZoom(xml::XmlWriter& xml, const Document& document) {
@@ -43,14 +45,33 @@ void WriteProtection(xml::XmlWriter& xml) {
     xml.Close();
 }
 
-/// Without the mode a newer Word opens the document as one of Word 2007, in its compatibility mode.
+struct CompatibilitySetting {
+    std::string_view name;
+    int value;
+};
+
+// clang-format off
+/// Those of the present layout. Without the mode a newer Word opens the document as one of Word 2007, in its
+/// compatibility mode.
+constexpr CompatibilitySetting kCompatibility[] = {
+    {"compatibilityMode",                          15},
+    {"overrideTableStyleFontSizeAndJustification", 1},
+    {"enableOpenTypeFeatures",                     1},
+    {"doNotFlipMirrorIndents",                     1},
+    {"differentiateMultirowTableHeaders",          1},
+    {"useWord2013TrackBottomHyphenation",          0},
+};
+// clang-format on
+
 void WriteCompatibility(xml::XmlWriter& xml) {
     xml.Open("w:compat");
-    xml.Open("w:compatSetting");
-    xml.Attribute("w:name", "compatibilityMode");
-    xml.Attribute("w:uri", "http://schemas.microsoft.com/office/word");
-    xml.Attribute("w:val", 15);
-    xml.Close();
+    for (const CompatibilitySetting& setting : kCompatibility) {
+        xml.Open("w:compatSetting");
+        xml.Attribute("w:name", setting.name);
+        xml.Attribute("w:uri", "http://schemas.microsoft.com/office/word");
+        xml.Attribute("w:val", setting.value);
+        xml.Close();
+    }
     xml.Close();
 }
 
@@ -115,6 +136,20 @@ void WriteList(xml::XmlWriter& xml, const Document& document, std::size_t index)
         xml.Close();
     }
     xml.Raw(list.overrides);
+    xml.Close();
+}
+
+// ---- Properties ----------------------------------------------------------------------------------------
+
+void WriteTime(xml::XmlWriter& xml, std::string_view tag, std::chrono::sys_seconds time) {
+    const auto day = std::chrono::floor<std::chrono::days>(time);
+    const std::chrono::year_month_day date = day;
+    const std::chrono::hh_mm_ss clock(time - day);
+    xml.Open(tag);
+    xml.Attribute("xsi:type", "dcterms:W3CDTF");
+    xml.Text(fmt::format("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}Z", static_cast<int>(date.year()),
+                         static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
+                         clock.hours().count(), clock.minutes().count(), clock.seconds().count()));
     xml.Close();
 }
 
@@ -184,6 +219,11 @@ std::string SettingsPart(const Document& document) {
     if (document.evenAndOddHeaders) xml.Empty("w:evenAndOddHeaders");
     xml.Empty("w:characterSpacingControl", "doNotCompress");
     WriteCompatibility(xml);
+    xml.Open("w:themeFontLang");
+    xml.Attribute("w:val", kLanguage);
+    xml.Close();
+    xml.Empty("w:decimalSymbol", ".");
+    xml.Empty("w:listSeparator", ",");
     xml.Close();
     return xml.Take();
 }
@@ -207,13 +247,22 @@ std::string FontsPart(const Document& document) {
     return xml.Take();
 }
 
-std::string CorePropertiesPart() {
+std::string CorePropertiesPart(const DocumentProperties& properties) {
     xml::XmlWriter xml;
     xml.Declaration();
     xml.Open("cp:coreProperties");
     xml.Attribute("xmlns:cp", "http://schemas.openxmlformats.org/package/2006/metadata/core-properties");
     xml.Attribute("xmlns:dc", "http://purl.org/dc/elements/1.1/");
-    xml.Empty("dc:title");
+    xml.Attribute("xmlns:dcterms", "http://purl.org/dc/terms/");
+    xml.Attribute("xmlns:xsi", "http://www.w3.org/2001/XMLSchema-instance");
+    xml.Element("dc:title", properties.title);
+    if (!properties.author.empty()) xml.Element("dc:creator", properties.author);
+    if (!properties.author.empty()) xml.Element("cp:lastModifiedBy", properties.author);
+    if (properties.created != std::chrono::sys_seconds{}) {
+        WriteTime(xml, "dcterms:created", properties.created);
+        WriteTime(xml, "dcterms:modified", properties.created);
+    }
+    xml.Element("dc:language", kLanguage);
     xml.Close();
     return xml.Take();
 }

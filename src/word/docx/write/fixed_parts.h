@@ -15,8 +15,9 @@ std::string NumberingPart(const Document& document);
 /// The fonts that the document's direct formatting names, with what a machine without them needs to choose
 /// one like them.
 std::string FontsPart(const Document& document);
-/// Title, author and dates: there are none, so that equal documents are equal files.
-std::string CorePropertiesPart();
+/// Title, author and the time of making. They are what the document was told, no clock's or user's, so that
+/// equal documents are equal files.
+std::string CorePropertiesPart(const DocumentProperties& properties);
 std::string ApplicationPropertiesPart();
 
 }  // namespace quillmark::word::docx::write

@@ -3,8 +3,11 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <functional>
+#include <ranges>
 #include <tuple>
 
+#include "word/docx/write/closer_lines.h"
 #include "word/docx/write/properties.h"
 #include "word/docx/xml/xml_writer.h"
 
@@ -63,7 +66,7 @@ void SetParagraphLook(const Document& document, const ParaFormat& normal, Planne
     if (style.paragraphs.empty() || style.kind == StyleKind::Normal) return;
     const auto common = [&](const auto& valueOf) {
         return MostCommon(style.paragraphs, [&](FormatId format) {
-            return valueOf(Completed(document.paraFormats[format], normal));
+            return valueOf(Closer(Completed(document.paraFormats[format], normal), style.closer));
         });
     };
     const auto member = [&](std::optional<int> ParaFormat::*which) {
@@ -130,6 +133,12 @@ std::string LettersOf(const PlannedStyle& style) {
     return fmt::format("{} {}{}", style.letterLook.font, halfPoints / 2, halfPoints % 2 ? ".5" : "");
 }
 
+std::size_t UseOf(const PlannedStyle& style) {
+    std::size_t use = 0;
+    for (const auto& [format, weight] : style.paragraphs) use += weight;
+    return use;
+}
+
 bool IsTaken(const Document& document, const std::vector<PlannedStyle>& styles, const PlannedStyle& style) {
     const auto same = [&](const auto& other) { return other.id == style.id || other.name == style.name; };
     const auto isOther = [&](const PlannedStyle& other) { return &other != &style && same(other); };
@@ -148,6 +157,10 @@ ParaFormat WithMarks(ParaFormat format, const RoleStyle& role) {
 }
 
 }  // namespace
+
+bool IsUsed(const PlannedStyle& style) {
+    return style.kind == StyleKind::Normal || !style.paragraphs.empty();
+}
 
 CharFormat Completed(CharFormat format, const CharFormat& base) {
     if (format.font.empty()) format.font = base.font;
@@ -233,8 +246,13 @@ void SetLooks(const Document& document, const CharFormat& normalLetters, const P
 void NameStyles(const Document& document, std::vector<PlannedStyle>& styles) {
     styles.front().id = kRoleStyles[0].id;
     styles.front().name = kRoleStyles[0].name;
-    for (std::size_t i = 1; i < styles.size(); ++i) {
-        PlannedStyle& style = styles[i];
+    // The plain name goes to the kind that is used most.
+    std::vector<PlannedStyle*> byUse;
+    for (PlannedStyle& style : styles | std::views::drop(1))
+        if (IsUsed(style)) byUse.push_back(&style);
+    std::ranges::stable_sort(byUse, std::greater(), [](const PlannedStyle* style) { return UseOf(*style); });
+    for (PlannedStyle* const named : byUse) {
+        PlannedStyle& style = *named;
         const RoleStyle& role = RoleStyleOf(style);
         style.id = role.id;
         style.name = role.name;

@@ -24,7 +24,9 @@ ParaFormat Beyond(ParaFormat format, const ParaFormat& look);
 /// to those of most text.
 void SetLooks(const Document& document, const CharFormat& normalLetters, const ParaFormat& normalLook,
               std::vector<PlannedStyle>& styles);
-/// Gives the styles names and ids that the document does not use yet.
+/// Normal, and what some paragraph is written in.
+bool IsUsed(const PlannedStyle& style);
+/// Gives the used styles names and ids that the document does not use yet.
 void NameStyles(const Document& document, std::vector<PlannedStyle>& styles);
 /// A planned style in XML, Normal or one based on it.
 StyleDefinition DefinitionOf(const PlannedStyle& style, const std::vector<PlannedStyle>& styles);

@@ -4,6 +4,7 @@
 
 #include "word/docx/model/style_look.h"
 #include "word/docx/model/walk.h"
+#include "word/docx/write/closer_lines.h"
 #include "word/docx/write/keep_together.h"
 #include "word/docx/write/properties.h"
 #include "word/docx/write/style_looks.h"
@@ -31,14 +32,11 @@ StylePlan::StylePlan(const Document& document) : document_(document) {
     normalLetters_ = EffectiveFont(document, {}, {});
     normalLook_ = EffectiveParagraph(document, {});
     styles_.push_back({});
-    Collect(document.body);
+    ForEachParagraph(document.body, [this](const Paragraph& paragraph) { Plan(paragraph); });
     PlanSections();
+    Weigh();
     SetLooks(document, normalLetters_, normalLook_, styles_);
     NameStyles(document, styles_);
-}
-
-void StylePlan::Collect(const Blocks& blocks) {
-    ForEachParagraph(blocks, [this](const Paragraph& paragraph) { Plan(paragraph); });
 }
 
 int StylePlan::StyleOf(const ParaFormat& format, FormatId letters) {
@@ -52,33 +50,32 @@ int StylePlan::StyleOf(const ParaFormat& format, FormatId letters) {
                               (std::uint64_t{static_cast<std::uint8_t>(role)} << 32) | letters;
     const auto [known, isNew] = styleByFormats_.try_emplace(key, 0);
     if (!isNew) return known->second;
-    const CharFormat look = Completed(document_.charFormats[letters], normalLetters_);
+    PlannedStyle wanted{.kind = kind, .role = role};
+    // The lines of a statement mix their letters, and stand under one another.
+    if (role < Role::StatementHeading)
+        wanted.letterLook = Completed(document_.charFormats[letters], normalLetters_);
+    return known->second = StyleLike(wanted);
+}
+
+int StylePlan::StyleLike(const PlannedStyle& wanted) {
     const auto isSame = [&](const PlannedStyle& style) {
-        return style.kind == kind && style.role == role && style.letterLook.font == look.font &&
-               style.letterLook.halfPoints == look.halfPoints;
+        return style.kind == wanted.kind && style.role == wanted.role && style.closer == wanted.closer &&
+               style.letterLook.font == wanted.letterLook.font &&
+               style.letterLook.halfPoints == wanted.letterLook.halfPoints;
     };
-    auto style = std::ranges::find_if(styles_, isSame);
-    if (style == styles_.end()) {
-        styles_.push_back({.kind = kind, .role = role, .letterLook = look});
-        style = std::prev(styles_.end());
-    }
-    return known->second = static_cast<int>(style - styles_.begin());
+    const auto style = std::ranges::find_if(styles_, isSame);
+    const auto index = static_cast<int>(style - styles_.begin());
+    if (style == styles_.end()) styles_.push_back(wanted);
+    return index;
 }
 
 void StylePlan::Plan(const Paragraph& paragraph) {
     const ParaFormat& format = document_.paraFormats[paragraph.format];
     Planned& planned = paragraphs_.emplace_back(Planned{&paragraph, {}});
-    if (!format.style.empty()) return;
-    planned.use.style = StyleOf(format, LettersOf(paragraph));
-    PlannedStyle& style = styles_[static_cast<std::size_t>(planned.use.style)];
-    for (const Span& span : paragraph.spans) style.letters[span.format] += span.length;
-    if (paragraph.spans.empty()) style.letters[paragraph.markFormat] += 1;
-    // Empty lines count for little: they often stand in what the paragraph before left behind.
-    constexpr std::size_t kWithText = 8;
-    style.paragraphs[paragraph.format] += paragraph.text.empty() ? 1 : kWithText;
+    if (format.style.empty()) planned.use.style = StyleOf(format, LettersOf(paragraph));
 }
 
-/// Divides the body into what stands on pages of its own, and plans how each holds together.
+/// Divides the body into what stands on pages of its own, and plans each.
 void StylePlan::PlanSections() {
     std::vector<const SectionProperties*> sections;
     for (const Block& block : document_.body) {
@@ -90,18 +87,6 @@ void StylePlan::PlanSections() {
     std::size_t section = 0;
     std::size_t planned = 0;
     std::vector<PagePart> parts;
-    const auto finish = [&] {
-        const std::optional<std::size_t> end = KeepTogether(parts);
-        for (const PagePart& part : parts) {
-            if (!part.isPlanned) continue;
-            StyleUse& use = paragraphs_[part.planned].use;
-            use.keepNext = part.keepNext;
-            use.isGap = part.isGap;
-        }
-        for (std::size_t i = end.value_or(parts.size()); i < parts.size(); ++i)
-            paragraphs_[parts[i].planned].use.style = EndStyle();
-        parts.clear();
-    };
     for (const Block& block : document_.body) {
         PagePart& part = parts.emplace_back();
         if (const auto* table = std::get_if<std::unique_ptr<Table>>(&block)) {
@@ -117,19 +102,51 @@ void StylePlan::PlanSections() {
                 .length = paragraph->text.size(),
                 .isEmpty = paragraph->text.empty() && paragraph->anchors.empty()};
         ++planned;
-        if (paragraph->section && sections[++section]->start != kContinuous) finish();
+        if (!paragraph->section || sections[++section]->start == kContinuous) continue;
+        PlanPage(parts, *paragraph->section);
+        parts.clear();
     }
-    finish();
+    PlanPage(parts, document_.lastSection);
 }
 
-int StylePlan::EndStyle() {
-    const auto isEnd = [](const PlannedStyle& style) { return style.kind == StyleKind::DocumentEnd; };
-    auto style = std::ranges::find_if(styles_, isEnd);
-    if (style == styles_.end()) {
-        styles_.push_back({.kind = StyleKind::DocumentEnd});
-        style = std::prev(styles_.end());
+void StylePlan::PlanPage(std::vector<PagePart>& parts, const SectionProperties& section) {
+    const std::size_t end = KeepTogether(parts).value_or(parts.size());
+    PageMeasure measure(document_, normalLetters_, normalLook_);
+    bool isStatement = false;
+    for (std::size_t i = 0; i < end; ++i) {
+        if (!parts[i].isPlanned) continue;
+        Planned& planned = paragraphs_[parts[i].planned];
+        planned.use.keepNext = parts[i].keepNext;
+        planned.use.isGap = parts[i].isGap;
+        isStatement = isStatement || parts[i].role == Role::StatementLine;
     }
-    return static_cast<int>(style - styles_.begin());
+    for (std::size_t i = end; i < parts.size(); ++i)
+        paragraphs_[parts[i].planned].use.style = StyleLike({.kind = StyleKind::DocumentEnd});
+    if (!isStatement) return;
+    for (std::size_t i = 0; i < end; ++i)
+        if (parts[i].isPlanned) measure.Add(*paragraphs_[parts[i].planned].paragraph, section);
+    const int closer = measure.CloserBy(section);
+    for (std::size_t i = 0; i < end && closer > 0; ++i) {
+        if (!parts[i].isPlanned) continue;
+        int& style = paragraphs_[parts[i].planned].use.style;
+        PlannedStyle wanted = styles_[static_cast<std::size_t>(style)];
+        if (wanted.kind == StyleKind::Normal) continue;
+        wanted.closer = closer;
+        style = StyleLike(wanted);
+    }
+}
+
+/// Counts what is in each style.
+void StylePlan::Weigh() {
+    // Empty lines count for little: they often stand in what the paragraph before left behind.
+    constexpr std::size_t kWithText = 8;
+    for (const auto& [paragraph, use] : paragraphs_) {
+        if (use.style == StyleUse::kAsItIs) continue;
+        PlannedStyle& style = styles_[static_cast<std::size_t>(use.style)];
+        for (const Span& span : paragraph->spans) style.letters[span.format] += span.length;
+        if (paragraph->spans.empty()) style.letters[paragraph->markFormat] += 1;
+        style.paragraphs[paragraph->format] += paragraph->text.empty() ? 1 : kWithText;
+    }
 }
 
 StyleUse StylePlan::UseOf(const Paragraph& paragraph) {
@@ -153,7 +170,8 @@ std::string StylePlan::ParagraphProperties(const StyleUse& use, FormatId format,
     ParaFormat direct;
     if (style.kind != StyleKind::DocumentEnd) {
         const bool isItem = style.kind == StyleKind::ListItem;
-        direct = Beyond(isItem ? CompletedItem(own, normalLook_) : Completed(own, normalLook_), style.look);
+        direct = isItem ? CompletedItem(own, normalLook_) : Completed(own, normalLook_);
+        direct = Beyond(Closer(std::move(direct), style.closer), style.look);
     }
     if (style.kind != StyleKind::Normal) direct.style = style.id;
     if (use.keepNext == StyleUse::Keep::On) direct.extra.emplace_back("keepNext", "<w:keepNext/>");
@@ -167,6 +185,7 @@ std::vector<StyleDefinition> StylePlan::Styles() const {
     std::vector<StyleDefinition> definitions = document_.styles;
     if (!isActive()) return definitions;
     for (const PlannedStyle& style : styles_) {
+        if (!IsUsed(style)) continue;
         StyleDefinition definition = DefinitionOf(style, styles_);
         const auto known = std::ranges::find(definitions, definition.id, &StyleDefinition::id);
         if (known == definitions.end())

@@ -36,14 +36,17 @@ struct PlannedStyle {
 
     StyleKind kind = StyleKind::Normal;
     Role role = Role::None;
-    Weights letters;     ///< of the text in it, by bytes
-    Weights paragraphs;  ///< of the paragraphs in it, by their number
+    int closer = 0;           ///< its lines stand closer by so much than they were typed, see closer_lines.h
+    Weights letters = {};     ///< of the text in it, by bytes
+    Weights paragraphs = {};  ///< of the paragraphs in it, by their number
     /// Complete, but for the indents of list items, which are their lists'.
     CharFormat letterLook = {};
     ParaFormat look = {};
     std::string id = {};
     std::string name = {};
 };
+
+struct PagePart;
 
 class StylePlan {
  public:
@@ -71,11 +74,12 @@ class StylePlan {
         StyleUse use;
     };
 
-    void Collect(const Blocks& blocks);
     void Plan(const Paragraph& paragraph);
     int StyleOf(const ParaFormat& format, FormatId letters);
+    int StyleLike(const PlannedStyle& wanted);
     void PlanSections();
-    int EndStyle();
+    void PlanPage(std::vector<PagePart>& parts, const SectionProperties& section);
+    void Weigh();
 
     const Document& document_;
     CharFormat normalLetters_;  ///< as the document's own Normal has them

@@ -1,0 +1,85 @@
+#include "word/seam/letter_widths.h"
+
+#include <array>
+
+namespace quillmark::word {
+
+namespace {
+
+constexpr unsigned char kFirst = ' ';
+constexpr unsigned char kLast = '~';
+/// In thousandths of the type's size, from the blank to the tilde.
+using Widths = std::array<short, kLast - kFirst + 1>;
+
+// clang-format off
+constexpr Widths kTimes = {
+     250,  333,  408,  500,  500,  833,  778,  180,  333,  333,  500,  564,  250,  333,  250,  278,
+     500,  500,  500,  500,  500,  500,  500,  500,  500,  500,  278,  278,  564,  564,  564,  444,
+     921,  722,  667,  667,  722,  611,  556,  722,  722,  333,  389,  722,  611,  889,  722,  722,
+     556,  722,  667,  556,  611,  722,  722,  944,  722,  722,  611,  333,  278,  333,  469,  500,
+     333,  444,  500,  444,  500,  444,  333,  500,  500,  278,  278,  500,  278,  778,  500,  500,
+     500,  500,  333,  389,  278,  500,  500,  722,  500,  500,  444,  480,  200,  480,  541,
+};
+constexpr Widths kTimesBold = {
+     250,  333,  555,  500,  500, 1000,  833,  278,  333,  333,  500,  570,  250,  333,  250,  278,
+     500,  500,  500,  500,  500,  500,  500,  500,  500,  500,  333,  333,  570,  570,  570,  500,
+     930,  722,  667,  722,  722,  667,  611,  778,  778,  389,  500,  778,  667,  944,  722,  778,
+     611,  778,  722,  556,  667,  722,  722, 1000,  722,  722,  667,  333,  278,  333,  581,  500,
+     333,  500,  556,  444,  556,  444,  333,  500,  556,  278,  333,  556,  278,  833,  556,  500,
+     556,  556,  444,  389,  333,  556,  500,  722,  500,  500,  444,  394,  220,  394,  520,
+};
+constexpr Widths kArial = {
+     278,  278,  355,  556,  556,  889,  667,  191,  333,  333,  389,  584,  278,  333,  278,  278,
+     556,  556,  556,  556,  556,  556,  556,  556,  556,  556,  278,  278,  584,  584,  584,  556,
+    1015,  667,  667,  722,  722,  667,  611,  778,  722,  278,  500,  667,  556,  833,  722,  778,
+     667,  778,  722,  667,  611,  722,  667,  944,  667,  667,  611,  278,  278,  278,  469,  556,
+     333,  556,  556,  500,  556,  556,  278,  556,  556,  222,  222,  500,  222,  833,  556,  556,
+     556,  556,  333,  500,  278,  556,  500,  722,  500,  500,  500,  334,  260,  334,  584,
+};
+constexpr Widths kArialBold = {
+     278,  333,  474,  556,  556,  889,  722,  238,  333,  333,  389,  584,  278,  333,  278,  278,
+     556,  556,  556,  556,  556,  556,  556,  556,  556,  556,  333,  333,  584,  584,  584,  611,
+     975,  722,  722,  722,  722,  667,  611,  778,  722,  278,  556,  722,  611,  833,  722,  778,
+     667,  778,  722,  667,  611,  722,  667,  944,  667,  667,  611,  333,  278,  333,  584,  556,
+     333,  556,  611,  556,  611,  556,  333,  611,  611,  278,  278,  556,  278,  889,  611,  611,
+     611,  611,  389,  556,  333,  611,  556,  778,  556,  556,  500,  389,  280,  389,  584,
+};
+// clang-format on
+
+constexpr short kTypewriter = 600;
+constexpr double kThousandths = 1000;
+
+enum class Face { Times, Arial, Typewriter };
+
+Face FaceOf(std::string_view font) {
+    if (font == "Arial" || font == "Tahoma") return Face::Arial;
+    return font.starts_with("Courier") || font == "Lucida Console" ? Face::Typewriter : Face::Times;
+}
+
+const Widths& TableOf(Face face, bool bold) {
+    if (face == Face::Arial) return bold ? kArialBold : kArial;
+    return bold ? kTimesBold : kTimes;
+}
+
+}  // namespace
+
+double WidthOf(std::string_view utf8, std::string_view font, double points, bool bold) {
+    const Face face = FaceOf(font);
+    const Widths& widths = TableOf(face, bold);
+    int sum = 0;
+    for (const char c : utf8) {
+        const auto byte = static_cast<unsigned char>(c);
+        if ((byte & 0xC0u) == 0x80u) continue;
+        const bool isKnown = byte >= kFirst && byte <= kLast;
+        const auto letter = static_cast<std::size_t>((isKnown ? byte : 'n') - kFirst);
+        sum += face == Face::Typewriter ? kTypewriter : widths[letter];
+    }
+    return sum * points / kThousandths;
+}
+
+double LineHeight(std::string_view font, double points) {
+    constexpr double kProportional = 1.15, kFixed = 1.133;
+    return points * (FaceOf(font) == Face::Typewriter ? kFixed : kProportional);
+}
+
+}  // namespace quillmark::word
