@@ -1,6 +1,7 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "platform/note_file.h"
 #include "renderer/serve.h"
 
 #ifndef _WIN32
@@ -10,8 +11,6 @@
 #ifdef __linux__
 #include <signal.h>
 #include <sys/prctl.h>
-
-#include <fstream>
 #endif
 
 namespace {
@@ -40,7 +39,7 @@ void BeModest() {
 #endif
 #ifdef __linux__
     ::prctl(PR_SET_PDEATHSIG, SIGKILL);
-    std::ofstream("/proc/self/oom_score_adj") << "700";
+    quillmark::WriteNote("/proc/self/oom_score_adj", "700");
 #endif
 }
 

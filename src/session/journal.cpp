@@ -34,10 +34,8 @@ fs::path WithEnding(const fs::path& file, std::string_view ending) {
 }
 
 /// A record: a line with the length and the hash of what follows, and that: number of changes, time, cells.
-std::string RecordOf(const Snapshot::Cells& cells, std::size_t changes,
-                     std::chrono::system_clock::time_point time) {
-    std::string body =
-        fmt::format("{} {} {}\n", changes, std::chrono::system_clock::to_time_t(time), cells.size());
+std::string RecordOf(const Snapshot::Cells& cells, std::size_t changes, std::chrono::local_seconds time) {
+    std::string body = fmt::format("{} {} {}\n", changes, time.time_since_epoch().count(), cells.size());
     for (const auto& [name, value] : cells) body += fmt::format("{} {}\n", name, value.size()) + value;
     return fmt::format("{} {} {:016x}\n", kRecord, body.size(), HashOf(body)) + body;
 }
@@ -83,7 +81,7 @@ Journal::Left ReadJournal(const std::string& bytes) {
             if (HashOf(body) != hash) break;
             Lines record(body);
             const std::size_t changes = record.Number(' ');
-            const auto time = static_cast<std::time_t>(record.Number(' '));
+            const std::chrono::seconds time(record.Number(' '));
             Snapshot::Cells next = cells;
             for (std::size_t count = record.Number('\n'); count > 0; --count) {
                 const std::string name(record.Next(' '));
@@ -92,7 +90,7 @@ Journal::Left ReadJournal(const std::string& bytes) {
             }
             cells = std::move(next);
             left.changes = changes;
-            left.time = std::chrono::system_clock::from_time_t(time);
+            left.time = std::chrono::local_seconds(time);
         }
     } catch (const std::runtime_error&) {
         // Torn while it was written: what is before counts.
@@ -145,8 +143,8 @@ void Journal::Enter(Entry entry) {
     changed_.notify_one();
 }
 
-void Journal::Add(std::shared_ptr<const Snapshot> now, std::size_t changes) {
-    Enter({std::move(now), changes, std::chrono::system_clock::now()});
+void Journal::Add(std::shared_ptr<const Snapshot> now, std::size_t changes, std::chrono::local_seconds time) {
+    Enter({std::move(now), changes, time});
 }
 
 void Journal::TakeOver(std::shared_ptr<const Snapshot> now, const Left& left) {

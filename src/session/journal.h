@@ -30,8 +30,9 @@ class Journal {
     Journal(const Journal&) = delete;
     Journal& operator=(const Journal&) = delete;
 
-    /// The job is now as in this snapshot, after so many changes since its file.
-    void Add(std::shared_ptr<const Snapshot> now, std::size_t changes);
+    /// The job is now as in this snapshot, at `time` by the program's clock, after so many changes since its
+    /// file.
+    void Add(std::shared_ptr<const Snapshot> now, std::size_t changes, std::chrono::local_seconds time);
     /// The same, of a job taken over from a program that left it: its journal goes when this one is on disk.
     struct Left;
     void TakeOver(std::shared_ptr<const Snapshot> now, const Left& left);
@@ -42,7 +43,7 @@ class Journal {
     struct Left {
         std::filesystem::path file;
         std::string job;
-        std::chrono::system_clock::time_point time;  ///< of the last change
+        std::chrono::local_seconds time;  ///< of the last change
         std::size_t changes = 0;
         bool wasDeclined = false;  ///< somebody was asked already, and said No
         std::shared_ptr<const Snapshot> state;
@@ -58,7 +59,7 @@ class Journal {
     struct Entry {
         std::shared_ptr<const Snapshot> state;  ///< null clears
         std::size_t changes = 0;
-        std::chrono::system_clock::time_point time;
+        std::chrono::local_seconds time;
         std::filesystem::path replaces = {};  ///< another program's journal
     };
 

@@ -9,8 +9,9 @@ namespace quillmark {
 
 namespace {
 
-std::string TextOf(std::chrono::system_clock::time_point time) {
-    return fmt::format("{:%B %d, %Y at %H:%M}", fmt::localtime(std::chrono::system_clock::to_time_t(time)));
+std::string TextOf(std::chrono::local_seconds time) {
+    const auto seconds = static_cast<std::time_t>(time.time_since_epoch().count());
+    return fmt::format("{:%B %d, %Y at %H:%M}", fmt::gmtime(seconds));
 }
 
 }  // namespace
@@ -23,7 +24,7 @@ void MainScreen::NoteAct(int hint) {
 void MainScreen::Keep() {
     if (!journal_) return;
     const std::size_t changes = changesBeforeHistory_ + history_.Done();
-    changes > 0 ? journal_->Add(history_.Present(), changes) : journal_->Clear();
+    changes > 0 ? journal_->Add(history_.Present(), changes, machine_.clock.Now()) : journal_->Clear();
 }
 
 /// Changes that are in no file yet stay in the journal.

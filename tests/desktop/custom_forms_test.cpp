@@ -4,6 +4,7 @@
 
 #include "desktop/side_windows/custom_forms_dialog.h"
 #include "desktop/side_windows_support.h"
+#include "platform/paths.h"
 #include "support/form_docx.h"
 
 namespace quillmark::desktop {
@@ -15,6 +16,7 @@ using test::Line;
 class CustomFormsDialogTest : public SideWindowTest {
  protected:
     CustomFormsDialogTest() {
+        Start();
         forms = screen->FirmAround().folders.CustomFormsFolder;
         source = scratch.path() / "Rider.docx";
         test::WriteBytes(source, FormDocx{Line("[seler 1 name]")}.Bytes());

@@ -46,7 +46,7 @@ class RendererTest : public ::testing::Test {
         return QString::fromStdString(file.string());
     }
     QString Profile() { return QString::fromStdString((scratch / "profile").string()); }
-    ScratchFolder scratch;
+    test::ScratchFolder scratch;
 };
 
 TEST_F(RendererTest, AnswersTheNewestOfWhatWaits) {

@@ -128,7 +128,7 @@ using Clock = std::chrono::steady_clock;
     for (std::size_t act = 1;; ++act) {
         screen.job.SetField(21, "Seller " + std::to_string(act));
         now = Snapshot::Of(screen, now.get());
-        journal.Add(now, act);
+        journal.Add(now, act, std::chrono::local_seconds{});
         const std::int64_t said[] = {static_cast<std::int64_t>(act), Clock::now().time_since_epoch().count()};
         if (write(tell, said, sizeof said) != sizeof said) _exit(1);
         usleep(3'000);

@@ -101,7 +101,7 @@ TEST_F(UndoTest, HundredsOfActsAreTakenBackAndDoneAgain) {
         });
     for (const char* document : {"Deed / Warranty", "Closing Statement", "[ Rider ]"})
         act([&] { screen->PickDocument(document); });
-    for (int i = 0; i < 900; ++i) act([&] { AnyAct(); });
+    for (int i = 0; i < 3000; ++i) act([&] { AnyAct(); });
     ASSERT_GT(before.size(), 300u);
     ASSERT_EQ(screen->History().Done(), before.size());
 

@@ -3,6 +3,8 @@
 #include <system_error>
 
 #include "platform/atomic_file.h"
+#include "platform/paths.h"
+#include "production/pdf/pdf_program.h"
 
 namespace quillmark {
 

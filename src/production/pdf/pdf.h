@@ -22,8 +22,8 @@ struct PdfOrder {
     std::filesystem::path pdf;
 };
 
-/// Makes PDF files of documents by way of LibreOffice, which has to be installed. The files are tagged for those who
-/// have them read aloud, show their title, and have a bookmark for each heading.
+/// Makes PDF files of documents by way of LibreOffice, which has to be installed. The files are tagged for
+/// those who have them read aloud, show their title, and have a bookmark for each heading.
 class PdfConverter {
  public:
     /// Throws PdfError if there is no LibreOffice.

@@ -144,8 +144,7 @@ void CreateRun::TypeDocumentAt(std::size_t entry) {
     Dialogs& dialogs = order_.dialogs ? *order_.dialogs : defaultAnswers_;
     if (session_->hints) session_->hints->SetRole(word::Role::Body);
     notices_ += TypeEntry(order_.DocumentNames[entry],
-                          {job_, order_.settings, dialogs, JobList(), order_.CustomFormsFolder},
-                          *session_);
+                          {job_, order_.settings, dialogs, JobList(), order_.CustomFormsFolder}, *session_);
     // In front of the document, so that a builder's own paragraph format never reaches the break.
     if (entry > 0) beginning.InsertBreak(word::SectionBreakNextPage);
     Report(static_cast<double>(entry + 1), entry + 1);

@@ -19,9 +19,11 @@ constexpr int kTownOfProperty = 1000 + field::PropertyCityStateZip;  ///< whose 
 bool IsLookedInto(int n) {
     using namespace field;
     static constexpr Field kFields[] = {
-        SellerAttysFee,    SalePriceNumeric,    BinderDeposit,      ContractDeposit, ClosingDate,
-        ProrationDate,     Realtor1Commission,  Realtor2Commission, Payoff1Amount,   Payoff2Amount,
-        NoteFirstPymtDate, SmokeDetectorCredit, TenancyType,        FiduciaryType,   BuyerTitleInsurCo,
+        SellerLawfirm,     SellerAtty,        BuyerLawfirm,        BuyerAtty,          NamesOfMembers,
+        NamesOfDirectors,  SellerAttysFee,    SalePriceNumeric,    BinderDeposit,      ContractDeposit,
+        ClosingDate,       ProrationDate,     Realtor1Commission,  Realtor2Commission, Payoff1Amount,
+        Payoff2Amount,     NoteFirstPymtDate, SmokeDetectorCredit, TenancyType,        FiduciaryType,
+        BuyerTitleInsurCo,
     };
     constexpr std::pair<int, int> kAmounts[] = {{170, 185}, {193, 196}, {212, 213}};
     return std::ranges::find(kFields, n) != std::end(kFields) ||
@@ -40,7 +42,6 @@ constexpr std::pair<Field, Field> kCompared[] = {
     {field::Buyer2Addr2, field::Buyer1Addr2},
     {field::Seller2CityStateZip, field::Seller1CityStateZip},
     {field::Buyer2CityStateZip, field::Buyer1CityStateZip},
-    {field::BuyerLawfirm, field::BuyerAtty},
 };
 
 /// The field whose sign stands for this one's value: of two equal values that are compared, the first.
