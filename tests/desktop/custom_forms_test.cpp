@@ -37,28 +37,6 @@ class CustomFormsDialogTest : public SideWindowTest {
     std::filesystem::path source;
 };
 
-TEST_F(CustomFormsDialogTest, AFormIsTakenInCheckedAndMended) {
-    ASSERT_NE(screen->Window(), nullptr);
-    const WhenOpened work([&](QWidget& window) {
-        window.findChild<QLineEdit*>(QStringLiteral("txtSourceFile"))->setFocus();
-        Type(window, TextOf(source));
-        Press(window, "cmdImport");
-        Press(window, "cmdEdit");
-        List(window, "Forms").SelectLine(0);
-        Press(window, "cmdCheck");
-        LinesView& findings = List(window, "Found in the form");
-        ASSERT_EQ(LinesOf(findings).size(), 1);
-        findings.SelectLine(0);
-        Press(window, "cmdMend");
-        EXPECT_EQ(LinesOf(findings).size(), 0);
-        Press(window, "cmdExit");
-    });
-    ShowCustomForms(*screen, &parent);
-    EXPECT_EQ(screen->Window(), nullptr);
-    EXPECT_EQ(State().List1.back(), "[ Rider ]");
-    EXPECT_EQ(test::ReadBytes(forms / "Rider.inf"), "\"[seller 1 name]\",21,0\r\n");
-}
-
 TEST_F(CustomFormsDialogTest, TheSearchedMarkerGoesToTheClipboard) {
     const WhenOpened work([&](QWidget& window) {
         Press(window, "cmdEdit");

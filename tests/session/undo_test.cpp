@@ -77,7 +77,7 @@ class UndoTest : public OfficeTest {
 };
 
 TEST_F(UndoTest, HundredsOfActsAreTakenBackAndDoneAgain) {
-    std::vector<Names> before, after;
+    std::vector<Names> before, after, until;  // each act, and until the next one
     const auto act = [&](auto command) {
         const std::size_t done = screen->History().Done();
         const Names was = TextsOf(State());
@@ -85,9 +85,14 @@ TEST_F(UndoTest, HundredsOfActsAreTakenBackAndDoneAgain) {
             command();
         } catch (const NotAllowed&) {
         }
-        if (screen->History().Done() == done) return;
+        if (screen->History().Done() == done) {
+            // What changes the screen alone, such as the beginning of field entry, is no act.
+            if (!until.empty()) until.back() = TextsOf(State());
+            return;
+        }
         before.push_back(was);
         after.push_back(TextsOf(State()));
+        until.push_back(after.back());
         ASSERT_FALSE(screen->History().UndoName().empty());
     };
     // The choice of documents closes with the first field that is entered.
@@ -106,7 +111,7 @@ TEST_F(UndoTest, HundredsOfActsAreTakenBackAndDoneAgain) {
     ASSERT_EQ(screen->History().Done(), before.size());
 
     for (std::size_t i = before.size(); i-- > 0;) {
-        ASSERT_EQ(TextsOf(State()), after[i]) << i;
+        ASSERT_EQ(TextsOf(State()), until[i]) << i;
         const std::string name = screen->History().UndoName();
         ASSERT_EQ(screen->Undo(), name);
         ASSERT_EQ(TextsOf(State()), before[i]) << i << ": " << name;

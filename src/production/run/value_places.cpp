@@ -23,7 +23,7 @@ bool IsLookedInto(int n) {
         NamesOfDirectors,  SellerAttysFee,    SalePriceNumeric,    BinderDeposit,      ContractDeposit,
         ClosingDate,       ProrationDate,     Realtor1Commission,  Realtor2Commission, Payoff1Amount,
         Payoff2Amount,     NoteFirstPymtDate, SmokeDetectorCredit, TenancyType,        FiduciaryType,
-        BuyerTitleInsurCo,
+        BuyerTitleInsurCo, Payoff1Method,     Payoff2Method,       Payoff1LoanNumber,  Payoff2LoanNumber,
     };
     constexpr std::pair<int, int> kAmounts[] = {{170, 185}, {193, 196}, {212, 213}};
     return std::ranges::find(kFields, n) != std::end(kFields) ||
