@@ -72,7 +72,7 @@ void MainWindow::AddShortcuts() {
     add(control(Qt::Key_Y), [this] { desk_.Do([](MainScreen& screen) { screen.Redo(); }); });
     add(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
         [this] { desk_.Do([](MainScreen& screen) { screen.Redo(); }); });
-    add(Qt::Key_F9, [this] { ShowPreview(!PreviewShown()); });
+    add(Qt::Key_F6, [this] { ShowPreview(!PreviewShown()); });
 }
 
 void MainWindow::ShowState() {

@@ -184,7 +184,7 @@ QWidget* MainWindow::MakeMore(QWidget* parent) {
     menu->setAttribute(Qt::WA_WindowPropagation);
     menu->addAction(tr("Proration &calculator"), Qt::Key_F9, &flow_, &SideWindowFlow::OpenCalculator)
         ->setShortcutContext(Qt::WidgetShortcut);
-    menu->addAction(tr("Live &page"), Qt::Key_F9, this, [this] { ShowPreview(!PreviewShown()); })
+    menu->addAction(tr("Live &page"), Qt::Key_F6, this, [this] { ShowPreview(!PreviewShown()); })
         ->setShortcutContext(Qt::WidgetShortcut);
     menu->addAction(tr("Lawfirms / &Attorneys"), this,
                     [this] { flow_.OpenAddresses(AddressBook::Attorneys); });
