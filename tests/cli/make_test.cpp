@@ -14,6 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using test::ReadBytes;
 using test::ScratchFolder;
+using test::SourceFolder;
 using test::WriteBytes;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
@@ -251,7 +252,7 @@ TEST_F(Making, FoldersThatCannotBeUsedFailTheWork) {
 }
 
 TEST_F(Making, EverySampleJobMakesItsDocuments) {
-    const fs::path samples = fs::path(QUILLMARK_SOURCE_DIR) / "data";
+    const fs::path samples = SourceFolder() / "data";
     int jobs = 0;
     for (const fs::directory_entry& entry : fs::directory_iterator(samples)) {
         if (entry.path().extension() != ".dat") continue;

@@ -64,7 +64,7 @@ TEST(GuideTest, PagesLinksAndPicturesAreComplete) {
         EXPECT_FALSE(GuideTitle(page).isEmpty()) << page;
         for (const QString& target : TargetsIn(GuideText(page))) ExpectTarget(target, page, pictures);
     }
-    const QString folder = QStringLiteral(QUILLMARK_SOURCE_DIR "/docs/guide");
+    const QString folder = QString::fromStdString((test::SourceFolder() / "docs/guide").string());
     EXPECT_EQ(listed, FilesIn(folder, QStringLiteral("*.md")));
     EXPECT_EQ(pictures, FilesIn(folder + QStringLiteral("/images"), QStringLiteral("*.png")))
         << "a picture that no page shows";
@@ -157,7 +157,7 @@ TEST(FirstRunWindowTest, EachOfferIsTakenByItsKeyAndEscapeLeadsToTheEmptyScreen)
 
     const std::string name = "data/" + std::string(kSampleJob) + ".dat";
     ASSERT_EQ(SeedFiles().front().name, name);
-    EXPECT_EQ(SeedFiles().front().bytes, test::ReadBytes(QUILLMARK_SOURCE_DIR "/" + name));
+    EXPECT_EQ(SeedFiles().front().bytes, test::ReadBytes(test::SourceFolder() / name));
 }
 
 }  // namespace

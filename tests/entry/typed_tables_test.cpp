@@ -35,7 +35,7 @@ std::vector<std::string> Split(const std::string& text, char separator) {
 }
 
 std::vector<TableLine> ReadTable(const std::string& file) {
-    std::istringstream in(ReadBytes(QUILLMARK_SOURCE_DIR "/tests/entry/" + file));
+    std::istringstream in(ReadBytes(SourceFolder() / "tests/entry" / file));
     std::vector<TableLine> lines;
     int number = 0;
     for (std::string text; std::getline(in, text);) {

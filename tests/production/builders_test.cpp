@@ -238,7 +238,7 @@ TEST(Builders, LeaveThePageBreakOfTheSecondCopyToTheList) {
 }
 
 TEST(Builders, EveryFileIsOnTheList) {
-    const fs::path folder = fs::path(QUILLMARK_SOURCE_DIR) / "src" / "production" / "builders";
+    const fs::path folder = SourceFolder() / "src" / "production" / "builders";
     const std::string list = ReadBytes(folder / "builders.inc");
     const std::regex definition(
         R"(\nvoid (Type\w+)\((?:const JobValues& job|const Production& production), Typist& type)");
@@ -260,8 +260,7 @@ TEST(Builders, EveryFileIsOnTheList) {
 // Every golden text of a document begins with the name of the document that it shows.
 TEST(Builders, EveryEntryHasAGolden) {
     std::set<std::string, std::less<>> shown;
-    for (const auto& entry :
-         fs::recursive_directory_iterator(fs::path(QUILLMARK_SOURCE_DIR) / "tests" / "goldens")) {
+    for (const auto& entry : fs::recursive_directory_iterator(SourceFolder() / "tests" / "goldens")) {
         if (entry.path().extension() != ".txt") continue;
         const std::string text = ReadBytes(entry.path());
         shown.insert(text.substr(0, text.find('\n')));

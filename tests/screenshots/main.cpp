@@ -61,7 +61,7 @@ class Studio {
         SetUpProgramFolder(scratch_.path(), SeedFiles());
         for (const char* name : {"Sorensen - 41 Columbus Avenue", "Pell Trust - 330 Lovely Street"}) {
             const std::string file = fmt::format("data/{}.dat", name);
-            WriteBytes(scratch_ / file, test::ReadBytes(QUILLMARK_SOURCE_DIR "/" + file));
+            WriteBytes(scratch_ / file, test::ReadBytes(test::SourceFolder() / file));
         }
         std::string records;
         for (const auto& [marker, value] : kDefaults)

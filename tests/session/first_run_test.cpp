@@ -71,8 +71,8 @@ TEST_F(FirstRunTest, ANewFolderIsSetUpOnceAndNothingOfTheUsersIsReplaced) {
 
 TEST_F(FirstRunTest, EachFirstStepLeadsSomewhere) {
     const std::string sample(kSampleJob);
-    SetUpProgramFolder(scratch.path(), {{"data/" + sample + ".dat", ReadBytes(fs::path(QUILLMARK_SOURCE_DIR) /
-                                                                              "data" / (sample + ".dat"))}});
+    SetUpProgramFolder(scratch.path(),
+                       {{"data/" + sample + ".dat", ReadBytes(SourceFolder() / "data" / (sample + ".dat"))}});
     Start();
     TakeFirstStep(*screen, FirstStep::SampleJob);
     EXPECT_EQ(State().txtJobName.text, sample);

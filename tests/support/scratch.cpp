@@ -22,6 +22,11 @@ ScratchFolder::~ScratchFolder() {
     fs::remove_all(path_, ignored);
 }
 
+const fs::path& SourceFolder() {
+    static const fs::path folder = QUILLMARK_SOURCE_DIR;
+    return folder;
+}
+
 std::string ReadBytes(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
     if (!in) throw std::runtime_error("cannot read " + file.string());
@@ -38,7 +43,7 @@ void WriteBytes(const fs::path& file, std::string_view bytes) {
 }
 
 void ExpectGolden(std::string_view name, std::string_view actual) {
-    const fs::path golden = fs::path(QUILLMARK_SOURCE_DIR) / "tests" / "goldens" / name;
+    const fs::path golden = SourceFolder() / "tests" / "goldens" / name;
     if (std::getenv("QUILLMARK_RENEW_GOLDENS")) {
         WriteBytes(golden, actual);
         return;

@@ -21,6 +21,9 @@ class ScratchFolder {
     std::filesystem::path path_;
 };
 
+/// The folder of this project's sources, where goldens, samples and tables of cases lie.
+const std::filesystem::path& SourceFolder();
+
 std::string ReadBytes(const std::filesystem::path& file);
 void WriteBytes(const std::filesystem::path& file, std::string_view bytes);
 
