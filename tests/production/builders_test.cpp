@@ -79,7 +79,7 @@ TEST(Builders, LeaveTheInsertionPointAsTheyFoundIt) {
     }
 }
 
-std::string TextOf(const Builder& builder, const Job& job) {
+std::string TypedText(const Builder& builder, const Job& job) {
     RecordingWord recorder;
     WordSession session(recorder.Application(), recorder.clipboard());
     SetUpWordSession(session);
@@ -100,7 +100,7 @@ TEST(Builders, FilledJobShowsNoHole) {
         Job job = FilledDeal();
         const std::string options = ChooseOptions(job, random);
         for (const Builder& builder : Builders()) {
-            std::string text = TextOf(builder, job);
+            std::string text = TypedText(builder, job);
             for (const std::string_view printed : kPrintedInBrackets) {
                 if (const std::size_t at = text.find(printed); at != text.npos)
                     text.erase(at, printed.size());
@@ -126,7 +126,7 @@ TEST(Builders, UnfilledJobShowsMarkersOnly) {
         Job job = UnfilledDeal();
         const std::string options = ChooseOptions(job, random);
         for (const Builder& builder : Builders()) {
-            const std::string text = TextOf(builder, job);
+            const std::string text = TypedText(builder, job);
             EXPECT_NE(text.find('['), std::string::npos) << builder.document;
             for (std::sregex_iterator match(text.begin(), text.end(), bracketed), end; match != end;
                  ++match) {
@@ -202,7 +202,7 @@ TEST(Builders, TypeTheSameIntoTheEmbeddedEngine) {
             SetUpWordSession(session);
             TypeDocument(builder, From(job), session);
             EXPECT_EQ(EngineText(word::docx::objects::ModelOf(session.WordDoc.Reach())),
-                      TextOf(builder, job));
+                      TypedText(builder, job));
         }
     }
 }
@@ -233,7 +233,7 @@ TEST(Builders, LeaveThePageBreakOfTheSecondCopyToTheList) {
     Job job = FilledDeal();
     for (const int option : {TwoSellers, TwoPayoffs}) job.SetOption(option, true);
     for (const Builder& builder : Builders()) {
-        EXPECT_EQ(TextOf(builder, job).find("\f\f"), std::string::npos) << builder.document;
+        EXPECT_EQ(TypedText(builder, job).find("\f\f"), std::string::npos) << builder.document;
     }
 }
 

@@ -49,16 +49,16 @@ class Desk {
     std::size_t before_ = 0;
 };
 
-std::string TextOf(std::string_view text, const Job& job = SampleDeal()) {
+std::string TypedText(std::string_view text, const Job& job = SampleDeal()) {
     Desk desk;
     desk.Type(text, job);
     return desk.Text();
 }
 
 TEST(TextDocument, ParagraphsEndWithABlankLineUnlessTheySayOtherwise) {
-    EXPECT_EQ(TextOf("One\nline.\n\nTwo\\\nfold¶\n\n% a remark\nThree→tabbed¬\n\n on"),
+    EXPECT_EQ(TypedText("One\nline.\n\nTwo\\\nfold¶\n\n% a remark\nThree→tabbed¬\n\n on"),
               "One line.\n\nTwofold\nThree\ttabbed on\n\n\n");
-    EXPECT_EQ(TextOf("\\*Not bold\\*, \\[no marker\\], 1\\=1"), "*Not bold*, [no marker], 1=1\n\n\n");
+    EXPECT_EQ(TypedText("\\*Not bold\\*, \\[no marker\\], 1\\=1"), "*Not bold*, [no marker], 1=1\n\n\n");
 }
 
 TEST(TextDocument, MarksCutTheTextIntoRuns) {
@@ -84,21 +84,21 @@ TEST(TextDocument, ItemsThatAreLeftOutLeaveNoTrace) {
     const char* const text =
         "# Always.\n@if [repair credit]\n# Credit of [repair credit].\n@end\n# Last.\n@if 2 Sellers\nBoth sign.\n"
         "@else\nOne signs.\n@end\n";
-    EXPECT_EQ(TextOf(text, job), "Always.\v\nLast. One signs.\v\n\n");
+    EXPECT_EQ(TypedText(text, job), "Always.\v\nLast. One signs.\v\n\n");
     job.SetField(field::RepairCredit, "$500.00");
     SellersApart(job);
-    EXPECT_EQ(TextOf(text, job), "Always.\v\nCredit of $500.00.\v\nLast. Both sign.\v\n\n");
-    EXPECT_EQ(TextOf("@if not [repair credit]\nNone.\n@end\n", job), "\n");
+    EXPECT_EQ(TypedText(text, job), "Always.\v\nCredit of $500.00.\v\nLast. Both sign.\v\n\n");
+    EXPECT_EQ(TypedText("@if not [repair credit]\nNone.\n@end\n", job), "\n");
 }
 
 TEST(TextDocument, ValuesInTheirForms) {
     EXPECT_EQ(
-        TextOf("{address of [seller 1 name]}; {town of [property cy,st zip]}; {date of [document date]}; "
-               "[sale price words]; {last name of [buyer 1 name]}",
-               SampleDeal()),
+        TypedText("{address of [seller 1 name]}; {town of [property cy,st zip]}; {date of [document date]}; "
+                  "[sale price words]; {last name of [buyer 1 name]}",
+                  SampleDeal()),
         "14 Chestnut Lane, Branford, CT 06405; Branford; 2nd day of May, 2024; FOUR HUNDRED FIFTEEN THOUSAND & "
         "00/100; Castellan\n\n\n");
-    EXPECT_THAT(TextOf("[seller 1 name] and {words of [sale price numeric]}", UnfilledDeal()),
+    EXPECT_THAT(TypedText("[seller 1 name] and {words of [sale price numeric]}", UnfilledDeal()),
                 HasSubstr("[seller 1 name] and [sale price words]"));
 }
 

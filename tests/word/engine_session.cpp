@@ -120,7 +120,7 @@ const docx::CharFormat& EngineSession::MarkFontAt(std::size_t i) const {
     return Model().charFormats[ParagraphAt(i).markFormat];
 }
 
-std::string TextOf(const docx::Blocks& blocks) {
+std::string BlocksText(const docx::Blocks& blocks) {
     std::string text;
     for (const docx::Block& block : blocks) {
         const auto* paragraph = std::get_if<docx::Paragraph>(&block);

@@ -37,7 +37,7 @@ class EngineSession {
 };
 
 /// The text of a story or cell: its paragraphs joined with "|", with objects as "#".
-std::string TextOf(const docx::Blocks& blocks);
+std::string BlocksText(const docx::Blocks& blocks);
 
 /// The number of the error that an operation raises, 0 for none.
 int ErrorOf(const std::function<void()>& operation);

@@ -15,7 +15,7 @@ class EngineTables : public testing::Test, protected EngineSession {
             *std::next(Model().body.begin(), static_cast<std::ptrdiff_t>(block)));
     }
     std::string CellText(std::size_t row, std::size_t cell) const {
-        return TextOf(TableOf(0).rows.at(row).cells.at(cell).blocks);
+        return BlocksText(TableOf(0).rows.at(row).cells.at(cell).blocks);
     }
     void TearDown() override { EXPECT_EQ(FaultIn(Model()), ""); }
 };
@@ -36,7 +36,7 @@ TEST_F(EngineTables, ATableAtTheInsertionPointPutsItIntoTheFirstCell) {
     doc.Tables.Add(sel.Range(), 1, 2);
     sel.TypeText("in the cell");
     EXPECT_THAT(Texts(), ElementsAre("above", "<table>", ""));
-    EXPECT_EQ(TextOf(TableOf(1).rows[0].cells[0].blocks), "in the cell");
+    EXPECT_EQ(BlocksText(TableOf(1).rows[0].cells[0].blocks), "in the cell");
     sel.Reach()->Call("GoTo", std::vector<Argument>{{std::int32_t{3}}, {std::int32_t{-1}}});
     sel.TypeText("below");
     EXPECT_THAT(Texts(), ElementsAre("above", "<table>", "below"));

@@ -62,7 +62,7 @@ int GridModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : kColumns;
 }
 
-QString GridModel::TextOf(const GridRow& row, int column) const {
+QString GridModel::CellText(const GridRow& row, int column) const {
     switch (column) {
         case kLabel:
             return PartsOfLabel(row).text;
@@ -74,7 +74,7 @@ QString GridModel::TextOf(const GridRow& row, int column) const {
 }
 
 QString GridModel::Spoken(const GridRow& row, int column) const {
-    const QString text = TextOf(row, column);
+    const QString text = CellText(row, column);
     if (row.kind == RowKind::Heading) return column == kLabel ? tr("Group %1").arg(text) : QString();
     if (column == kLabel) {
         const QString needed = PartsOfLabel(row).required ? text + tr(", to be filled") : text;
@@ -88,9 +88,9 @@ QString GridModel::Spoken(const GridRow& row, int column) const {
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const GridRow& row = Row(index.row());
-    if (role == Qt::DisplayRole) return TextOf(row, index.column());
+    if (role == Qt::DisplayRole) return CellText(row, index.column());
     if (role == Qt::AccessibleTextRole) return Spoken(row, index.column());
-    if (role == Qt::ToolTipRole && index.column() == kValue) return TextOf(row, kValue);
+    if (role == Qt::ToolTipRole && index.column() == kValue) return CellText(row, kValue);
     return {};
 }
 

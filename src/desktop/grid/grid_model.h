@@ -27,7 +27,7 @@ class GridModel final : public QAbstractTableModel {
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
  private:
-    QString TextOf(const GridRow& row, int column) const;
+    QString CellText(const GridRow& row, int column) const;
     QString Spoken(const GridRow& row, int column) const;
     void ShowChangedRows(const std::vector<GridRow>& grid);
 

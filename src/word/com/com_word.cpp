@@ -35,7 +35,7 @@ class Apartment {
 };
 using ApartmentPtr = std::shared_ptr<Apartment>;
 
-std::string TextOf(BSTR text) {
+std::string FromBstr(BSTR text) {
     return text ? FromWide({text, SysStringLen(text)}) : std::string();
 }
 
@@ -102,7 +102,7 @@ int NumberOf(HRESULT result) {
 /// Word's own words, where it has some.
 [[noreturn]] void Refuse(EXCEPINFO& exception, std::string_view member) {
     if (exception.pfnDeferredFillIn) exception.pfnDeferredFillIn(&exception);
-    const std::string description = TextOf(exception.bstrDescription);
+    const std::string description = FromBstr(exception.bstrDescription);
     SysFreeString(exception.bstrSource);
     SysFreeString(exception.bstrDescription);
     SysFreeString(exception.bstrHelpFile);
@@ -231,7 +231,7 @@ Value ComObject::Take(VARIANT& variant) const {
         case VT_BOOL:
             return variant.boolVal != VARIANT_FALSE;
         case VT_BSTR:
-            return TextOf(variant.bstrVal);
+            return FromBstr(variant.bstrVal);
         case VT_R4:
         case VT_R8:
         case VT_CY:

@@ -67,7 +67,7 @@ class ApplicationObject::Documents final : public LateBound<Documents> {
     Value Open(Arguments arguments) {
         const ArgumentReader reader(arguments,
                                     {"FileName", "ConfirmConversions", "ReadOnly", "AddToRecentFiles"});
-        return ObjectPtr(engine_.OpenFile(TextOf(reader["FileName"])).Self());
+        return ObjectPtr(engine_.OpenFile(StringOf(reader["FileName"])).Self());
     }
     Value Item(Arguments arguments) {
         const Value& index = ArgumentReader(arguments, {"Index"})["Index"];

@@ -47,7 +47,7 @@ const MemberTable<StylesObject>& StylesObject::Members() {
 }
 
 Value StylesObject::Item(Arguments arguments) {
-    const std::string& name = TextOf(ArgumentReader(arguments, {"Index"})["Index"]);
+    const std::string& name = StringOf(ArgumentReader(arguments, {"Index"})["Index"]);
     if (!FindStyle(document_.model(), name)) RefuseElement();
     return ObjectPtr(std::make_shared<StyleObject>(document_.Self(), name));
 }

@@ -10,7 +10,7 @@ namespace {
 struct Name {
     static Value Read(const CharFormat& format) { return format.font; }
     static void Set(CharFormat& patch, const Value& value) {
-        patch.font = TextOf(value);
+        patch.font = StringOf(value);
         if (patch.font.empty()) throw AutomationError(error::kBadValue, "A font needs a name");
     }
 };

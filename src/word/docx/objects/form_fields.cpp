@@ -111,7 +111,7 @@ void FormFieldObject::CheckAlive() const {
 const MemberTable<FormFieldObject>& FormFieldObject::Members() {
     static const MemberTable<FormFieldObject> members = {
         {"Result", [](FormFieldObject& field, Arguments) { return Value(field.Result()); },
-         [](FormFieldObject& field, const Value& value) { field.SetResult(TextOf(value)); }},
+         [](FormFieldObject& field, const Value& value) { field.SetResult(StringOf(value)); }},
         {"CheckBox", [](FormFieldObject& field, Arguments) { return Value(field.Share(*field.checkBox_)); }},
         {"Name", [](FormFieldObject& field, Arguments) { return Value(field.name_); }},
     };
@@ -166,7 +166,7 @@ const MemberTable<BookmarksObject>& BookmarksObject::Members() {
          }},
         {"Exists", nullptr, nullptr,
          [](BookmarksObject& bookmarks, Arguments arguments) {
-             const std::string& wanted = TextOf(ArgumentReader(arguments, {"Name"})["Name"]);
+             const std::string& wanted = StringOf(ArgumentReader(arguments, {"Name"})["Name"]);
              bool exists = false;
              bookmarks.ForEachName([&](const std::string& name) { exists = exists || name == wanted; });
              return Value(exists);

@@ -41,7 +41,7 @@ int WholeOf(const Value& value) {
     return static_cast<int>(number);
 }
 
-const std::string& TextOf(const Value& value) {
+const std::string& StringOf(const Value& value) {
     const auto* text = std::get_if<std::string>(&value);
     if (!text) RefuseType("text");
     return *text;

@@ -25,7 +25,7 @@ inline constexpr std::int32_t kUndefined = 9999999;
 bool FlagOf(const Value& value);
 int WholeOf(const Value& value);
 double NumberOf(const Value& value);
-const std::string& TextOf(const Value& value);
+const std::string& StringOf(const Value& value);
 /// A whole number between two bounds; kBadValue outside of them.
 int WholeWithin(const Value& value, int least, int most);
 /// Points as twips; kBadValue outside of the bounds, which are points.

@@ -98,7 +98,7 @@ const MemberTable<ListLevelObject>& ListLevelObject::Members() {
          [](ListLevelObject& level, const Value& value) { level.SetNumberStyle(value); }},
         {"NumberFormat", [](ListLevelObject& level, Arguments) { return Value(level.Format().text); },
          [](ListLevelObject& level, const Value& value) {
-             level.Format().text = TextOf(value);
+             level.Format().text = StringOf(value);
              level.list_->document().Changed();
          }},
     };

@@ -144,7 +144,7 @@ void OpenDocument::Save(Arguments arguments) {
 }
 
 void OpenDocument::SaveAs(Arguments arguments) {
-    const std::string& fileName = TextOf(ArgumentReader(arguments, {"FileName", "FileFormat"})["FileName"]);
+    const std::string& fileName = StringOf(ArgumentReader(arguments, {"FileName", "FileFormat"})["FileName"]);
     if (fileName.empty()) throw AutomationError(error::kPathNotFound, "A document needs a file name");
     SaveTo(WithEnding(engine().PathOf(fileName)));
 }

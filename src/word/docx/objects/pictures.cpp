@@ -74,7 +74,7 @@ const MemberTable<InlineShapesObject>& InlineShapesObject::Members() {
 
 void InlineShapesObject::AddPicture(Arguments arguments) {
     const ArgumentReader reader(arguments, {"FileName", "LinkToFile", "SaveWithDocument", "Range"});
-    Picture picture = LoadPicture(document_.engine().PathOf(TextOf(reader["FileName"])));
+    Picture picture = LoadPicture(document_.engine().PathOf(StringOf(reader["FileName"])));
     if (const Value* given = reader.Find("Range")) {
         const auto range = ObjectOf<RangeObject>(*given);
         const Place place = range->BeginInsertion();

@@ -73,7 +73,7 @@ struct RangeMembers {
     }
     template <auto method>
     static Value CallText(RangeObject& range, Arguments arguments) {
-        (range.*method)(TextOf(ArgumentReader(arguments, {"Text"})["Text"]));
+        (range.*method)(StringOf(ArgumentReader(arguments, {"Text"})["Text"]));
         return Value();
     }
 };
@@ -82,7 +82,7 @@ const MemberTable<RangeObject>& RangeObject::Members() {
     using Own = RangeMembers;
     static const MemberTable<RangeObject> members = {
         {"Text", [](RangeObject& range, Arguments) { return Value(range.Text()); },
-         [](RangeObject& range, const Value& value) { range.SetText(TextOf(value)); }},
+         [](RangeObject& range, const Value& value) { range.SetText(StringOf(value)); }},
         {"StoryType", [](RangeObject& range, Arguments) { return Whole(range.storyType_); }},
         {"StoryLength", [](RangeObject& range, Arguments) { return Whole(range.StoryLength()); }},
         {"Font", Own::Part<&Parts::font>},

@@ -54,8 +54,8 @@ bool FindObject::Execute(Arguments arguments) {
         arguments, {"FindText", "MatchCase", "MatchWholeWord", "MatchWildcards", "MatchSoundsLike",
                     "MatchAllWordForms", "Forward", "Wrap", "Format", "ReplaceWith", "Replace"});
     RefuseUnusedSwitches(reader);
-    find::FindRequest request{TextOf(reader["FindText"])};
-    if (const Value* replacement = reader.Find("ReplaceWith")) request.replaceWith = TextOf(*replacement);
+    find::FindRequest request{StringOf(reader["FindText"])};
+    if (const Value* replacement = reader.Find("ReplaceWith")) request.replaceWith = StringOf(*replacement);
     if (const Value* replace = reader.Find("Replace"))
         request.replace = static_cast<FindReplace>(WholeWithin(*replace, ReplaceNone, ReplaceAll));
     if (const Value* wrap = reader.Find("Wrap"))

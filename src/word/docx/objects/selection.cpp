@@ -91,7 +91,7 @@ const MemberTable<SelectionObject>& SelectionObject::Members() {
         {"Range", Own::Range},
         {"TypeText", nullptr, nullptr,
          [](SelectionObject& selection, Arguments arguments) {
-             selection.TypeText(TextOf(ArgumentReader(arguments, {"Text"})["Text"]));
+             selection.TypeText(StringOf(ArgumentReader(arguments, {"Text"})["Text"]));
              return Value();
          }},
         {"TypeBackspace", nullptr, nullptr, Own::CallPlain<&SelectionObject::TypeBackspace>},
