@@ -56,13 +56,23 @@ function(quillmark_folder name)
   endif()
 endfunction()
 
+set(quillmark_other_system windows)
+set(quillmark_discovery POST_BUILD)
+if(WIN32)
+  set(quillmark_other_system posix)
+  set(quillmark_discovery PRE_TEST)  # where they are built is not where they run
+endif()
+
 # quillmark_tests(FOLDER [LIBRARIES target...])
-# One test program of the sources below the current folder; it links that folder's library and what it uses.
+# One test program of the sources below the current folder; it links that folder's library and what it uses. What needs
+# one system's own calls stands in a folder posix or windows.
 function(quillmark_tests folder)
   cmake_parse_arguments(ARG "" "" "LIBRARIES" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "/tests/.*/${quillmark_other_system}/")
   add_executable(${folder}_tests ${sources})
   target_link_libraries(${folder}_tests PRIVATE quillmark_${folder} quillmark_test_support ${ARG_LIBRARIES})
   quillmark_share_precompiled(${folder}_tests quillmark_test_support)
-  gtest_discover_tests(${folder}_tests TEST_PREFIX "${folder}." DISCOVERY_TIMEOUT 60)
+  gtest_discover_tests(${folder}_tests TEST_PREFIX "${folder}." DISCOVERY_TIMEOUT 60
+                       DISCOVERY_MODE ${quillmark_discovery})
 endfunction()

@@ -1,10 +1,11 @@
 #include "support/scratch.h"
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdlib>
 #include <fstream>
+#include <random>
 #include <sstream>
 
 namespace quillmark::test {
@@ -12,9 +13,10 @@ namespace quillmark::test {
 namespace fs = std::filesystem;
 
 ScratchFolder::ScratchFolder() {
-    std::string pattern = (fs::temp_directory_path() / "quillmark-XXXXXX").string();
-    if (!mkdtemp(pattern.data())) throw std::runtime_error("no scratch folder at " + pattern);
-    path_ = pattern;
+    std::random_device random;
+    do {
+        path_ = fs::temp_directory_path() / fmt::format("quillmark-{:08x}{:08x}", random(), random());
+    } while (!fs::create_directory(path_));
 }
 
 ScratchFolder::~ScratchFolder() {

@@ -1,5 +1,3 @@
-#ifdef _WIN32
-
 #include "word/com/com_word.h"
 
 #include <gtest/gtest.h>
@@ -91,5 +89,3 @@ TEST(SystemClipboard, HoldsTextsAndRefusesWhatIsNoPicture) {
 
 }  // namespace
 }  // namespace quillmark::word
-
-#endif

@@ -1,6 +1,9 @@
 #include "session/journal.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <random>
@@ -8,11 +11,6 @@
 
 #include "session/office_fixture.h"
 #include "session/screen_text.h"
-
-#ifndef _WIN32
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace quillmark {
 namespace {
@@ -187,5 +185,3 @@ TEST_F(JournalTest, WhateverWasDoneASecondBeforeAKillIsThere) {
 
 }  // namespace
 }  // namespace quillmark
-
-#endif

@@ -7,8 +7,6 @@
 #include "platform/paths.h"
 #include "support/scratch.h"
 
-#ifndef _WIN32
-
 namespace quillmark::test {
 namespace {
 
@@ -100,5 +98,3 @@ TEST_F(Pdf, WithoutLibreOfficeThereIsNoConverter) {
 
 }  // namespace
 }  // namespace quillmark::test
-
-#endif

@@ -1,6 +1,5 @@
 #include "cli/console_fixture.h"
 
-#ifndef _WIN32
 #include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -122,5 +121,3 @@ TEST_F(ConsoleProcess, AFolderThatIsNotThereIsToldToThePerson) {
 
 }  // namespace
 }  // namespace quillmark::cli
-
-#endif

@@ -1,7 +1,5 @@
-#include <gmock/gmock.h>
-
-#ifndef _WIN32
 #include <fcntl.h>
+#include <gmock/gmock.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -130,5 +128,3 @@ TEST_F(Killed, MakeLeavesTheOldOrTheNewDocument) {
 
 }  // namespace
 }  // namespace quillmark::cli
-
-#endif

@@ -1,12 +1,10 @@
 #include <gmock/gmock.h>
+#include <sys/wait.h>
 
 #include <cstdlib>
 
 #include "platform/paths.h"
 #include "support/scratch.h"
-
-#ifndef _WIN32
-#include <sys/wait.h>
 
 namespace quillmark::cli {
 namespace {
@@ -62,5 +60,3 @@ TEST_F(Program, TheCurrentFolderIsTheDefault) {
 
 }  // namespace
 }  // namespace quillmark::cli
-
-#endif
