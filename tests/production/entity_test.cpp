@@ -5,8 +5,8 @@
 #include <filesystem>
 
 #include "core/fields.h"
+#include "core/people.h"
 #include "production/builders/builder_list.h"
-#include "production/builders/entity/people.h"
 #include "production/document_goldens.h"
 #include "production/kit/pictures.h"
 #include "production/recording_word.h"

@@ -1,6 +1,6 @@
+#include "core/people.h"
 #include "core/text_conversions.h"
 #include "production/builders/entity/passages_entity.h"
-#include "production/builders/entity/people.h"
 
 namespace quillmark {
 

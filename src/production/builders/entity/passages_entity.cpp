@@ -1,7 +1,7 @@
 #include "production/builders/entity/passages_entity.h"
 
+#include "core/people.h"
 #include "core/text_conversions.h"
-#include "production/builders/entity/people.h"
 
 namespace quillmark {
 

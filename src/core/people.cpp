@@ -1,4 +1,4 @@
-#include "production/builders/entity/people.h"
+#include "core/people.h"
 
 #include <algorithm>
 #include <array>
