@@ -147,6 +147,7 @@ struct ConsoleWords {
     std::string folder = ".";
     std::string today;
     std::string answers;
+    std::vector<std::string> printers;
 };
 
 CLI::App* AddConsole(CLI::App& app, ConsoleWords& words) {
@@ -158,7 +159,24 @@ CLI::App* AddConsole(CLI::App& app, ConsoleWords& words) {
     console->add_option("--today", words.today, "The date that counts as today")->type_name("YYYY-MM-DD");
     console->add_option("--answers", words.answers, "Answers to the questions of the start, in order")
         ->type_name("Yes,No,...");
+    console
+        ->add_option("--printer", words.printers,
+                     "A printer with its bins, for the side tools; given several times, the first is the "
+                     "current one")
+        ->type_name("\"NAME:NUMBER=BIN,...\"")
+        ->allow_extra_args(false);
     return console;
+}
+
+/// Throws CLI::ValidationError for what is no printer.
+std::vector<NamedPrinter> PrintersOf(const std::vector<std::string>& words) {
+    std::vector<NamedPrinter> printers;
+    try {
+        for (const std::string& word : words) printers.push_back(PrinterOf(word));
+    } catch (const std::invalid_argument& failure) {
+        throw CLI::ValidationError("--printer", failure.what());
+    }
+    return printers;
 }
 
 /// Throws CLI::ValidationError for what cannot be read.
@@ -168,6 +186,7 @@ ConsoleOrder OrderOf(const ConsoleWords& words, const CLI::App& console) {
     if (console.count("--today")) order.today = Today(words.today);
     if (console.count("--answers"))
         for (std::string& answer : Split(words.answers, ',')) order.answers.emplace_back(std::move(answer));
+    order.printers = PrintersOf(words.printers);
     order.programFile = ProgramFile();
     return order;
 }

@@ -4,8 +4,10 @@
 #include <filesystem>
 #include <iosfwd>
 #include <optional>
+#include <vector>
 
 #include "cli/command_line.h"
+#include "cli/console_printers.h"
 #include "platform/dialogs.h"
 
 namespace quillmark::cli {
@@ -15,6 +17,7 @@ struct ConsoleOrder {
     std::filesystem::path folder = ".";                ///< the program folder
     std::optional<std::chrono::year_month_day> today;  ///< the system's date if none is given
     ScriptedDialogs::Answers answers = {};             ///< to the boxes of the start itself
+    std::vector<NamedPrinter> printers = {};           ///< that the side tools see, the current one first
     std::filesystem::path programFile = {};  ///< whose date the data's version marker is held against
 };
 

@@ -41,7 +41,7 @@ void ConsolePrinter::Print(const PrintJob& job) {
 }
 
 ConsoleSession::ConsoleSession(const ConsoleOrder& order, std::ostream& err)
-    : shell_(err), printer_(err), clock_(ClockFor(order)) {
+    : shell_(err), printer_(err), printers_(order.printers), clock_(ClockFor(order)) {
     if (!fs::is_directory(order.folder))
         throw FileError(order.folder, FileError::Kind::NotFound, "there is no such folder");
     screen_.emplace(
@@ -51,6 +51,8 @@ ConsoleSession::ConsoleSession(const ConsoleOrder& order, std::ostream& err)
                 .shell = shell_,
                 .http = nullptr,
                 .printer = &printer_,
+                .printers = &printers_,
+                .sheets = &printers_,
                 .startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
                 .handOver = {},
                 .programFile = order.programFile,

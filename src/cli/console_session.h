@@ -8,6 +8,7 @@
 
 #include "cli/console.h"
 #include "cli/console_dialogs.h"
+#include "cli/console_printers.h"
 #include "platform/clock.h"
 #include "platform/machine.h"
 #include "session/main_screen.h"
@@ -72,6 +73,7 @@ class ConsoleSession {
     ConsoleDialogs dialogs_;
     ConsoleShell shell_;
     ConsolePrinter printer_;
+    ConsolePrinters printers_;
     std::unique_ptr<Clock> clock_;
     std::optional<MainScreen> screen_;
     std::optional<FileBrowser> browser_;

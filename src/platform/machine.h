@@ -66,6 +66,37 @@ struct PrintJob {
     std::vector<std::string> lines;  ///< UTF-8, without line ends
 };
 
+/// A text on a page, its upper left corner in inches from the upper left corner of the paper.
+struct PageItem {
+    double across = 0;
+    double down = 0;
+    std::string text;  ///< one line of UTF-8
+    std::string font;
+    double size = 0;  ///< points
+    bool bold = false;
+};
+
+/// A sheet of paper or an envelope. Upright, an envelope is taller than wide; landscape, its flap is at the
+/// top.
+enum class SheetSize { Letter, Legal, Envelope10 };
+
+/// What goes on one sheet, and from where it is taken.
+struct PrintedPage {
+    std::string printer;  ///< empty for the current one
+    int bin = 0;          ///< one of the printer's; 0 for the one that the printer chooses
+    SheetSize paper = SheetSize::Letter;
+    bool landscape = false;
+    std::vector<PageItem> items;  ///< in the order in which they are printed
+};
+
+/// Puts sheets of placed texts on paper.
+class SheetPrinter {
+ public:
+    virtual ~SheetPrinter() = default;
+    /// Throws MachineError in the system's words if it cannot be done.
+    virtual void Print(const PrintedPage& page) = 0;
+};
+
 /// Puts lines on paper, or into a file that stands for it.
 class Printer {
  public:
@@ -81,17 +112,6 @@ class HttpClient {
     virtual ~HttpClient() = default;
     /// The body of a successful answer; nothing after any failure, or when `limit` has passed.
     virtual std::optional<std::string> Get(const std::string& address, std::chrono::milliseconds limit) = 0;
-};
-
-/// Fills the fields of a PDF form.
-class PdfForms {
- public:
-    using Values = std::vector<std::pair<std::string, std::string>>;  ///< field name and value
-
-    virtual ~PdfForms() = default;
-    /// Writes a filled copy of `form`. Throws MachineError naming a field that the form lacks.
-    virtual void Fill(const std::filesystem::path& form, const Values& values,
-                      const std::filesystem::path& filled) = 0;
 };
 
 }  // namespace quillmark

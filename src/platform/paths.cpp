@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <string>
 
 #include "platform/code_page.h"
 
@@ -59,6 +60,14 @@ fs::path FindExisting(const fs::path& path) {
     if (Exists(folder / name)) return folder / name;
     const auto entry = EntryIgnoringCase(folder.empty() ? fs::path(".") : folder, name);
     return folder / entry.value_or(name);
+}
+
+fs::path FreeName(const fs::path& wanted) {
+    fs::path free = wanted;
+    for (int n = 2; Exists(free); ++n)
+        free.replace_filename(
+            PathOf(TextOf(wanted.stem()) + " (" + std::to_string(n) + ")" + TextOf(wanted.extension())));
+    return free;
 }
 
 }  // namespace quillmark

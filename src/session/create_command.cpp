@@ -23,14 +23,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// A name beside documents that the user may have changed.
-fs::path FreeName(const fs::path& wanted) {
-    fs::path free = wanted;
-    for (int n = 2; fs::exists(free); ++n)
-        free.replace_filename(PathOf(TextOf(wanted.stem()) + " (" + std::to_string(n) + ").docx"));
-    return free;
-}
-
 fs::path DocumentPath(const CreateTarget& target, const std::string& name, Shell& shell) {
     const auto unused = [&](const fs::path& wanted) { return target.replaces ? wanted : FreeName(wanted); };
     if (target.to.extension() == ".docx") return unused(target.to);

@@ -2,6 +2,8 @@
 
 #include <filesystem>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "entry/address_book_files.h"
 #include "platform/clock.h"
@@ -17,7 +19,12 @@ struct Machine {
     Dialogs& dialogs;
     Shell& shell;
     HttpClient* http = nullptr;
-    Printer* printer = nullptr;  ///< null: nothing can be printed
+    Printer* printer = nullptr;      ///< null: no lines can be printed
+    Printers* printers = nullptr;    ///< null: there are none to choose from
+    SheetPrinter* sheets = nullptr;  ///< null: no form and no envelope can be printed
+    /// The fonts to print envelopes in; at least those that documents use.
+    std::vector<std::string> fonts = {"Arial",          "Courier", "Courier New",
+                                      "Lucida Console", "Tahoma",  "Times New Roman"};
     std::function<word::StartedWordProcessor()> startWord = {};
     /// Whether another copy of the program runs on this computer and has been brought to the front; null
     /// where several may run.
