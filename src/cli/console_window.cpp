@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "cli/console_commands.h"
 #include "platform/paths.h"
 
@@ -16,15 +14,6 @@ SideWindow& OpenWindow(ConsoleSession& session) {
 std::size_t EntryOf(const Json& value) {
     if (value.get<int>() < 0) throw BadRequest("value is no entry: they are counted from 0");
     return value.get<std::size_t>();
-}
-
-bool HasEntry(const WindowControl& control, const std::string& entry) {
-    return std::ranges::find(control.items, entry) != control.items.end();
-}
-
-/// A text of up to six digits.
-bool IsNumber(const std::string& text) {
-    return !text.empty() && text.size() <= 6 && text.find_first_not_of("0123456789") == text.npos;
 }
 
 Json ControlOf(const WindowControl& control) {
@@ -44,13 +33,42 @@ Json ControlOf(const WindowControl& control) {
     return json;
 }
 
+Json ItemOf(const PageItem& item) {
+    return {{"across", item.across}, {"down", item.down}, {"text", item.text},
+            {"font", item.font},     {"size", item.size}, {"bold", item.bold}};
+}
+
+std::string_view NameOf(SheetSize size) {
+    switch (size) {
+        case SheetSize::Legal:
+            return "legal";
+        case SheetSize::Envelope10:
+            return "#10";
+        case SheetSize::Letter:
+            break;
+    }
+    return "letter";
+}
+
+Json PageOf(const PrintedPage& page) {
+    Json items = Json::array();
+    for (const PageItem& item : page.items) items.push_back(ItemOf(item));
+    return {{"printer", page.printer},
+            {"bin", page.bin},
+            {"paper", NameOf(page.paper)},
+            {"landscape", page.landscape},
+            {"items", std::move(items)}};
+}
+
 Json WindowOf(const SideWindow& window) {
     Json controls = Json::object();
     for (const WindowControl& control : window.Controls()) controls[control.name] = ControlOf(control);
+    Json printed = Json::array();
+    for (const PrintedPage& page : window.Printed()) printed.push_back(PageOf(page));
     return {{"title", window.Title()},
             {"controls", std::move(controls)},
             {"document", window.Document() ? Json(TextOf(*window.Document())) : Json()},
-            {"printed", Json::array()}};
+            {"printed", std::move(printed)}};
 }
 
 }  // namespace
@@ -69,13 +87,10 @@ Json SetInWindow(ConsoleSession& session, const Request& request) {
     const std::string name = request.Text("control");
     const Json& value = request.Value("value");
     const bool isList = window.Control(name).kind == ControlKind::List;
-    const bool isEntry = isList && value.is_string() && HasEntry(window.Control(name), request.Text("value"));
     if (value.is_boolean())
         window.Tick(name, value.get<bool>());
     else if (isList && value.is_number())
         window.Pick(name, EntryOf(value));
-    else if (isList && !isEntry && IsNumber(request.Text("value")))
-        window.Pick(name, static_cast<std::size_t>(std::stoul(request.Text("value"))));
     else if (isList)
         window.Pick(name, request.Text("value"));
     else
@@ -88,7 +103,8 @@ Json ClickInWindow(ConsoleSession& session, const Request& request) {
     SideWindow& window = OpenWindow(session);
     const bool twice = request.Has("double") && request.Value("double").get<bool>();
     const std::string to = request.Text("to");
-    window.Click(request.Text("control"), twice, to.empty() ? std::filesystem::path() : PathOf(to));
+    window.Click(request.Text("control"), twice,
+                 to.empty() ? std::filesystem::path() : std::filesystem::absolute(PathOf(to)));
     session.screen().WindowHasActed();
     return WindowOrNull(session);
 }

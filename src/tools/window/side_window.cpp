@@ -1,6 +1,7 @@
 #include "tools/window/side_window.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace quillmark {
 
@@ -12,6 +13,14 @@ namespace {
 
 bool IsAmong(ControlKind kind, std::initializer_list<ControlKind> kinds) {
     return std::ranges::find(kinds, kind) != kinds.end();
+}
+
+std::optional<std::size_t> EntryNumber(std::string_view text) {
+    std::size_t number = 0;
+    const char* end = text.data() + text.size();
+    const auto [stop, failed] = std::from_chars(text.data(), end, number);
+    if (failed != std::errc{} || stop != end) return {};
+    return number;
 }
 
 }  // namespace
@@ -45,10 +54,16 @@ void SideWindow::Pick(std::string_view name, std::size_t entry) {
 }
 
 void SideWindow::Pick(std::string_view name, std::string_view entry) {
-    const WindowControl control = Control(name);
+    const WindowControl control = Usable(name, "chosen from");
+    if (control.kind != ControlKind::List) Refuse(name, "is no list");
     const auto found = std::ranges::find(control.items, entry);
-    if (found == control.items.end()) Refuse(name, "has no entry \"" + std::string(entry) + "\"");
-    Pick(name, static_cast<std::size_t>(found - control.items.begin()));
+    if (found != control.items.end())
+        return OnPick(name, static_cast<std::size_t>(found - control.items.begin()));
+    if (OnEntryText(name, entry)) return;
+    const std::optional<std::size_t> number = EntryNumber(entry);
+    if (!number || *number >= control.items.size())
+        Refuse(name, "has no entry \"" + std::string(entry) + "\"");
+    OnPick(name, *number);
 }
 
 void SideWindow::Tick(std::string_view name, bool on) {
@@ -63,6 +78,7 @@ void SideWindow::Click(std::string_view name, bool twice, const std::filesystem:
     if (!IsAmong(control.kind, {ControlKind::Button, ControlKind::List, ControlKind::Timer}))
         Refuse(name, "does nothing on a click");
     document_.reset();
+    printed_.clear();
     OnClick(name, twice, to);
 }
 
@@ -75,6 +91,9 @@ void SideWindow::OnText(std::string_view name, std::string_view) {
 }
 void SideWindow::OnPick(std::string_view name, std::size_t) {
     Refuse(name, "is no list");
+}
+bool SideWindow::OnEntryText(std::string_view, std::string_view) {
+    return false;
 }
 void SideWindow::OnTick(std::string_view name, bool) {
     Refuse(name, "cannot be ticked");

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/machine.h"
+
 /// A side tool's window without a toolkit: its controls as plain values under their own names. A window of
 /// the desktop shows them and passes clicks and texts on; the command line does the same with its requests.
 namespace quillmark {
@@ -56,6 +58,8 @@ class SideWindow {
     // another kind, and for an entry that is not listed.
     void SetText(std::string_view name, std::string_view text);
     void Pick(std::string_view name, std::size_t entry);
+    /// The entry of this whole text, else what the text stands for in this window, else the entry of this
+    /// number.
     void Pick(std::string_view name, std::string_view entry);
     void Tick(std::string_view name, bool on);
     /// `to` is where a file that the click makes goes (a path or an existing folder); empty for the usual
@@ -67,16 +71,22 @@ class SideWindow {
     bool IsOpen() const { return open_; }
     /// The file that the last click made; nothing when it made none.
     const std::optional<std::filesystem::path>& Document() const { return document_; }
+    /// The sheets that the last click printed.
+    const std::vector<PrintedPage>& Printed() const { return printed_; }
 
  protected:
     virtual void OnText(std::string_view name, std::string_view text);
     virtual void OnPick(std::string_view name, std::size_t entry);
+    /// A text that stands for an entry of a list in the tool's own way, or for none of them; false where it
+    /// does not, and nothing has changed then.
+    virtual bool OnEntryText(std::string_view name, std::string_view text);
     virtual void OnTick(std::string_view name, bool on);
     virtual void OnClick(std::string_view name, bool twice, const std::filesystem::path& to) = 0;
     /// Before the window closes; false keeps it open.
     virtual bool OnClose() { return true; }
 
     std::optional<std::filesystem::path> document_;
+    std::vector<PrintedPage> printed_;
 
  private:
     WindowControl Usable(std::string_view name, std::string_view act) const;
