@@ -44,7 +44,7 @@ install(FILES ${packaging}/copyright DESTINATION ${documentation})
 # What a new program folder begins with; for the command line also to copy from.
 file(GLOB sample_jobs CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/data/*.dat)
 install(FILES ${sample_jobs} DESTINATION ${CMAKE_INSTALL_DATADIR}/quillmark/data)
-install(FILES ${packaging}/firm/package.def DESTINATION ${CMAKE_INSTALL_DATADIR}/quillmark)
+install(FILES ${packaging}/firm/package.def ${packaging}/firm/OP236.pdf DESTINATION ${CMAKE_INSTALL_DATADIR}/quillmark)
 
 # The user's guide: as web pages where the Markdown program is at hand, else as it stands.
 find_program(CMARK_GFM cmark-gfm)
