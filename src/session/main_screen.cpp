@@ -172,6 +172,8 @@ void MainScreen::ClickButton(std::string_view name) {
     if (name == "cmdSelect") return clients_.Open();
     if (name == "cmdPrintFList") return PrintFieldList();
     if (name == "cmdCustom") return sideWindows_.OpenCustomForms();
+    if (name == "cmdOP236") return sideWindows_.OpenReturn();
+    if (name == "cmdEnvelopes") return sideWindows_.OpenEnvelopes();
     Require(name == "cmdExit", std::string(name) + " leads to a screen of its own");
     screen_.exitDoes == ExitDoes::Mail ? Mail() : End();
 }

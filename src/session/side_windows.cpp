@@ -5,6 +5,8 @@
 #include "platform/fonts.h"
 #include "session/state/ready.h"
 #include "tools/custom_forms/custom_forms_window.h"
+#include "tools/envelopes/envelope_window.h"
+#include "tools/op236/op236_window.h"
 
 namespace quillmark {
 
@@ -57,6 +59,31 @@ void SideWindows::OpenCustomForms() {
     window_ = std::make_unique<CustomFormsWindow>(CustomFormsOffice{firm_.folders().CustomFormsFolder,
                                                                     machine_.dialogs, machine_.shell,
                                                                     machine_.startWord, InstalledFonts()});
+}
+
+void SideWindows::OpenReturn() {
+    std::vector<std::string> jobList;
+    for (const JobListLine& line : screen_.List2) jobList.push_back(line.name);
+    window_ = std::make_unique<op236::OP236Window>(
+        op236::ReturnOffice{.job = screen_.job,
+                            .jobList = std::move(jobList),
+                            .jobName = screen_.txtJobName.IsSaveable() ? screen_.txtJobName.text : "",
+                            .programFolder = firm_.ProgramFolder(),
+                            .clock = machine_.clock,
+                            .dialogs = machine_.dialogs,
+                            .shell = machine_.shell,
+                            .printers = machine_.printers,
+                            .printer = machine_.sheets});
+}
+
+void SideWindows::OpenEnvelopes() {
+    window_ = std::make_unique<envelopes::EnvelopeWindow>(
+        envelopes::EnvelopeOffice{.job = screen_.job,
+                                  .programFolder = firm_.ProgramFolder(),
+                                  .fonts = machine_.fonts,
+                                  .dialogs = machine_.dialogs,
+                                  .printers = machine_.printers,
+                                  .printer = machine_.sheets});
 }
 
 void SideWindows::WindowHasActed() {

@@ -43,6 +43,9 @@ class SideWindows {
 
     /// The custom forms manager, once the user has confirmed to leave the main screen for it.
     void OpenCustomForms();
+    /// `cmdOP236`, `cmdEnvelopes`.
+    void OpenReturn();
+    void OpenEnvelopes();
     /// The side tool's window that keeps the main screen waiting; null when there is none.
     SideWindow* Window() { return window_.get(); }
     /// After an act in that window: when it has closed, what follows for the main screen.
