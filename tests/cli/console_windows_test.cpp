@@ -13,8 +13,8 @@ class ConsoleWindows : public ConsoleTest {
         test::WriteBytes(
             JobFile("Hollis"),
             "\"000\",\"Deed / Warranty\"\r\n\"021\",\"Walter B. Hollis\"\r\n\"076\",\"$415,000.00\"\r\n");
-        test::WriteBytes(office / "OP236.pdf", test::ReadBytes(std::filesystem::path(QUILLMARK_SOURCE_DIR) /
-                                                               "packaging" / "firm" / "OP236.pdf"));
+        test::WriteBytes(office / "OP236.pdf",
+                         test::ReadBytes(test::SourceFolder() / "packaging" / "firm" / "OP236.pdf"));
         printers = {PrinterOf("HP Laser: Room 2:1=Upper,4=Manual")};
     }
     std::vector<Json> WithJob(std::vector<std::string> lines) {

@@ -26,8 +26,7 @@ using ::testing::Not;
 using ::testing::Pair;
 using ::testing::UnorderedElementsAre;
 
-const std::filesystem::path kSampleForm =
-    std::filesystem::path(QUILLMARK_SOURCE_DIR) / "packaging" / "firm" / "OP236.pdf";
+const std::filesystem::path kSampleForm = test::SourceFolder() / "packaging" / "firm" / "OP236.pdf";
 
 /// Walter B. Hollis sells a dwelling to Priya Castellan.
 Job SampleDeal() {
