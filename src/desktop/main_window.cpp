@@ -232,10 +232,15 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 void MainWindow::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange && left_) FitToFont();
-    if (event->type() == QEvent::ThemeChange) {
-        appearance_.TakeSystemPalette();
-        ShowState();
-    }
+    if (event->type() == QEvent::ThemeChange) SetTheme(theme_);
+}
+
+void MainWindow::SetTheme(ThemeChoice choice) {
+    theme_ = choice;
+    ApplyTheme(choice);
+    appearance_.TakePalette();
+    themes_->actions().at(static_cast<int>(choice))->setChecked(true);
+    ShowState();
 }
 
 void MainWindow::Restore(const WindowPlacement& placement) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QActionGroup>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QToolButton>
@@ -44,6 +45,10 @@ class MainWindow final : public QWidget {
     void Restore(const WindowPlacement& placement);
     WindowPlacement Placement() const;
 
+    /// Light or dark, or as the desktop is.
+    void SetTheme(ThemeChoice choice);
+    ThemeChoice Theme() const { return theme_; }
+
     /// The live page beside the grid.
     void ShowPreview(bool shown);
     bool PreviewShown() const { return !preview_->isHidden(); }
@@ -70,6 +75,7 @@ class MainWindow final : public QWidget {
     QWidget* MakeWelcome();
     QLayout* MakeFooter(QWidget* parent);
     QWidget* MakeMore(QWidget* parent);
+    void AddThemes(QMenu& menu);
     void SetTabOrder();
     void Connect();
     void AddShortcuts();
@@ -103,11 +109,13 @@ class MainWindow final : public QWidget {
     ProgressPanel* progress_;
     GreyReasons* reasons_;
     ViewControls* view_;
+    QActionGroup* themes_ = nullptr;
     QToolButton* undo_ = nullptr;
     QToolButton* redo_ = nullptr;
     QSplitter* beside_ = nullptr;
     PreviewPane* preview_ = nullptr;
     int previewWidth_ = 0;
+    ThemeChoice theme_ = ThemeChoice::System;
     QLabel* counters_;
     QWidget* left_ = nullptr;
     std::vector<QPushButton*> topButtons_;

@@ -6,6 +6,7 @@
 #include "desktop/guide/guide_window.h"
 #include "desktop/main_window.h"
 #include "desktop/toolkit/controls.h"
+#include "desktop/toolkit/quill_style.h"
 #include "desktop/toolkit/text.h"
 
 /// Where everything stands on the main screen.
@@ -18,6 +19,8 @@ constexpr int kLeftColumns = 46;  ///< width of the left side in characters
 // clang-format off
 constexpr std::string_view kMainButtons[] = {"cmdOpen", "cmdCreate", "cmdReset", "cmdExit"};
 constexpr std::string_view kSideButtons[] = {"cmdTemplate", "cmdPackages", "cmdCustom", "cmdEnvelopes", "cmdOP236"};
+
+constexpr std::size_t kCreate = 1;  ///< of the main buttons
 
 struct WelcomeStep {
     const char* head;
@@ -100,6 +103,7 @@ QLayout* MainWindow::MakeButtonRow(QWidget* parent) {
     row->setSpacing(4);
     for (const std::string_view name : kMainButtons) topButtons_.push_back(buttons_.Make(name, parent));
     for (const std::string_view name : kSideButtons) topButtons_.push_back(buttons_.Make(name, parent));
+    MakePrimary(topButtons_[kCreate]);
     for (QPushButton* button : topButtons_) {
         button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);
         if (button == topButtons_[std::size(kMainButtons)]) row->addStretch(1);
@@ -191,9 +195,22 @@ QWidget* MainWindow::MakeMore(QWidget* parent) {
     menu->addAction(tr("Lenders / &Servicers"), this,
                     [this] { flow_.OpenAddresses(AddressBook::Servicers); });
     menu->addSeparator();
+    AddThemes(*menu);
     menu->addAction(tr("User's &guide\tF1"), this, [this] { ShowGuide(this, "index"); });
     more->setMenu(menu);
     return more;
+}
+
+void MainWindow::AddThemes(QMenu& menu) {
+    QMenu* colours = menu.addMenu(tr("&Colours"));
+    themes_ = new QActionGroup(this);
+    for (const QString& name : {tr("As the &desktop"), tr("&Light"), tr("D&ark")}) {
+        QAction* theme = themes_->addAction(colours->addAction(name));
+        theme->setCheckable(true);
+        const auto choice = static_cast<ThemeChoice>(themes_->actions().size() - 1);
+        theme->setChecked(choice == theme_);
+        connect(theme, &QAction::triggered, this, [this, choice] { SetTheme(choice); });
+    }
 }
 
 /// From the name down to the grid, then what is done with the job, then what stands below.

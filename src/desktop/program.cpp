@@ -37,6 +37,13 @@ QSettings OwnSettings() {
 }
 const QString kPreviewShown = QStringLiteral("preview/shown");
 const QString kPreviewWidth = QStringLiteral("preview/width");
+const QString kTheme = QStringLiteral("look/theme");
+const QStringList kThemes = {QStringLiteral("system"), QStringLiteral("light"), QStringLiteral("dark")};
+
+ThemeChoice OwnTheme() {
+    const auto at = kThemes.indexOf(OwnSettings().value(kTheme).toString());
+    return at < 0 ? ThemeChoice::System : static_cast<ThemeChoice>(at);
+}
 
 }  // namespace
 
@@ -58,9 +65,11 @@ Program::Program(LaunchOrder order) : order_(std::move(order)) {
     if (order_.folder.empty())
         order_.folder = DefaultProgramFolder(fs::current_path(), ProgramFile(), shell_);
     order_.folder = fs::absolute(order_.folder);
+    ApplyTheme(OwnTheme());
     instance_ = std::make_unique<SingleInstance>(SingleInstance::NameFor(order_.folder));
     screen_ = std::make_unique<MainScreen>(order_.folder, MachineAround());
     window_ = std::make_unique<MainWindow>(*screen_);
+    window_->SetTheme(OwnTheme());
     boxes_.SetParent(window_.get());
     printer_.SetParent(window_.get());
     shell_.SetParent(window_.get());
@@ -137,6 +146,7 @@ void Program::KeepPlacement() {
         QSettings own = OwnSettings();
         own.setValue(kPreviewShown, window_->PreviewShown());
         own.setValue(kPreviewWidth, window_->PreviewWidth());
+        own.setValue(kTheme, kThemes.at(static_cast<int>(window_->Theme())));
     });
     QCoreApplication::quit();
 }

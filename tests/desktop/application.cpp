@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <memory>
 
+#include "desktop/toolkit/theme.h"
+
 namespace {
 
 /// One application for all tests, on no display unless one is asked for. It ends before the program's statics
@@ -12,7 +14,7 @@ class Application final : public ::testing::Environment {
     void SetUp() override {
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
         application_ = std::make_unique<QApplication>(count_, arguments_);
-        QApplication::setStyle(QStringLiteral("Fusion"));
+        quillmark::desktop::ApplyTheme(quillmark::desktop::ThemeChoice::Light);
     }
     void TearDown() override { application_.reset(); }
 

@@ -258,7 +258,7 @@ TEST_F(MainWindowTest, LegalPaperIsABadgeAndNoSelection) {
         for (int x = 0; x < picture.width(); ++x) found.insert(picture.pixel(x, picture.height() / 2));
         return found;
     };
-    const QRect left(line.topLeft(), QSize(3, line.height()));
+    const QRect left(line.topLeft() + QPoint(3, 0), QSize(3, line.height()));  // within the row cursor
     const QRect right(line.topRight() - QPoint(40, 0), QSize(40, line.height()));
     const auto plain = colours(right);
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, line.center());

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyle>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -252,8 +251,7 @@ void MakeAll(const QDir& out) {
 
 /// The same looks on every machine.
 void FixLooks() {
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setPalette(QApplication::style()->standardPalette());
+    ApplyTheme(ThemeChoice::Light);
     QApplication::setCursorFlashTime(0);
     QFont font(QStringLiteral("DejaVu Sans"));
     font.setPointSizeF(9.75);

@@ -8,16 +8,9 @@ namespace {
 
 constexpr double kNoteFont = 0.85;  ///< of the grid's font
 
-QColor Between(const QColor& a, const QColor& b, float part) {
-    return QColor::fromRgbF(a.redF() + (b.redF() - a.redF()) * part,
-                            a.greenF() + (b.greenF() - a.greenF()) * part,
-                            a.blueF() + (b.blueF() - a.blueF()) * part);
-}
-
 /// Quieter than text, and still readable.
-QColor Grey(const QPalette& palette) {
-    return Between(palette.color(QPalette::Active, QPalette::Text),
-                   palette.color(QPalette::Active, QPalette::Base), 0.42F);
+QColor Quiet(const QPalette& palette) {
+    return palette.color(QPalette::Active, QPalette::PlaceholderText);
 }
 
 void DrawText(QPainter& painter, const QRect& rect, const QString& text, Qt::Alignment alignment) {
@@ -32,8 +25,8 @@ GridDelegate::GridDelegate(const GridModel& model, const Desk& desk, const Appea
     : QStyledItemDelegate(parent), model_(model), desk_(desk), appearance_(appearance) {}
 
 QColor GridDelegate::TextColour(const QStyleOptionViewItem& option, const GridRow& row, bool marked) const {
-    if (marked) return appearance_.Colours().stateText;
-    return row.locked ? Grey(option.palette) : option.palette.color(QPalette::Text);
+    if (marked) return appearance_.Colours().activeText;
+    return row.locked ? Quiet(option.palette) : option.palette.color(QPalette::Text);
 }
 
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -49,7 +42,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const bool marked = desk_.Editor().markedRow == index.row();
     const QPalette& palette = option.palette;
     painter->fillRect(option.rect, marked ? appearance_.Colours().activeRow : palette.color(QPalette::Base));
-    painter->setPen(Between(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.86F));
+    painter->setPen(appearance_.Colours().rule);
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     painter->setPen(TextColour(option, row, marked));
     const QString text = index.data(Qt::DisplayRole).toString();
@@ -67,12 +60,11 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 void GridDelegate::DrawHeading(QPainter& painter, const QStyleOptionViewItem& option,
                                const GridRow& row) const {
     const QPalette& palette = option.palette;
-    painter.fillRect(option.rect,
-                     Between(palette.color(QPalette::Base), palette.color(QPalette::Text), 0.06F));
+    painter.fillRect(option.rect, appearance_.Colours().heading);
     QFont font = option.font;
     font.setBold(true);
     painter.setFont(font);
-    painter.setPen(Grey(palette));
+    painter.setPen(Quiet(palette));
     DrawText(painter, option.rect.adjusted(kPadding, 0, -kPadding, 0), PartsOfLabel(row).text, Qt::AlignLeft);
 }
 
@@ -97,10 +89,11 @@ void GridDelegate::DrawNote(QPainter& painter, const QStyleOptionViewItem& optio
     font.setPointSizeF(font.pointSizeF() * kNoteFont);
     painter.setFont(font);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(marked ? Between(colours.stateText, colours.activeRow, 0.5F) : Grey(option.palette));
+    const QColor quiet = marked ? colours.activeQuiet : Quiet(option.palette);
+    painter.setPen(quiet);
     painter.setBrush(lit ? QBrush(colours.litNote) : QBrush(Qt::NoBrush));
     painter.drawRoundedRect(QRectF(cell).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-    if (lit || marked) painter.setPen(colours.stateText);
+    if (lit) painter.setPen(colours.litText);
     DrawText(painter, cell.adjusted(2, 0, -2, 0), note, Qt::AlignHCenter);
 }
 

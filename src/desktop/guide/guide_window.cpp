@@ -225,7 +225,8 @@ void GuideWindow::MarkFound() {
              at = browser_->document()->find(word, at)) {
             QTextEdit::ExtraSelection mark;
             mark.cursor = at;
-            mark.format.setBackground(StateColour(kHighlight));
+            mark.format.setBackground(kHighlight);
+            mark.format.setForeground(kHighlightedText);
             mark.format.setForeground(Qt::black);
             marks.append(mark);
         }

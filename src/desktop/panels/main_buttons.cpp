@@ -88,8 +88,7 @@ void MainButtons::ShowOne(const Made& made) const {
     ShowButton(widget, button);
     if (widget->toolTip().isEmpty())
         widget->setAccessibleDescription(QLatin1String(RowOf(made.name).purpose));
-    if (made.name == "cmdTemplate")
-        SetBackground(widget, state.templateBeingSet ? appearance_.Colours().template_ : QColor());
+    if (made.name == "cmdTemplate") MarkUnusual(widget, state.templateBeingSet);
     if (made.name == "cmdExit") {
         QFont font = widget->parentWidget()->font();
         font.setBold(state.exitDoes == ExitDoes::Mail);

@@ -94,7 +94,7 @@ void BrowserWindow::Refresh() {
     ShowButton(cmdServicers_, state.cmdServicers);
     ShowButton(lblCancel_, state.lblCancel);
     ShowButton(cmdSpawn_, state.cmdSpawn);
-    SetBackground(cmdSpawn_, state.cmdSpawn.enabled ? StateColour(kHighlight) : QColor());
+    MarkUnusual(cmdSpawn_, state.cmdSpawn.enabled);
 }
 
 /// Enter without a selected line selects the first one, and takes it when it is the only one.

@@ -3,16 +3,25 @@
 #include <QApplication>
 #include <algorithm>
 
-#include "desktop/toolkit/controls.h"
-
 namespace quillmark::desktop {
 
 namespace {
 
-constexpr double kDarkening = 0.45;  ///< what `Slider1` at its highest takes from the brightness
+/// What `Slider1` at its highest takes from the brightness of a light and of a dark window.
+constexpr double kDarkening = 0.4;
+constexpr double kDarkeningOfDark = 0.28;
 
-bool IsDark(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+double LightLeft(bool dark, int dimming) {
+    return 1 - (dark ? kDarkeningOfDark : kDarkening) * dimming / Appearance::kDarkest;
+}
+
+/// Light is taken from what is bright, and more of it from what is dark, so that what is written stays
+/// readable.
+QColor Dimmed(const QColor& colour, double left) {
+    const double part = qGray(colour.rgb()) > 127 ? left : left * left;
+    return QColor::fromRgbF(static_cast<float>(colour.redF() * part),
+                            static_cast<float>(colour.greenF() * part),
+                            static_cast<float>(colour.blueF() * part), colour.alphaF());
 }
 
 }  // namespace
@@ -40,44 +49,36 @@ bool Appearance::SetDimming(int value) {
     return true;
 }
 
-void Appearance::TakeSystemPalette() {
+void Appearance::TakePalette() {
     palette_ = QApplication::palette();
     ApplyPalette();
 }
 
-QColor Appearance::Dimmed(QColor colour) const {
-    const double left = 1 - kDarkening * dimming_ / kDarkest;
-    return QColor::fromRgbF(static_cast<float>(colour.redF() * left),
-                            static_cast<float>(colour.greenF() * left),
-                            static_cast<float>(colour.blueF() * left), static_cast<float>(colour.alphaF()));
-}
-
-/// Dimming takes light from the bright parts alone, so that what is written on them stays readable: from the
-/// backgrounds of a light desktop, from the writing on a dark one.
-void Appearance::ApplyPalette() {
-    const bool dark = IsDark(palette_);
-    QPalette palette = palette_;
+QPalette DimmedPalette(const QPalette& bright, int dimming) {
+    QPalette palette = bright;
+    if (dimming == 0) return palette;
+    const double left = LightLeft(IsDark(bright), dimming);
     for (int group = 0; group < QPalette::NColorGroups; ++group) {
         for (int role = 0; role < QPalette::NColorRoles; ++role) {
             const auto in = static_cast<QPalette::ColorGroup>(group);
             const auto as = static_cast<QPalette::ColorRole>(role);
-            const QColor colour = palette_.color(in, as);
-            if (dimming_ > 0 && colour.lightness() > 127) palette.setColor(in, as, Dimmed(colour));
+            palette.setColor(in, as, Dimmed(bright.color(in, as), left));
         }
     }
-    // clang-format off
-    colours_ = {.activeRow = Dimmed(StateColour(0xC0FFC0)),
-                .litNote   = Dimmed(StateColour(0x00FFFF)),
-                .stateText = Qt::black,
-                .jumpMark  = Dimmed(StateColour(0xE0E0E0)),
-                .jumpText  = StateColour(0xFF0000),
-                .template_ = Dimmed(StateColour(kHighlight)),
-                .badge     = dark ? QColor(0x3A, 0x5A, 0x78) : Dimmed(QColor(0xCF, 0xE3, 0xF4)),
-                .badgeText = dark ? Dimmed(QColor(0xE6, 0xF1, 0xFA)) : QColor(0x12, 0x3A, 0x5A),
-                .alarm     = dark ? Dimmed(QColor(0xFF, 0x8A, 0x80)) : QColor(0xB0, 0x00, 0x00),
-                .notice    = dark ? Dimmed(QColor(0x8A, 0xB4, 0xF8)) : QColor(0x00, 0x00, 0xC0)};
-    // clang-format on
-    window_.setPalette(palette);
+    return palette;
+}
+
+StateColours DimmedStates(bool dark, int dimming) {
+    StateColours colours = ThemeStates(dark);
+    const double left = LightLeft(dark, dimming);
+    for (QColor StateColours::*const colour : kStateColours) colours.*colour = Dimmed(colours.*colour, left);
+    colours.shade.setAlphaF(static_cast<float>(1 - (1 - colours.shade.alphaF()) * left));
+    return colours;
+}
+
+void Appearance::ApplyPalette() {
+    colours_ = DimmedStates(IsDark(palette_), dimming_);
+    window_.setPalette(DimmedPalette(palette_, dimming_));
 }
 
 }  // namespace quillmark::desktop

@@ -1,26 +1,17 @@
 #pragma once
 
-#include <QColor>
 #include <QFont>
 #include <QPalette>
 #include <QWidget>
 
-/// How large and how bright the windows are, and the colours that stand for a state.
+#include "desktop/toolkit/theme.h"
+
+/// How large and how bright the windows are.
 namespace quillmark::desktop {
 
-/// The colours of states, as they stand on the screen at the present brightness. Text on them is dark.
-struct StateColours {
-    QColor activeRow;
-    QColor litNote;
-    QColor stateText;  ///< readable on both
-    QColor jumpMark;   ///< of the current jump label, and the text on it
-    QColor jumpText;
-    QColor template_;  ///< of `cmdTemplate` while a template is being set
-    QColor badge;      ///< behind a short word about a line, and the word itself
-    QColor badgeText;
-    QColor alarm;   ///< text of errors and of an unsaved name
-    QColor notice;  ///< text of what to do next
-};
+/// The same colours with less light, from 0 for all of it to `Appearance::kDarkest`; text stays readable.
+QPalette DimmedPalette(const QPalette& bright, int dimming);
+StateColours DimmedStates(bool dark, int dimming);
 
 /// Scale and brightness of one window and of the windows that it opens, which take over its font and palette.
 class Appearance {
@@ -38,12 +29,12 @@ class Appearance {
     bool SetScale(int perCent);
     bool SetDimming(int value);
 
+    /// Those of the application's palette, at the present brightness.
     const StateColours& Colours() const { return colours_; }
-    /// The desktop's own colours have changed, to dark ones for instance.
-    void TakeSystemPalette();
+    /// The application's palette has changed, to the dark one for instance.
+    void TakePalette();
 
  private:
-    QColor Dimmed(QColor colour) const;
     void ApplyPalette();
 
     QWidget& window_;

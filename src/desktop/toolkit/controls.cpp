@@ -8,11 +8,6 @@
 
 namespace quillmark::desktop {
 
-QColor StateColour(std::uint32_t bgr) {
-    const auto part = [bgr](int shift) { return static_cast<int>((bgr >> shift) & 0xFF); };
-    return {part(0), part(8), part(16)};
-}
-
 bool Mnemonics::Take(QChar letter) {
     const QChar key = letter.toUpper();
     if (!key.isLetterOrNumber() || taken_.contains(key)) return false;
@@ -57,11 +52,11 @@ void ShowButton(QAbstractButton* widget, const Button& button) {
     widget->setAccessibleDescription(widget->toolTip());
 }
 
-void SetBackground(QAbstractButton* widget, const QColor& colour) {
+void MarkUnusual(QAbstractButton* widget, bool unusual) {
     QPalette palette;
-    if (colour.isValid()) {
-        palette.setColor(QPalette::Button, colour);
-        palette.setColor(QPalette::ButtonText, Qt::black);
+    if (unusual) {
+        palette.setColor(QPalette::Button, kHighlight);
+        palette.setColor(QPalette::ButtonText, kHighlightedText);
     }
     widget->setPalette(palette);
 }

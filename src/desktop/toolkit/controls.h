@@ -7,7 +7,6 @@
 #include <QSet>
 #include <QString>
 #include <QStyledItemDelegate>
-#include <cstdint>
 #include <string_view>
 
 #include "session/state/screen_state.h"
@@ -15,9 +14,9 @@
 /// What the controls of all windows share in looks, keys and speech.
 namespace quillmark::desktop {
 
-/// A colour as the state has it: 0xBBGGRR.
-QColor StateColour(std::uint32_t bgr);
-inline constexpr std::uint32_t kHighlight = 0xC0FFFF;  ///< a pale yellow
+/// Behind what is in an unusual state, and the text on it, whatever the theme.
+inline constexpr QColor kHighlight(0xFF, 0xFF, 0xC0);
+inline constexpr QColor kHighlightedText(0x1F, 0x24, 0x30);
 
 /// The mnemonics of one window, of which no two are alike.
 class Mnemonics {
@@ -39,8 +38,8 @@ void Describe(QWidget* control, const QString& name, const QString& description 
 void Caption(QAbstractButton* widget, const Button& button, Mnemonics& keys, char preferred = '\0');
 /// Shows whether the button can be pressed and what its tool tip says.
 void ShowButton(QAbstractButton* widget, const Button& button);
-/// Gives a button that colour behind dark text; an invalid colour puts back its own.
-void SetBackground(QAbstractButton* widget, const QColor& colour);
+/// Shows by its colours that the button is in an unusual state, or puts back its own.
+void MarkUnusual(QAbstractButton* widget, bool unusual);
 
 /// A button no wider than its caption needs, where the toolkit's own never get narrower than a dialog's.
 class CompactButton : public QPushButton {
