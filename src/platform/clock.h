@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
 
 namespace quillmark {
 
@@ -16,6 +17,9 @@ class SystemClock final : public Clock {
  public:
     std::chrono::local_seconds Now() const override;
 };
+
+/// When a file was last written, where the program runs.
+std::chrono::local_seconds LocalTimeOf(std::filesystem::file_time_type written);
 
 /// Noon of one date, for runs that must give the same documents on any day.
 class FixedClock final : public Clock {
