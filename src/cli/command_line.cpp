@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <charconv>
 #include <iostream>
 #include <optional>
@@ -14,6 +15,7 @@
 #include "cli/program_file.h"
 #include "core/text_conversions.h"
 #include "platform/clock.h"
+#include "platform/code_page.h"
 #include "platform/paths.h"
 
 namespace quillmark::cli {
@@ -148,6 +150,7 @@ struct ConsoleWords {
     std::string today;
     std::string answers;
     std::vector<std::string> printers;
+    std::vector<std::string> drives;
 };
 
 CLI::App* AddConsole(CLI::App& app, ConsoleWords& words) {
@@ -165,6 +168,9 @@ CLI::App* AddConsole(CLI::App& app, ConsoleWords& words) {
                      "current one")
         ->type_name("\"NAME:NUMBER=BIN,...\"")
         ->allow_extra_args(false);
+    console->add_option("--drive", words.drives, "A folder that stands for a drive of the backup window")
+        ->type_name("LETTER=DIR")
+        ->allow_extra_args(false);
     return console;
 }
 
@@ -179,6 +185,16 @@ std::vector<NamedPrinter> PrintersOf(const std::vector<std::string>& words) {
     return printers;
 }
 
+/// Throws CLI::ValidationError for what is no letter and folder, and for a letter that has one already.
+Drive DriveOf(const std::string& text, const std::vector<Drive>& others) {
+    const std::string name = UpperCase(text.substr(0, 1)) + ":";
+    if (text.size() < 3 || text[1] != '=' || name[0] < 'A' || name[0] > 'Z')
+        throw CLI::ValidationError("--drive", text + " is not of the form LETTER=DIR");
+    if (std::ranges::find(others, name, &Drive::name) != others.end())
+        throw CLI::ValidationError("--drive", "there are two drives " + name);
+    return {name, std::filesystem::absolute(PathOf(text.substr(2)))};
+}
+
 /// Throws CLI::ValidationError for what cannot be read.
 ConsoleOrder OrderOf(const ConsoleWords& words, const CLI::App& console) {
     ConsoleOrder order;
@@ -187,6 +203,7 @@ ConsoleOrder OrderOf(const ConsoleWords& words, const CLI::App& console) {
     if (console.count("--answers"))
         for (std::string& answer : Split(words.answers, ',')) order.answers.emplace_back(std::move(answer));
     order.printers = PrintersOf(words.printers);
+    for (const std::string& drive : words.drives) order.drives.push_back(DriveOf(drive, order.drives));
     order.programFile = ProgramFile();
     return order;
 }

@@ -9,6 +9,7 @@
 #include "cli/command_line.h"
 #include "cli/console_printers.h"
 #include "platform/dialogs.h"
+#include "platform/drives.h"
 
 namespace quillmark::cli {
 
@@ -18,6 +19,7 @@ struct ConsoleOrder {
     std::optional<std::chrono::year_month_day> today;  ///< the system's date if none is given
     ScriptedDialogs::Answers answers = {};             ///< to the boxes of the start itself
     std::vector<NamedPrinter> printers = {};           ///< that the side tools see, the current one first
+    std::vector<Drive> drives = {};          ///< of the backup window; the system's own if there are none
     std::filesystem::path programFile = {};  ///< whose date the data's version marker is held against
 };
 

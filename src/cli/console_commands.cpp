@@ -16,6 +16,7 @@ namespace {
 
 Json Name(ConsoleSession& session, const Request& request) {
     session.screen().TypeName(request.Text("text"));
+    if (session.screen().Window()) return WindowOrNull(session);
     return session.State().txtJobName.text;
 }
 

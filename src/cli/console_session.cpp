@@ -20,6 +20,11 @@ std::unique_ptr<Clock> ClockFor(const ConsoleOrder& order) {
     return std::make_unique<SystemClock>();
 }
 
+std::function<std::vector<Drive>()> DrivesFor(const ConsoleOrder& order) {
+    if (order.drives.empty()) return MountedDrives;
+    return [drives = order.drives] { return drives; };
+}
+
 }  // namespace
 
 fs::path ConsoleShell::FolderOf(SpecialFolder folder) {
@@ -56,7 +61,8 @@ ConsoleSession::ConsoleSession(const ConsoleOrder& order, std::ostream& err)
                 .startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
                 .handOver = {},
                 .programFile = order.programFile,
-                .waitForBooks = [](const BooksInUse& use) { return use.waited < kPatience; }});
+                .waitForBooks = [](const BooksInUse& use) { return use.waited < kPatience; },
+                .drives = DrivesFor(order)});
 }
 
 void ConsoleSession::Click(std::string_view button) {

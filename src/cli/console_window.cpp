@@ -24,8 +24,8 @@ Json ControlOf(const WindowControl& control) {
         json["items"] = control.items;
         json["index"] = control.index ? Json(*control.index) : Json(-1);
     }
-    const bool hasCaption = isChoice || control.kind == ControlKind::Button;
-    json[hasCaption ? "caption" : "text"] = control.text;
+    if (isChoice || control.kind == ControlKind::Button) json["caption"] = control.text;
+    if (!isChoice) json["text"] = control.text;
     if (isChoice) json["checked"] = control.checked;
     json["enabled"] = control.enabled;
     json["visible"] = control.visible;

@@ -8,6 +8,7 @@
 #include "platform/paths.h"
 #include "platform/record_file.h"
 #include "platform/shared_file.h"
+#include "tools/backup/replacement.h"
 
 namespace quillmark {
 
@@ -45,7 +46,27 @@ Firm::Firm(fs::path programFolder, Machine& machine)
       machine_(machine),
       context_{settings_, folders_, defaults_, machine.clock} {}
 
+/// A restore that was cut short has changed some files and not others.
+void Firm::UndoUnfinishedRestore(const fs::path& data) const {
+    try {
+        if (!Replacement::UndoUnfinished(data)) return;
+        machine_.dialogs.Tell(
+            "  BACKUP",
+            "A restore was cut short. Your files are as they were before it:\nplease restore "
+            "once more.",
+            DialogIcon::Warning);
+    } catch (const FileError& failure) {
+        machine_.dialogs.Tell(
+            "  BACKUP",
+            std::string("A restore was cut short, and what it replaced could not be put back "
+                        "yet:\n") +
+                failure.what() + "\nIt is tried again at the next start.",
+            DialogIcon::Warning);
+    }
+}
+
 void Firm::Read() {
+    UndoUnfinishedRestore(FindExisting(programFolder_ / "data"));
     settings_ = ReadSettings(programFolder_);
     if (!settings_.databasePath.ends_with('\\') && !settings_.databasePath.ends_with('/'))
         settings_.databasePath += '\\';
@@ -58,6 +79,7 @@ void Firm::Read() {
                               DialogIcon::Warning);
         dataPathLost_ = true;  // the setting itself stays until it is changed
     }
+    UndoUnfinishedRestore(data);
     ReadClients();
 }
 

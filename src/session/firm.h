@@ -57,6 +57,7 @@ class Firm {
     bool DeleteClient(std::string_view name);
 
  private:
+    void UndoUnfinishedRestore(const std::filesystem::path& data) const;
     Settings ReachableSettings() const;
     void ReadClients();
     void ChangeClientList(std::string_view name, bool isToStand) const;

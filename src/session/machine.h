@@ -8,6 +8,7 @@
 #include "entry/address_book_files.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
+#include "platform/drives.h"
 #include "platform/machine.h"
 #include "word/start.h"
 
@@ -36,6 +37,9 @@ struct Machine {
     /// Called at each step of CREATE, so that a window can show the state as it is then. Null where none
     /// shows.
     std::function<void()> onProgress = {};
+
+    /// The drives that backups go to, at the moment of the call.
+    std::function<std::vector<Drive>()> drives = MountedDrives;
 
     /// Puts a text on the clipboard. Null where there is none.
     std::function<void(const std::string&)> copyText = {};

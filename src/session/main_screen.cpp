@@ -37,7 +37,8 @@ MainScreen::MainScreen(std::filesystem::path programFolder, Machine machine)
                     .openRow = [this](int row) { steps_.VisitRow(row); },
                     .fieldChanged = [this](int n) { FieldChanged(n); },
                     .offerDocuments = [this] { documents_.Offer(); },
-                    .startTestMode = [this] { StartTestMode(); }}) {
+                    .startTestMode = [this] { StartTestMode(); },
+                    .readFirm = [this] { ReadFirmAnew(); }}) {
     const auto choices = [this](int n) {
         const std::string value = FieldDefault(FieldMarker(n), screen_, firm_.Context());
         return IsChoiceList(value) ? value : std::string();
@@ -61,11 +62,7 @@ NameSurroundings MainScreen::AroundName() {
     return {.reset = [this] { ResetSession(); },
             .showSettings = [this] { settings_.Show(); },
             .isClosed = [this] { return clients_.IsOpen(); },
-            .openBackup =
-                [this] {
-                    machine_.dialogs.Tell("  BACKUP", "The backup tool is not part of this version.",
-                                          DialogIcon::Information);
-                }};
+            .openBackup = [this] { sideWindows_.OpenBackup(); }};
 }
 
 void MainScreen::TellBadInput(const BadFieldInput& bad) {
@@ -107,6 +104,16 @@ void MainScreen::WarnOfUnsetDefaults() {
                           "Your company defaults have not been set !!\n(see Page 3 of User's Guide for "
                           "instructions)",
                           DialogIcon::Warning);
+}
+
+/// Settings, clients, defaults, packages and forms are those that a backup has brought.
+void MainScreen::ReadFirmAnew() {
+    firm_.Read();
+    firm_.Serve({});
+    firm_.MakeFolders();
+    documents_.Offer();
+    ResetSession();
+    if (firm_.settings().paraPro) clients_.Open();
 }
 
 void MainScreen::StartForBulk() {

@@ -275,6 +275,7 @@ class MainScreen {
     void ResetSession();
     void StartAnew();
     void StartTestMode();
+    void ReadFirmAnew();
     void CloseForTest();
     void BeginFieldEntry();
     void Edit();

@@ -4,6 +4,7 @@
 #include "entry/smart_fields.h"
 #include "platform/fonts.h"
 #include "session/state/ready.h"
+#include "tools/backup/backup_window.h"
 #include "tools/custom_forms/custom_forms_window.h"
 #include "tools/envelopes/envelope_window.h"
 #include "tools/op236/op236_window.h"
@@ -86,9 +87,20 @@ void SideWindows::OpenEnvelopes() {
                                   .printer = machine_.sheets});
 }
 
+void SideWindows::OpenBackup() {
+    auto window = std::make_unique<BackupWindow>(
+        BackupOffice{firm_.folders(), machine_.dialogs, machine_.clock, machine_.drives});
+    if (window->EndsProgram())
+        screen_.ended = true;
+    else
+        window_ = std::move(window);
+}
+
 void SideWindows::WindowHasActed() {
     if (!window_ || window_->IsOpen()) return;
     const std::unique_ptr<SideWindow> closed = std::move(window_);
+    const auto* backup = dynamic_cast<const BackupWindow*>(closed.get());
+    if (backup && backup->HasRestored()) around_.readFirm();
     const auto* forms = dynamic_cast<const CustomFormsWindow*>(closed.get());
     if (!forms) return;
     around_.offerDocuments();

@@ -25,6 +25,7 @@ class SideWindows {
         std::function<void(int)> fieldChanged;  ///< this field has another value
         std::function<void()> offerDocuments;   ///< the list of documents is read anew
         std::function<void()> startTestMode;    ///< custom forms are tried out on an empty screen
+        std::function<void()> readFirm;         ///< the firm's files are other ones now
     };
 
     /// The arguments must outlive the object.
@@ -46,6 +47,8 @@ class SideWindows {
     /// `cmdOP236`, `cmdEnvelopes`.
     void OpenReturn();
     void OpenEnvelopes();
+    /// The window of backup and restore. Without one the program has ended, and the person knows why.
+    void OpenBackup();
     /// The side tool's window that keeps the main screen waiting; null when there is none.
     SideWindow* Window() { return window_.get(); }
     /// After an act in that window: when it has closed, what follows for the main screen.
