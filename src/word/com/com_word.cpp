@@ -6,14 +6,15 @@
 // The automation header needs the one above.
 #include <oleauto.h>
 
-#include <chrono>
+#include <map>
 #include <memory>
 #include <string>
-#include <thread>
 #include <utility>
 #include <vector>
 
+#include "word/com/com_refusal.h"
 #include "word/com/com_text.h"
+#include "word/com/com_watch.h"
 
 namespace quillmark::word {
 namespace {
@@ -33,7 +34,14 @@ class Apartment {
  private:
     bool entered_;
 };
-using ApartmentPtr = std::shared_ptr<Apartment>;
+
+/// What all objects of one started server share.
+struct Server {
+    Apartment apartment;  // the first, since everything else lives in it
+    ComPatience patience;
+    std::unique_ptr<ServerWatch> watch;
+};
+using ServerPtr = std::shared_ptr<Server>;
 
 std::string FromBstr(BSTR text) {
     return text ? FromWide({text, SysStringLen(text)}) : std::string();
@@ -58,79 +66,25 @@ class Variant {
     VARIANT value_;
 };
 
-// ---- Refusals ----
-
-struct Refusal {
-    HRESULT result;
-    int number;
-};
-
-// clang-format off
-constexpr Refusal kRefusals[] = {
-    {RPC_E_DISCONNECTED,                              error::kServerGone},
-    {RPC_E_SERVER_DIED,                               error::kServerGone},
-    {RPC_E_SERVER_DIED_DNE,                           error::kServerGone},
-    {CO_E_OBJNOTCONNECTED,                            error::kServerGone},
-    {HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE),    error::kServerGone},
-    {HRESULT_FROM_WIN32(RPC_S_CALL_FAILED),           error::kServerGone},
-    {HRESULT_FROM_WIN32(RPC_S_CALL_FAILED_DNE),       error::kServerGone},
-    {DISP_E_UNKNOWNNAME,                              error::kNoSuchMember},
-    {DISP_E_MEMBERNOTFOUND,                           error::kNoSuchMember},
-    {DISP_E_TYPEMISMATCH,                             error::kTypeMismatch},
-    {DISP_E_PARAMNOTOPTIONAL,                         error::kArgumentNotOptional},
-    {DISP_E_BADINDEX,                                 error::kNoSuchElement},
-    {E_ACCESSDENIED,                                  error::kPermissionDenied},
-    {HRESULT_FROM_WIN32(ERROR_SHARING_VIOLATION),     error::kPermissionDenied},
-};
-// clang-format on
-
-/// Word's own number for saving to a file that is open elsewhere.
-constexpr int kOpenElsewhere = 5356;
-
-int NumberOf(HRESULT result) {
-    for (const auto& refusal : kRefusals) {
-        if (refusal.result == result) return refusal.number;
-    }
-    const int number = HRESULT_CODE(result);
-    return number == kOpenElsewhere ? error::kPermissionDenied : number;
-}
-
-[[noreturn]] void Refuse(HRESULT result, std::string_view member) {
-    throw AutomationError(NumberOf(result), "The request for " + std::string(member) + " was refused");
-}
-
-/// Word's own words, where it has some.
-[[noreturn]] void Refuse(EXCEPINFO& exception, std::string_view member) {
-    if (exception.pfnDeferredFillIn) exception.pfnDeferredFillIn(&exception);
-    const std::string description = FromBstr(exception.bstrDescription);
-    SysFreeString(exception.bstrSource);
-    SysFreeString(exception.bstrDescription);
-    SysFreeString(exception.bstrHelpFile);
-    const int number = NumberOf(exception.wCode ? HRESULT{exception.wCode} : exception.scode);
-    throw AutomationError(number, description.empty()
-                                      ? "The request for " + std::string(member) + " was refused"
-                                      : description);
-}
-
-/// Repeats an operation while Word says that it is busy.
-template <class Operation>
-HRESULT WhileBusy(Operation operation) {
-    using namespace std::chrono;
-    const auto limit = steady_clock::now() + seconds(10);
-    while (true) {
-        const HRESULT result = operation();
-        const bool busy = result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER;
-        if (!busy || steady_clock::now() > limit) return result;
-        std::this_thread::sleep_for(milliseconds(50));
-    }
-}
-
 // ---- Objects ----
+
+/// What was learnt of the objects that were reached in one way: the ids of their members, each asked for only
+/// once, and the kinds of the objects that these give. A member of one kind gives objects of one kind.
+struct Kind {
+    std::map<std::string, std::vector<DISPID>> ids = {};  ///< by the member and the names of its arguments
+    std::map<std::string, std::shared_ptr<Kind>, std::less<>> given = {};
+
+    std::shared_ptr<Kind> GivenBy(std::string_view member) {
+        const auto known = given.find(member);
+        if (known != given.end()) return known->second;
+        return given.emplace(member, std::make_shared<Kind>()).first->second;
+    }
+};
 
 class ComObject : public Object {
  public:
-    ComObject(ApartmentPtr apartment, DispatchPtr dispatch)
-        : apartment_(std::move(apartment)), dispatch_(std::move(dispatch)) {}
+    ComObject(ServerPtr server, std::shared_ptr<Kind> kind, DispatchPtr dispatch)
+        : server_(std::move(server)), kind_(std::move(kind)), dispatch_(std::move(dispatch)) {}
 
     /// An element or a member with arguments is a method in some of the model's collections, a property in
     /// others.
@@ -140,6 +94,7 @@ class ComObject : public Object {
     void Put(std::string_view member, const Value& value) override {
         const Argument argument{value};
         Invoke(member, DISPATCH_PROPERTYPUT, Arguments(&argument, 1));
+        if (member == "Visible" && value == Value(true) && server_->watch) server_->watch->LetGo();
     }
     Value Call(std::string_view member, Arguments arguments) override {
         return Invoke(member, DISPATCH_METHOD, arguments);
@@ -147,36 +102,58 @@ class ComObject : public Object {
 
  private:
     Value Invoke(std::string_view member, WORD how, Arguments arguments) const;
-    std::vector<DISPID> Identify(std::string_view member, Arguments arguments) const;
+    const std::vector<DISPID>& Identify(std::string_view member, Arguments arguments) const;
+    std::vector<DISPID> AskForIds(std::string_view member, Arguments arguments) const;
     static void Fill(VARIANT& variant, const Value& value);
-    Value Take(VARIANT& variant) const;
+    Value Take(VARIANT& variant, std::string_view member) const;
+    /// A call to the server: repeated while it is busy, and watched.
+    template <class Operation>
+    HRESULT Attempt(Operation operation) const {
+        return WhileBusy(server_->patience.busy, [&] {
+            if (!server_->watch) return operation();
+            const ServerWatch::Call call(*server_->watch);
+            return operation();
+        });
+    }
 
-    ApartmentPtr apartment_;
+    ServerPtr server_;
+    std::shared_ptr<Kind> kind_;
     DispatchPtr dispatch_;
 };
 
 /// The ids of the member and of its named arguments.
-std::vector<DISPID> ComObject::Identify(std::string_view member, Arguments arguments) const {
+const std::vector<DISPID>& ComObject::Identify(std::string_view member, Arguments arguments) const {
+    std::string key(member);
+    for (const auto& argument : arguments) {
+        if (!argument.name.empty()) key.append(1, ' ').append(argument.name);
+    }
+    const auto known = kind_->ids.find(key);
+    if (known != kind_->ids.end()) return known->second;
+    return kind_->ids.emplace(key, AskForIds(member, arguments)).first->second;
+}
+
+std::vector<DISPID> ComObject::AskForIds(std::string_view member, Arguments arguments) const {
     std::vector<std::wstring> names = {ToWide(member)};
     for (const auto& argument : arguments) {
         if (!argument.name.empty()) names.push_back(ToWide(argument.name));
     }
     std::vector<OLECHAR*> pointers;
     for (auto& name : names) pointers.push_back(name.data());
-    std::vector<DISPID> ids(names.size());
-    const HRESULT result = WhileBusy([&] {
+    std::vector<DISPID> ids(names.size(), DISPID_UNKNOWN);
+    const HRESULT result = Attempt([&] {
         return dispatch_->GetIDsOfNames(IID_NULL, pointers.data(), static_cast<UINT>(pointers.size()),
                                         LOCALE_USER_DEFAULT, ids.data());
     });
-    if (FAILED(result)) Refuse(result, member);
+    const bool isArgument = result == DISP_E_UNKNOWNNAME && ids.front() != DISPID_UNKNOWN;
+    if (FAILED(result)) Refuse(isArgument ? DISP_E_PARAMNOTFOUND : result, member);
     return ids;
 }
 
 /// COM takes the arguments from the last to the first, the named ones in front of all others.
 Value ComObject::Invoke(std::string_view member, WORD how, Arguments arguments) const {
-    std::vector<DISPID> ids = Identify(member, arguments);
-    const DISPID id = ids.front();
-    ids.erase(ids.begin());
+    const std::vector<DISPID>& all = Identify(member, arguments);
+    const DISPID id = all.front();
+    std::vector<DISPID> ids(all.begin() + 1, all.end());
     std::vector<Variant> values(arguments.size());
     std::size_t named = 0;
     std::size_t unnamed = values.size();
@@ -190,13 +167,13 @@ Value ComObject::Invoke(std::string_view member, WORD how, Arguments arguments) 
                              static_cast<UINT>(values.size()), static_cast<UINT>(ids.size())};
     Variant given;
     EXCEPINFO exception = {};
-    const HRESULT result = WhileBusy([&] {
+    const HRESULT result = Attempt([&] {
         return dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, how, &parameters, given.get(), &exception,
                                  nullptr);
     });
-    if (result == DISP_E_EXCEPTION) Refuse(exception, member);
+    if (result == DISP_E_EXCEPTION) Refuse(exception, *dispatch_, member);
     if (FAILED(result)) Refuse(result, member);
-    return Take(*given.get());
+    return Take(*given.get(), member);
 }
 
 void ComObject::Fill(VARIANT& variant, const Value& value) {
@@ -222,7 +199,7 @@ void ComObject::Fill(VARIANT& variant, const Value& value) {
     }
 }
 
-Value ComObject::Take(VARIANT& variant) const {
+Value ComObject::Take(VARIANT& variant, std::string_view member) const {
     switch (variant.vt) {
         case VT_EMPTY:
         case VT_NULL:
@@ -241,7 +218,7 @@ Value ComObject::Take(VARIANT& variant) const {
         case VT_DISPATCH: {
             DispatchPtr object(std::exchange(variant.pdispVal, nullptr));
             if (!object) return ObjectPtr{};
-            return ObjectPtr(std::make_shared<ComObject>(apartment_, std::move(object)));
+            return ObjectPtr(std::make_shared<ComObject>(server_, kind_->GivenBy(member), std::move(object)));
         }
         default:
             if (FAILED(VariantChangeType(&variant, &variant, 0, VT_I4))) break;
@@ -252,20 +229,23 @@ Value ComObject::Take(VARIANT& variant) const {
 
 }  // namespace
 
-ObjectPtr CreateComObject(std::string_view className) {
-    auto apartment = std::make_shared<Apartment>();
+ObjectPtr CreateComObject(std::string_view className, ComPatience patience) {
+    auto server = std::make_shared<Server>();
+    server->patience = patience;
     CLSID id = {};
     IDispatch* object = nullptr;
     HRESULT result = CLSIDFromProgID(ToWide(className).c_str(), &id);
     if (SUCCEEDED(result)) {
+        const auto former = ProcessesOf(id);
         result = CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IDispatch,
                                   reinterpret_cast<void**>(&object));
+        server->watch = std::make_unique<ServerWatch>(former, ProcessesOf(id), patience.call);
     }
     if (FAILED(result)) {
         throw AutomationError(error::kCannotCreate,
                               std::string(className) + " cannot be started on this machine");
     }
-    return std::make_shared<ComObject>(std::move(apartment), DispatchPtr(object));
+    return std::make_shared<ComObject>(std::move(server), std::make_shared<Kind>(), DispatchPtr(object));
 }
 
 }  // namespace quillmark::word
