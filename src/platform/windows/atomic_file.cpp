@@ -72,7 +72,7 @@ bool Recover(const fs::path& temporary, const fs::path& target, const fs::path& 
 }
 
 /// Keeps the old file's owner, rights, attributes and streams where there is one.
-bool MoveOnto(const fs::path& temporary, const fs::path& target) {
+bool TryMoveOnto(const fs::path& temporary, const fs::path& target) {
     const fs::path former = FormerOf(target);
     if (ReplaceFileW(target.c_str(), temporary.c_str(), former.c_str(), REPLACEFILE_IGNORE_MERGE_ERRORS,
                      nullptr, nullptr)) {
@@ -85,6 +85,21 @@ bool MoveOnto(const fs::path& temporary, const fs::path& target) {
     if (Recover(temporary, target, former)) return true;
     SetLastError(error);
     return false;
+}
+
+/// Other programs (a search index, a virus scanner, a backup) open a file for moments; the old one is whole
+/// meanwhile.
+bool MoveOnto(const fs::path& temporary, const fs::path& target) {
+    constexpr int kAttempts = 10;
+    constexpr DWORD kPause = 30;  // milliseconds
+    for (int attempt = 1;; ++attempt) {
+        if (TryMoveOnto(temporary, target)) return true;
+        const DWORD error = GetLastError();
+        const bool passes = error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
+                            error == ERROR_UNABLE_TO_REMOVE_REPLACED;
+        if (!passes || attempt == kAttempts || !Exists(temporary)) return SetLastError(error), false;
+        Sleep(kPause);
+    }
 }
 
 }  // namespace
