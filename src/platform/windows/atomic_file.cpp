@@ -51,6 +51,11 @@ bool Exists(const fs::path& file) {
     return GetFileAttributesW(file.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
+bool IsFolder(const fs::path& file) {
+    const DWORD attributes = GetFileAttributesW(file.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
 /// Where the old file stands for a moment, and for good if neither of both can be brought back: beside the
 /// file, under a name that tells whose it is.
 fs::path FormerOf(const fs::path& target) {
@@ -112,6 +117,7 @@ std::optional<bool> IsBeingWritten(const fs::path& temporary) {
 }
 
 void ReplaceFile(const fs::path& file, std::string_view bytes) {
+    if (IsFolder(file)) throw FileError(file, FileError::Kind::Other, "is no ordinary file");
     const bool hadFormer = Exists(file);
     const fs::path temporary = file.parent_path() / TemporaryName();
     File out(temporary, GENERIC_WRITE, 0, CREATE_NEW);
@@ -140,7 +146,10 @@ bool RenameUnlessTaken(const fs::path& file, const fs::path& newFile) {
 std::string ReadFile(const fs::path& file, std::size_t limit) {
     const File in(file, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, OPEN_EXISTING);
     LARGE_INTEGER size = {};
-    if (!in.IsOpen() || !GetFileSizeEx(in.Handle(), &size)) throw FileError(file, LastError());
+    const std::error_code error = LastError();
+    if (!in.IsOpen() && IsFolder(file)) throw FileError(file, FileError::Kind::Other, "is no ordinary file");
+    if (!in.IsOpen()) throw FileError(file, error);
+    if (!GetFileSizeEx(in.Handle(), &size)) throw FileError(file, LastError());
     if (GetFileType(in.Handle()) != FILE_TYPE_DISK) {
         throw FileError(file, FileError::Kind::Other, "is no ordinary file");
     }
