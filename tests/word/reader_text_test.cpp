@@ -37,7 +37,7 @@ TEST(Reader, TextOfRunsIsFlat) {
     EXPECT_EQ(test::Faults(*document), "");
 }
 
-TEST(Reader, TrackedChangesAreTaken) {
+TEST(Reader, TrackedChangesStayAroundTheTextThatCounts) {
     const auto document = OpenBody(
         R"(<w:p><w:r><w:t>keep</w:t></w:r><w:ins w:id="1"><w:r><w:t xml:space="preserve"> new</w:t>)"
         R"(</w:r></w:ins>)"
@@ -50,9 +50,9 @@ TEST(Reader, TrackedChangesAreTaken) {
         R"(<w:tbl><w:tr><w:trPr><w:del w:id="5"/></w:trPr><w:tc><w:p/></w:tc></w:tr><w:tr><w:tc><w:p>)"
         R"(<w:r><w:t>row)"
         R"(</w:t></w:r></w:p></w:tc></w:tr></w:tbl><w:p/>)");
-    EXPECT_EQ(Text(document->body), "keep new\none paragraph\n[row\n]\n\n");
-    const auto& joined = std::get<Paragraph>(*std::next(document->body.begin()));
-    EXPECT_EQ(document->paraFormats[joined.format].alignment, 2);
+    EXPECT_EQ(Text(document->body), "keep new\none \nparagraph\n[\n]\n[row\n]\n\n");
+    const auto& deleted = std::get<Paragraph>(*std::next(document->body.begin()));
+    EXPECT_EQ(document->paraFormats[deleted.format].markReview, R"(<w:del w:id="4"/>)");
 }
 
 TEST(Reader, ContentControlsAndTagsAreUnwrapped) {

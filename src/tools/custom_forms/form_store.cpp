@@ -81,6 +81,19 @@ void Remove(const fs::path& file) {
     if (failed) throw FileError(file, failed);
 }
 
+/// The markers of a form that was put aside. What is wrong with it is told of the file that the person chose.
+std::vector<FormMarker> MarkersIn(const fs::path& staged, const std::string& given,
+                                  const std::vector<MarkerRow>& rows, const StartWord& startWord) {
+    try {
+        return OpenedForm(staged, startWord).Markers(rows);
+    } catch (const word::AutomationError& failure) {
+        std::string text = failure.what();
+        const std::string path = TextOf(staged);
+        if (const std::size_t at = text.find(path); at != text.npos) text.replace(at, path.size(), given);
+        throw word::AutomationError(failure.number(), text);
+    }
+}
+
 /// Form and list are two files: when the second cannot be written, the first is put back.
 void Keep(const fs::path& folder, const std::string& file, std::string_view form,
           const std::vector<FormMarker>& markers) {
@@ -124,12 +137,7 @@ std::string ImportForm(const fs::path& source, const fs::path& folder, const Sta
     const std::string file = std::string(FormName(given)) + extension;
     const PrivateFolder stage;
     ReplaceFile(stage.path / PathOf(file), form);
-    std::vector<FormMarker> markers;
-    {
-        const OpenedForm opened(stage.path / PathOf(file), sameWord);
-        markers = opened.Markers(MarkerRows(folder));
-    }
-    Keep(folder, file, form, markers);
+    Keep(folder, file, form, MarkersIn(stage.path / PathOf(file), given, MarkerRows(folder), sameWord));
     return file;
 }
 

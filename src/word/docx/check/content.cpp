@@ -156,6 +156,19 @@ class ContentCheck {
         if (openBookmarks_.erase(id) == 0) Report(fmt::format("the bookmark end {} has no start", id));
     }
 
+    void CheckComment(const pugi::xml_node& node) {
+        const std::string id = node.attribute("w:id").value();
+        if (!findings_.comments.contains(id))
+            Report(fmt::format("{} names the comment {}, which is not there", node.name(), id));
+    }
+
+    void CheckDeletion(const pugi::xml_node& node) {
+        for (const pugi::xml_node child : node.children()) {
+            if (std::string_view(child.name()) == "w:t") Report("deleted text is told as text that stands");
+            CheckDeletion(child);
+        }
+    }
+
     void CheckField(const pugi::xml_node& node) {
         const std::string_view type = node.attribute("w:fldCharType").value();
         if (type == "begin") ++openFields_;
@@ -233,6 +246,10 @@ class ContentCheck {
             {"w:bookmarkStart", &ContentCheck::CheckBookmarkStart},
             {"w:bookmarkEnd",   &ContentCheck::CheckBookmarkEnd},
             {"w:fldChar",       &ContentCheck::CheckField},
+            {"w:del",           &ContentCheck::CheckDeletion},
+            {"w:commentReference",  &ContentCheck::CheckComment},
+            {"w:commentRangeStart", &ContentCheck::CheckComment},
+            {"w:commentRangeEnd",   &ContentCheck::CheckComment},
             {"w:ffData",        &ContentCheck::CheckFormField},
             {"wp:docPr",        &ContentCheck::CheckDrawing},
             {"w:sz",            &ContentCheck::CheckSize},
@@ -293,6 +310,14 @@ void CheckLists(PackageFindings& findings, std::string_view part, const pugi::xm
         if (!definitions.contains(definition)) {
             findings.Add(part, fmt::format("the list {} has no definition {}", number, definition));
         }
+    }
+}
+
+void CheckComments(PackageFindings& findings, std::string_view part, const pugi::xml_node& root) {
+    for (const pugi::xml_node comment : root.children("w:comment")) {
+        const std::string id = comment.attribute("w:id").value();
+        if (!findings.comments.insert(id).second)
+            findings.Add(part, fmt::format("the comment {} is there twice", id));
     }
 }
 

@@ -22,11 +22,14 @@ struct PackageFindings {
     std::set<std::string> bookmarkIds;
     std::set<std::string> fieldNames;  ///< of form fields, in small letters
     std::set<std::string> drawings;
+    std::set<std::string> comments;  ///< their numbers
 };
 
-/// Reads the styles and lists that other parts name, and looks for those that are wrong in themselves.
+/// Reads the styles, lists and comments that other parts name, and looks for those that are wrong in
+/// themselves.
 void CheckStyles(PackageFindings& findings, std::string_view part, const pugi::xml_node& root);
 void CheckLists(PackageFindings& findings, std::string_view part, const pugi::xml_node& root);
+void CheckComments(PackageFindings& findings, std::string_view part, const pugi::xml_node& root);
 
 /// Looks through all elements of a part. `relations` are the ids of the part's relationships.
 void CheckContent(PackageFindings& findings, std::string_view part, const pugi::xml_node& root,

@@ -141,6 +141,7 @@ class PackageCheck {
         for (const auto& [name, xml] : parts_) {
             const std::string_view root = RootOf(name).name();
             if (root == "w:styles") CheckStyles(findings_, name, RootOf(name));
+            if (root == "w:comments") CheckComments(findings_, name, RootOf(name));
             if (root == "w:numbering") CheckLists(findings_, name, RootOf(name));
         }
         for (const auto& [name, xml] : parts_) {

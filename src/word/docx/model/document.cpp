@@ -44,7 +44,7 @@ std::size_t HashOf(const ParaFormat& format) {
           << static_cast<std::size_t>(format.role);
     for (const TabStop& stop : format.tabs) mixer << static_cast<std::size_t>(stop.position);
     for (const auto& [name, xml] : format.extra) mixer << xml;
-    return mixer.hash();
+    return (mixer << format.markReview).hash();
 }
 
 InlineObject CopyObject(const InlineObject& object) {

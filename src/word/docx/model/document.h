@@ -65,7 +65,8 @@ struct ParaFormat {
     std::optional<int> firstLine = {};  ///< negative for a hanging indent
     std::optional<int> alignment = {};  ///< the model's numbers: 0 left, 1 centre, 2 right, 3 justified
     std::vector<std::pair<std::string, std::string>> extra = {};  ///< further children of w:pPr
-    Role role = Role::None;  ///< changes no look; the writer makes a named style of it
+    Role role = Role::None;       ///< changes no look; the writer makes a named style of it
+    std::string markReview = {};  ///< w:ins or w:del: the mark was put in or taken out by a tracked change
     bool operator==(const ParaFormat&) const = default;
 };
 
@@ -132,18 +133,34 @@ struct RawInline {
 using InlineObject =
     std::variant<Picture, FormFieldData, FieldBegin, FieldInstruction, FieldSeparator, FieldEnd, RawInline>;
 
-/// A bookmark's start or end: it takes no place in the text.
+/// What stands between characters and takes no place in the text. Those at one offset keep their order.
 struct Anchor {
+    enum class Kind {
+        Bookmark,  ///< the start or the end of one
+        Around,    ///< the start or the end of an element around text: an insertion, a content control
+        Alone,     ///< an element of its own: a deletion, a comment's mark
+    };
     std::size_t offset = 0;  ///< bytes into Paragraph::text
     bool isStart = true;
-    int id = 0;
-    std::string name;  ///< of a start
+    int id = 0;             ///< of a start and its end alike; no other anchor of the document has it
+    std::string name = {};  ///< of a bookmark's start
+    Kind kind = Kind::Bookmark;
+    /// The complete element, without content where it is one around text; empty at an end.
+    std::string xml = {};
 };
 
 /// Neighbouring characters of one format.
 struct Span {
     std::size_t length = 0;  ///< bytes of Paragraph::text
     FormatId format = 0;
+};
+
+/// The content controls of an opened file that begin before a block, row or cell, the outermost first (each a
+/// complete w:sdt with empty content), and how many end behind it.
+struct Frames {
+    std::vector<std::string> opens;
+    int closes = 0;
+    bool empty() const { return opens.empty() && closes == 0; }
 };
 
 struct SectionProperties;
@@ -157,6 +174,7 @@ struct Paragraph {
     FormatId format = 0;      ///< into Document::paraFormats
     FormatId markFormat = 0;  ///< into Document::charFormats: the paragraph mark's own look
     std::unique_ptr<SectionProperties> section;  ///< set where the paragraph ends a section
+    Frames frames;
 };
 
 // ---- Blocks --------------------------------------------------------------------------------------------
@@ -189,6 +207,7 @@ struct TableCell {
     std::optional<int> verticalAlignment;
     Borders borders;
     std::vector<std::pair<std::string, std::string>> extra;  ///< further children of w:tcPr
+    Frames frames = {};
 };
 
 struct TableRow {
@@ -196,6 +215,7 @@ struct TableRow {
     std::optional<int> height;                               ///< twips
     std::string heightRule;                                  ///< "", "atLeast" or "exact"
     std::vector<std::pair<std::string, std::string>> extra;  ///< further children of w:trPr and w:tblPrEx
+    Frames frames = {};
 };
 
 struct Table {
@@ -204,6 +224,7 @@ struct Table {
     Borders borders;
     std::string style;
     std::vector<std::pair<std::string, std::string>> extra;  ///< further children of w:tblPr
+    Frames frames;
 };
 
 // ---- Sections ------------------------------------------------------------------------------------------

@@ -23,6 +23,7 @@ Paragraph CutTail(Paragraph& paragraph, std::size_t offset) {
     tail.format = paragraph.format;
     tail.markFormat = paragraph.markFormat;
     tail.section = std::move(paragraph.section);
+    tail.frames.closes = std::exchange(paragraph.frames.closes, 0);
     tail.text = paragraph.text.substr(offset);
     paragraph.text.resize(offset);
     tail.spans = CutLastSpans(paragraph.spans, tail.text.size());
@@ -49,6 +50,8 @@ void AppendText(Paragraph& paragraph, Paragraph&& next) {
     paragraph.text += next.text;
     AppendSpans(paragraph.spans, next.spans);
     std::ranges::move(next.objects, std::back_inserter(paragraph.objects));
+    std::ranges::move(next.frames.opens, std::back_inserter(paragraph.frames.opens));
+    paragraph.frames.closes += next.frames.closes;
 }
 
 void Append(Paragraph& paragraph, Paragraph&& next) {

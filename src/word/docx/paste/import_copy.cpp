@@ -26,6 +26,7 @@ Paragraph Clone(const Paragraph& paragraph) {
     copy.anchors = paragraph.anchors;
     copy.format = paragraph.format;
     copy.markFormat = paragraph.markFormat;
+    copy.frames = paragraph.frames;
     if (paragraph.section) copy.section = std::make_unique<SectionProperties>(Clone(*paragraph.section));
     return copy;
 }
@@ -36,11 +37,13 @@ std::unique_ptr<Table> Clone(const Table& table) {
     copy->borders = table.borders;
     copy->style = table.style;
     copy->extra = table.extra;
+    copy->frames = table.frames;
     for (const TableRow& row : table.rows) {
-        TableRow& newRow = copy->rows.emplace_back(TableRow{{}, row.height, row.heightRule, row.extra});
+        TableRow& newRow =
+            copy->rows.emplace_back(TableRow{{}, row.height, row.heightRule, row.extra, row.frames});
         for (const TableCell& cell : row.cells) {
             newRow.cells.push_back({Clone(cell.blocks), cell.span, cell.vertical, cell.fill,
-                                    cell.verticalAlignment, cell.borders, cell.extra});
+                                    cell.verticalAlignment, cell.borders, cell.extra, cell.frames});
         }
     }
     return copy;

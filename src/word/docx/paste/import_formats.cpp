@@ -14,7 +14,15 @@ FormatId TextImport::MapParagraph(FormatId format, const TableLook* look) {
     TakeNumbering(style, mapped);
     if (look) TakeTableSpacing(style, *look, mapped);
     mapped.style = styles_.Map(mapped.style, "paragraph");
+    TranslateFormer(mapped.extra);
     return place->second = target_.paraFormats.Intern(mapped);
+}
+
+/// What a tracked change of formatting tells of the look before it names styles and lists too.
+void TextImport::TranslateFormer(std::vector<std::pair<std::string, std::string>>& extra) {
+    for (auto& [name, xml] : extra)
+        if (name == "rPrChange" || name == "pPrChange") xml = Raw(xml);
+    std::erase_if(extra, [](const auto& element) { return element.second.empty(); });
 }
 
 /// The paragraph names its list itself, since styles come along without one.
@@ -53,6 +61,7 @@ FormatId TextImport::MapCharacters(FormatId format, FormatId paragraph, const Ta
         TakeTableFont(style.empty() ? sheet_.DefaultOf("paragraph") : style, *look, mapped);
     }
     mapped.style = mapped.style.empty() ? mapped.style : styles_.Map(mapped.style, "character");
+    TranslateFormer(mapped.extra);
     return place->second = target_.charFormats.Intern(mapped);
 }
 

@@ -43,7 +43,7 @@ std::string Numbered(const std::string& name, int number, std::size_t longest) {
 NameImport::NameImport(Document& target) : target_(target) {
     const auto note = [&](const Paragraph& paragraph) {
         for (const Anchor& anchor : paragraph.anchors) {
-            if (anchor.isStart) Take(anchor.name);
+            if (anchor.isStart && !anchor.name.empty()) Take(anchor.name);
         }
         for (const InlineObject& object : paragraph.objects) {
             if (const auto* field = std::get_if<FormFieldData>(&object)) Take(field->name);
@@ -95,7 +95,7 @@ void NameImport::Prepare(const Blocks& blocks) {
             if (!name.empty()) Map(name, kLongestFormField);
         }
         for (const Anchor& anchor : paragraph.anchors) {
-            if (anchor.isStart) Map(anchor.name, kLongestBookmark);
+            if (anchor.isStart && !anchor.name.empty()) Map(anchor.name, kLongestBookmark);
         }
     });
 }

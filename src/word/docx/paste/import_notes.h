@@ -6,7 +6,7 @@
 
 #include "word/docx/paste/import_relations.h"
 
-/// Bringing footnotes and endnotes along, which all stand in one part of a document.
+/// Bringing footnotes, endnotes and comments along, of which all of a kind stand in one part of a document.
 namespace quillmark::word::docx::paste {
 
 class NoteImport {
@@ -17,7 +17,8 @@ class NoteImport {
     NoteImport(const Document& source, Document& target, Translate translate)
         : source_(source), target_(target), translate_(std::move(translate)) {}
 
-    /// What is to be added to the number of a note of the copied document ("footnotes" or "endnotes").
+    /// What is to be added to the number of a note of the copied document ("footnotes", "endnotes" or
+    /// "comments").
     int Offset(const char* kind);
 
  private:

@@ -58,6 +58,19 @@ void CollectFrom(std::string_view xml, std::set<std::string, std::less<>>& used)
     }
 }
 
+void CollectFrom(const Frames& frames, std::set<std::string, std::less<>>& used) {
+    for (const std::string& control : frames.opens) CollectFrom(control, used);
+}
+
+template <class Format>
+void CollectFrom(const FormatTable<Format>& formats, std::set<std::string, std::less<>>& used) {
+    for (std::size_t id = 0; id < formats.size(); ++id) {
+        const Format& format = formats[static_cast<FormatId>(id)];
+        used.insert(format.style);
+        for (const auto& [name, xml] : format.extra) CollectFrom(xml, used);
+    }
+}
+
 void CollectFrom(const Blocks& blocks, std::set<std::string, std::less<>>& used) {
     for (const Block& block : blocks) {
         if (const auto* raw = std::get_if<RawBlock>(&block)) CollectFrom(raw->xml, used);
@@ -65,12 +78,19 @@ void CollectFrom(const Blocks& blocks, std::set<std::string, std::less<>>& used)
             for (const InlineObject& object : paragraph->objects) {
                 if (const auto* raw = std::get_if<RawInline>(&object)) CollectFrom(raw->xml, used);
             }
+            for (const Anchor& anchor : paragraph->anchors) CollectFrom(anchor.xml, used);
+            CollectFrom(paragraph->frames, used);
         }
         const auto* table = std::get_if<std::unique_ptr<Table>>(&block);
         if (!table) continue;
         if (!(*table)->style.empty()) used.insert((*table)->style);
+        CollectFrom((*table)->frames, used);
         for (const TableRow& row : (*table)->rows) {
-            for (const TableCell& cell : row.cells) CollectFrom(cell.blocks, used);
+            CollectFrom(row.frames, used);
+            for (const TableCell& cell : row.cells) {
+                CollectFrom(cell.frames, used);
+                CollectFrom(cell.blocks, used);
+            }
         }
     }
 }
@@ -79,12 +99,8 @@ void CollectFrom(const Blocks& blocks, std::set<std::string, std::less<>>& used)
 
 std::set<std::string, std::less<>> UsedStyles(const Document& document) {
     std::set<std::string, std::less<>> used;
-    for (std::size_t id = 0; id < document.charFormats.size(); ++id) {
-        used.insert(document.charFormats[static_cast<FormatId>(id)].style);
-    }
-    for (std::size_t id = 0; id < document.paraFormats.size(); ++id) {
-        used.insert(document.paraFormats[static_cast<FormatId>(id)].style);
-    }
+    CollectFrom(document.charFormats, used);
+    CollectFrom(document.paraFormats, used);
     CollectFrom(document.body, used);
     const auto collectStories = [&](const SectionProperties& section) {
         for (const auto* stories : {&section.headers, &section.footers}) {
@@ -99,7 +115,8 @@ std::set<std::string, std::less<>> UsedStyles(const Document& document) {
     }
     collectStories(document.lastSection);
     for (const auto& [id, relation] : document.relations) {
-        if (relation.contentType.ends_with("notes+xml")) CollectFrom(relation.bytes, used);
+        const std::string_view kind = relation.contentType;
+        if (kind.ends_with("notes+xml") || kind.ends_with("comments+xml")) CollectFrom(relation.bytes, used);
     }
     return used;
 }

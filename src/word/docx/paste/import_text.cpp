@@ -1,5 +1,7 @@
 #include "word/docx/paste/import_text.h"
 
+#include <algorithm>
+
 #include "word/docx/xml/xml_tree.h"
 
 namespace quillmark::word::docx::paste {
@@ -8,6 +10,29 @@ namespace {
 
 constexpr std::size_t kLongestBookmark = 40;
 constexpr std::size_t kLongestFormField = 20;
+
+struct NoteElement {
+    std::string_view name;
+    const char* notes;  ///< the part that its w:id counts in
+};
+
+// clang-format off
+constexpr NoteElement kNoteElements[] = {
+    {"w:footnoteReference",  "footnotes"},
+    {"w:endnoteReference",   "endnotes"},
+    {"w:commentReference",   "comments"},
+    {"w:commentRangeStart",  "comments"},
+    {"w:commentRangeEnd",    "comments"},
+};
+/// What ties a content control to the file it came from: its number there, and the data that it shows.
+constexpr const char* kTiesOfControls[] = {"w:id", "w:dataBinding", "w15:dataBinding"};
+// clang-format on
+
+/// Whether the element would name a style and there is none that it could mean.
+bool NamesNoStyle(pugi::xml_node node) {
+    const std::string_view name = node.name();
+    return (name == "w:pStyle" || name == "w:rStyle" || name == "w:tblStyle") && xml::Val(node).empty();
+}
 
 }  // namespace
 
@@ -56,11 +81,20 @@ Paragraph TextImport::Convert(const Paragraph& paragraph, const TableLook* look)
     for (const InlineObject& object : paragraph.objects) converted.objects.push_back(Convert(object));
     for (Anchor anchor : paragraph.anchors) {
         anchor.id = names_.MapId(anchor.id);
-        if (anchor.isStart) anchor.name = names_.Map(anchor.name, kLongestBookmark);
+        const bool isBookmark = anchor.kind == Anchor::Kind::Bookmark;
+        if (isBookmark && anchor.isStart) anchor.name = names_.Map(anchor.name, kLongestBookmark);
+        anchor.xml = Raw(anchor.xml);
         converted.anchors.push_back(std::move(anchor));
     }
+    converted.frames = Convert(paragraph.frames);
     if (paragraph.section)
         converted.section = std::make_unique<SectionProperties>(Section(*paragraph.section));
+    return converted;
+}
+
+Frames TextImport::Convert(const Frames& frames) {
+    Frames converted = frames;
+    for (std::string& control : converted.opens) control = Raw(control);
     return converted;
 }
 
@@ -82,13 +116,15 @@ std::unique_ptr<Table> TextImport::Convert(const Table& table) {
     converted->borders = table.borders;
     converted->style = styles_.Map(table.style, "table");
     converted->extra = table.extra;
+    converted->frames = Convert(table.frames);
     RawExtra(converted->extra);
     for (const TableRow& row : table.rows) {
-        TableRow& newRow = converted->rows.emplace_back(TableRow{{}, row.height, row.heightRule, row.extra});
+        TableRow& newRow = converted->rows.emplace_back(
+            TableRow{{}, row.height, row.heightRule, row.extra, Convert(row.frames)});
         RawExtra(newRow.extra);
         for (const TableCell& cell : row.cells) {
             newRow.cells.push_back({Convert(cell.blocks, &look), cell.span, cell.vertical, cell.fill,
-                                    cell.verticalAlignment, cell.borders, cell.extra});
+                                    cell.verticalAlignment, cell.borders, cell.extra, Convert(cell.frames)});
             RawExtra(newRow.cells.back().extra);
         }
     }
@@ -126,9 +162,9 @@ std::string TextImport::Raw(const std::string& xml) {
 
 /// The relationships that notes name are those of their own part.
 void TextImport::TranslateNotes(pugi::xml_node notes) {
-    inNotes_ = true;
+    const bool wasInNotes = std::exchange(inNotes_, true);
     Translate(notes);
-    inNotes_ = false;
+    inNotes_ = wasInNotes;
 }
 
 bool TextImport::TranslateAttributes(pugi::xml_node element) {
@@ -161,11 +197,14 @@ bool TextImport::Translate(pugi::xml_node element) {
             xml::IsNamed(child, "w:bookmarkStart") || xml::IsNamed(child, "w:bookmarkEnd");
         if (isBookmark) element.remove_child(child);
         if (!isBookmark && child.type() == pugi::node_element && !Translate(child)) return false;
+        if (NamesNoStyle(child)) element.remove_child(child);
         child = next;
     }
     if (name == "w:pStyle") value.set_value(styles_.Map(value.value(), "paragraph").c_str());
     if (name == "w:rStyle") value.set_value(styles_.Map(value.value(), "character").c_str());
     if (name == "w:tblStyle") value.set_value(styles_.Map(value.value(), "table").c_str());
+    if (name == "w:sdtPr")
+        for (const char* tie : kTiesOfControls) element.remove_child(tie);
     if (name == "w:numId") value.set_value(lists_.Map(xml::NumberAttribute(element, "w:val").value_or(0)));
     if (name == "w:ffData") {
         pugi::xml_attribute own = element.child("w:name").attribute("w:val");
@@ -173,10 +212,10 @@ bool TextImport::Translate(pugi::xml_node element) {
     }
     if (name == "w:p") TranslateParagraph(element);
     if (name == "a:schemeClr") usesTheme_ = true;
-    const bool isFootnote = name == "w:footnoteReference";
-    if (isFootnote || name == "w:endnoteReference") {
-        const int offset = notes_.Offset(isFootnote ? "footnotes" : "endnotes");
-        element.attribute("w:id").set_value(xml::NumberAttribute(element, "w:id").value_or(0) + offset);
+    const auto* note = std::ranges::find(kNoteElements, name, &NoteElement::name);
+    if (note != std::end(kNoteElements)) {
+        const int number = xml::NumberAttribute(element, "w:id").value_or(0);
+        element.attribute("w:id").set_value(number + notes_.Offset(note->notes));
     }
     return true;
 }

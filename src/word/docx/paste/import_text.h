@@ -39,9 +39,11 @@ class TextImport {
     Blocks Convert(const Blocks& blocks, const TableLook* look);
     Paragraph Convert(const Paragraph& paragraph, const TableLook* look);
     InlineObject Convert(const InlineObject& object);
+    Frames Convert(const Frames& frames);
     std::unique_ptr<Table> Convert(const Table& table);
     FormatId MapParagraph(FormatId format, const TableLook* look);
     FormatId MapCharacters(FormatId format, FormatId paragraph, const TableLook* look);
+    void TranslateFormer(std::vector<std::pair<std::string, std::string>>& extra);
     void TakeNumbering(const std::string& style, ParaFormat& format);
     void TakeTableSpacing(const std::string& style, const TableLook& look, ParaFormat& format) const;
     void TakeTableFont(const std::string& style, const TableLook& look, CharFormat& format) const;

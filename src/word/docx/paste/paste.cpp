@@ -15,7 +15,8 @@ using Stories = std::array<std::unique_ptr<Story>, 3>;
 
 bool IsEmptyParagraph(const Block& block) {
     const auto* paragraph = std::get_if<Paragraph>(&block);
-    return paragraph && paragraph->text.empty() && paragraph->anchors.empty() && !paragraph->section;
+    return paragraph && paragraph->text.empty() && paragraph->anchors.empty() && !paragraph->section &&
+           paragraph->frames.empty();
 }
 
 /// Ends the paragraph at the place, which then begins the rest of it.

@@ -1,10 +1,19 @@
 #include "word/docx/read/context.h"
 
+#include "word/docx/read/review.h"
+
 namespace quillmark::word::docx::read {
 
 namespace {
 
 constexpr std::string_view kRelationPrefix = "r:";
+
+/// Comments stand beside the main text alone, and none that is missing can be told.
+bool IsLooseComment(const ReadPart& part, pugi::xml_node element) {
+    if (!IsCommentMark(element.name())) return false;
+    const int number = xml::NumberAttribute(element, "w:id").value_or(-1);
+    return part.name != part.context.mainPart || !part.context.comments.contains(number);
+}
 
 /// False when a relationship is missing.
 bool RenameReferences(const ReadPart& part, pugi::xml_node element) {
@@ -21,8 +30,15 @@ bool RenameReferences(const ReadPart& part, pugi::xml_node element) {
         part.context.usesNotes = true;
     }
     if (xml::IsNamed(element, "a:schemeClr")) part.context.usesTheme = true;
-    for (const pugi::xml_node child : element.children()) {
-        if (child.type() == pugi::node_element && !RenameReferences(part, child)) return false;
+    part.context.usesComments = part.context.usesComments || IsCommentMark(element.name());
+    for (pugi::xml_node child = element.first_child(); child;) {
+        const pugi::xml_node next = child.next_sibling();
+        if (IsLooseComment(part, child)) {
+            element.remove_child(child);
+        } else if (child.type() == pugi::node_element && !RenameReferences(part, child)) {
+            return false;
+        }
+        child = next;
     }
     return true;
 }
@@ -40,6 +56,7 @@ void RenumberLists(const ReadContext& context, pugi::xml_node element) {
 }
 
 std::string ReadPart::Keep(pugi::xml_node element) const {
+    if (IsLooseComment(*this, element)) return {};
     RenumberLists(context, element);
     return RenameReferences(*this, element) ? tree.Fragment(element) : std::string();
 }

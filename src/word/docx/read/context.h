@@ -24,8 +24,10 @@ struct ReadContext {
     std::set<std::string, std::less<>> paragraphStyles, characterStyles, tableStyles;  ///< ids that exist
     /// The layout rules that the file asks for: 15 is the word processor's of 2013 and later.
     int compatibilityMode = 12;
-    bool usesNotes = false;  ///< some text refers to a footnote or an endnote
-    bool usesTheme = false;  ///< some drawing names the theme's colours
+    std::set<int> comments;     ///< the numbers of those that the file has
+    bool usesComments = false;  ///< some text refers to one
+    bool usesNotes = false;     ///< some text refers to a footnote or an endnote
+    bool usesTheme = false;     ///< some drawing names the theme's colours
 
     /// The model's number for the file's; 0, which is no list, for one that the file does not define.
     int ListNumber(int fileNumber) const {

@@ -4,6 +4,7 @@
 
 #include "word/docx/read/context.h"
 #include "word/docx/read/formats.h"
+#include "word/docx/read/review.h"
 #include "word/docx/read/story.h"
 #include "word/docx/read/styles.h"
 #include "word/docx/read/theme.h"
@@ -25,6 +26,7 @@ class DocumentReader {
  private:
     std::unique_ptr<xml::XmlTree> PartOfType(std::string_view type);
     std::unique_ptr<xml::XmlTree> TextPart(const std::string& name);
+    void ReadCommentNumbers();
     void ReadTheme();
     void ReadBody();
     SectionProperties ReadSection(const ReadPart& part, pugi::xml_node properties);
@@ -57,12 +59,21 @@ void DocumentReader::Read() {
     if (const auto numbering = PartOfType(xml::relationship::kNumbering)) ReadNumbering(context_, *numbering);
     const auto styles = PartOfType(xml::relationship::kStyles);
     styles ? ReadStyles(context_, *styles) : UseBuiltInStyles(context_);
+    ReadCommentNumbers();
     ReadBody();
     if (context_.usesNotes) {
         KeepNotes("footnotes");
         KeepNotes("endnotes");
     }
+    if (context_.usesComments) KeepNotes("comments");
     if (context_.usesTheme) KeepPart("theme");
+}
+
+void DocumentReader::ReadCommentNumbers() {
+    const auto comments = PartOfType("comments");
+    if (!comments) return;
+    for (const pugi::xml_node comment : comments->root().children("w:comment"))
+        context_.comments.insert(xml::NumberAttribute(comment, "w:id").value_or(-1));
 }
 
 void DocumentReader::ReadTheme() {
@@ -108,6 +119,15 @@ void DocumentReader::KeepPart(std::string_view type) {
     }
 }
 
+/// Comments on notes are not kept.
+void RemoveCommentMarks(pugi::xml_node element) {
+    for (pugi::xml_node child = element.first_child(); child;) {
+        const pugi::xml_node next = child.next_sibling();
+        IsCommentMark(child.name()) ? (void)element.remove_child(child) : RemoveCommentMarks(child);
+        child = next;
+    }
+}
+
 /// Notes stay a part of their own, with its names put in order.
 void DocumentReader::KeepNotes(std::string_view type) {
     const PackageLink* link = package_.FindByType(context_.mainPart, type);
@@ -115,6 +135,7 @@ void DocumentReader::KeepNotes(std::string_view type) {
     if (!id) return;
     const auto tree = TextPart(link->target);
     RenumberLists(context_, tree->root());
+    RemoveCommentMarks(tree->root());
     context_.document.relations.at(*id).bytes = tree->Part();
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "word/docx/read/review.h"
 #include "word/docx/xml/property_element.h"
 
 namespace quillmark::word::docx::read {
@@ -21,10 +22,10 @@ constexpr NumberedName kAlignments[] = {
 };
 constexpr std::string_view kTabLeaders[] = {"dot", "hyphen", "underscore", "heavy", "middleDot"};
 constexpr std::string_view kTabAlignments[] = {"left", "center", "right", "decimal", "bar", "clear", "num"};
-/// Marks of review, and a cell's place in a table style, which the layout finds by itself.
-constexpr std::string_view kDroppedProperties[] = {
-    "ins", "del", "moveFrom", "moveTo", "cnfStyle", "divId", "cellIns", "cellDel", "cellMerge",
-};
+/// Where a web page's text came from, and a cell's place in a table style, which the layout finds by itself.
+constexpr std::string_view kDroppedProperties[] = {"cnfStyle", "divId", "cellMerge"};
+/// A paragraph mark's tracked changes are kept with the paragraph.
+constexpr std::string_view kMarksOfReview[] = {"w:ins", "w:del", "w:moveFrom", "w:moveTo"};
 // clang-format on
 
 constexpr double kHalfPoints = 2.0;
@@ -190,6 +191,8 @@ void KeepExtra(const ReadPart& part, pugi::xml_node child, std::span<const std::
 CharFormat ReadCharFormat(const ReadPart& part, pugi::xml_node properties) {
     CharFormat format;
     for (const pugi::xml_node child : properties.children()) {
+        if (std::ranges::find(kMarksOfReview, std::string_view(child.name())) != std::end(kMarksOfReview))
+            continue;
         if (!TakeCharProperty(part, child, format)) KeepExtra(part, child, xml::kRunOrder, format.extra);
     }
     // The size for complex scripts goes with the size.
@@ -204,6 +207,7 @@ ParaFormat ReadParaFormat(const ReadPart& part, pugi::xml_node properties) {
         if (!TakeParaProperty(part, child, format))
             KeepExtra(part, child, xml::kParagraphOrder, format.extra);
     }
+    format.markReview = MarkReviewOf(part, properties.child("w:rPr"));
     return format;
 }
 

@@ -28,6 +28,8 @@ class StoryReader {
     // Blocks
     Blocks ReadContainer(pugi::xml_node container);
     void ReadBlocks(pugi::xml_node parent, Blocks& blocks);
+    void ReadControl(pugi::xml_node control, Blocks& blocks);
+    void Frame(pugi::xml_node control, Frames& first, Frames& last);
     void ReadParagraph(pugi::xml_node node, Blocks& blocks);
     std::unique_ptr<Table> ReadTable(pugi::xml_node node);
     void ReadRows(pugi::xml_node parent, Table& table);
@@ -35,9 +37,11 @@ class StoryReader {
 
     // Text
     void ReadInlines(pugi::xml_node parent);
+    void ReadAround(pugi::xml_node element);
+    void ReadAlone(std::string xml, std::vector<Anchor>& anchors, std::size_t offset);
     void ReadRun(pugi::xml_node run);
     void ReadRunChild(pugi::xml_node run, pugi::xml_node child, FormatId format);
-    void ReadRaw(pugi::xml_node run, pugi::xml_node child, FormatId format);
+    std::string InRun(pugi::xml_node run, pugi::xml_node child) const;
     void ReadFieldMark(pugi::xml_node mark, FormatId format);
     void ReadHyperlink(pugi::xml_node link);
     void WrapInField(const std::string& instruction, pugi::xml_node content);
@@ -49,7 +53,6 @@ class StoryReader {
     SectionReader readSection_;
     GrowingParagraph growing_;
     std::vector<Anchor> pendingAnchors_;  ///< between blocks: they go to the next paragraph
-    std::optional<Paragraph> carried_;    ///< of a deleted paragraph mark: it goes before the next paragraph
     std::map<int, int> openBookmarks_;    ///< the file's ids to the model's
     std::set<int> closedBookmarks_;
     int tableDepth_ = 0;

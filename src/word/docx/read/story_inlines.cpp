@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "word/docx/read/formats.h"
+#include "word/docx/read/review.h"
 #include "word/docx/read/story.h"
 
 /// Runs and what stands between them in a paragraph.
@@ -12,7 +13,7 @@ namespace {
 
 // clang-format off
 constexpr std::string_view kTransparent[] = {
-    "w:customXml", "w:smartTag", "w:ins", "w:moveTo", "w:dir", "w:bdo",
+    "w:customXml", "w:smartTag", "w:dir", "w:bdo",
 };
 /// Children of a run that the engine does not edit. The hyphens among them are no letters: a font may lack
 /// the characters of these meanings.
@@ -89,8 +90,12 @@ void StoryReader::ReadInlines(pugi::xml_node parent) {
             ReadHyperlink(child);
         } else if (name == "w:fldSimple") {
             WrapInField(std::string(xml::Attribute(child, "w:instr")), child);
-        } else if (name == "w:sdt") {
-            ReadInlines(child.child("w:sdtContent"));
+        } else if (IsAroundText(name)) {
+            ReadAround(child);
+        } else if (IsDeletion(name)) {
+            ReadAlone(DeletionOf(part_, child), growing.paragraph.anchors, growing.paragraph.text.size());
+        } else if (IsCommentMark(name)) {
+            ReadAlone(part_.Keep(child), growing.paragraph.anchors, growing.paragraph.text.size());
         } else if (IsAmong(kTransparent, name)) {
             ReadInlines(child);
         } else if (name == "w:bookmarkStart" || name == "w:bookmarkEnd") {
@@ -100,6 +105,19 @@ void StoryReader::ReadInlines(pugi::xml_node parent) {
                 growing.Object(RawInline{std::move(xml)}, 0);
         }
     }
+}
+
+void StoryReader::ReadAround(pugi::xml_node element) {
+    std::string shell = ShellOf(part_, element);
+    const int id = part_.context.document.nextBookmarkId++;
+    const auto put = [&](bool isStart, std::string xml) {
+        if (shell.empty()) return;
+        growing_.paragraph.anchors.push_back(
+            {growing_.paragraph.text.size(), isStart, id, {}, Anchor::Kind::Around, std::move(xml)});
+    };
+    put(true, shell);
+    ReadInlines(ContentOf(element));
+    put(false, {});
 }
 
 void StoryReader::ReadRun(pugi::xml_node run) {
@@ -122,20 +140,23 @@ void StoryReader::ReadRunChild(pugi::xml_node run, pugi::xml_node child, FormatI
         ReadFieldMark(child, format);
     } else if (name == "w:instrText") {
         growing_.Object(FieldInstruction{child.text().get()}, format);
+    } else if (IsCommentMark(name)) {
+        ReadAlone(InRun(run, child), growing_.paragraph.anchors, growing_.paragraph.text.size());
     } else if (IsAmong(kRawChildren, name)) {
         auto picture = name == "w:drawing" ? ReadPlainPicture(part_, child) : std::nullopt;
         if (picture) growing_.Object(std::move(*picture), format);
-        if (!picture) ReadRaw(run, child, format);
+        std::string raw = picture ? std::string() : InRun(run, child);
+        if (!raw.empty()) growing_.Object(RawInline{std::move(raw)}, format);
     }
 }
 
 /// The child in a run of its own, with the run's look.
-void StoryReader::ReadRaw(pugi::xml_node run, pugi::xml_node child, FormatId format) {
+std::string StoryReader::InRun(pugi::xml_node run, pugi::xml_node child) const {
     const std::string xml = part_.Keep(child);
-    if (xml.empty()) return;
+    if (xml.empty()) return {};
     const pugi::xml_node properties = run.child("w:rPr");
     const std::string look = properties ? part_.Keep(properties) : std::string();
-    growing_.Object(RawInline{fmt::format("<w:r>{}{}</w:r>", look, xml)}, format);
+    return fmt::format("<w:r>{}{}</w:r>", look, xml);
 }
 
 void StoryReader::ReadFieldMark(pugi::xml_node mark, FormatId format) {

@@ -3,6 +3,7 @@
 #include <numeric>
 
 #include "word/docx/read/formats.h"
+#include "word/docx/read/review.h"
 #include "word/docx/read/story.h"
 #include "word/docx/xml/property_element.h"
 
@@ -229,12 +230,17 @@ std::unique_ptr<Table> StoryReader::ReadTable(pugi::xml_node node) {
 
 void StoryReader::ReadRows(pugi::xml_node parent, Table& table) {
     for (const pugi::xml_node child : parent.children()) {
-        if (xml::IsNamed(child, "w:sdt")) ReadRows(child.child("w:sdtContent"), table);
+        if (xml::IsNamed(child, "w:sdt")) {
+            const std::size_t before = table.rows.size();
+            ReadRows(ContentOf(child), table);
+            if (table.rows.size() > before) Frame(child, table.rows[before].frames, table.rows.back().frames);
+        }
         if (xml::IsNamed(child, "w:customXml")) ReadRows(child, table);
         if (xml::IsNamed(child, "w:bookmarkStart") || xml::IsNamed(child, "w:bookmarkEnd")) {
             ReadBookmark(child, pendingAnchors_, 0);
         }
-        if (!xml::IsNamed(child, "w:tr") || child.child("w:trPr").child("w:del")) continue;
+        if (IsCommentMark(child.name())) ReadAlone(part_.Keep(child), pendingAnchors_, 0);
+        if (!xml::IsNamed(child, "w:tr")) continue;
         TableRow row;
         ReadRowFormat(part_, child, row);
         ReadCells(child, row);
@@ -244,11 +250,16 @@ void StoryReader::ReadRows(pugi::xml_node parent, Table& table) {
 
 void StoryReader::ReadCells(pugi::xml_node parent, TableRow& row) {
     for (const pugi::xml_node child : parent.children()) {
-        if (xml::IsNamed(child, "w:sdt")) ReadCells(child.child("w:sdtContent"), row);
+        if (xml::IsNamed(child, "w:sdt")) {
+            const std::size_t before = row.cells.size();
+            ReadCells(ContentOf(child), row);
+            if (row.cells.size() > before) Frame(child, row.cells[before].frames, row.cells.back().frames);
+        }
         if (xml::IsNamed(child, "w:customXml")) ReadCells(child, row);
         if (xml::IsNamed(child, "w:bookmarkStart") || xml::IsNamed(child, "w:bookmarkEnd")) {
             ReadBookmark(child, pendingAnchors_, 0);
         }
+        if (IsCommentMark(child.name())) ReadAlone(part_.Keep(child), pendingAnchors_, 0);
         if (!xml::IsNamed(child, "w:tc")) continue;
         if (IsMergedAway(child, row)) {
             row.cells.back().span = std::min(row.cells.back().span + 1, kMostColumns);

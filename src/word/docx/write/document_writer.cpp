@@ -7,6 +7,7 @@
 
 #include "platform/atomic_file.h"
 #include "word/docx/write/fixed_parts.h"
+#include "word/docx/write/review_ids.h"
 #include "word/docx/write/section.h"
 #include "word/docx/write/story.h"
 #include "word/docx/xml/names.h"
@@ -100,7 +101,9 @@ class PackageWriter {
         xml.Raw(Section(document_.lastSection));
         xml.Close();
         xml.Close();
-        return xml.Take();
+        std::string part = xml.Take();
+        NumberReviews(part, nextReview_);
+        return part;
     }
 
     std::string Section(const SectionProperties& section) {
@@ -133,8 +136,9 @@ class PackageWriter {
         PartRelations relations(name, document_.relations);
         xml::XmlWriter content;
         StoryWriter(state_, relations, content).Write(story->blocks);
-        state_.parts.Put(name, ContentType(kind), SmallStory(isHeader ? "w:hdr" : "w:ftr", content.Take()),
-                         relations);
+        std::string part = SmallStory(isHeader ? "w:hdr" : "w:ftr", content.Take());
+        NumberReviews(part, nextReview_);
+        state_.parts.Put(name, ContentType(kind), std::move(part), relations);
         references.push_back({isHeader, pages, main_.Add(kind, name)});
     }
 
@@ -178,6 +182,7 @@ class PackageWriter {
     PartRelations package_;
     const SectionProperties* before_ = nullptr;
     int storyCount_[2] = {};
+    int nextReview_ = 1;
     bool hasText_[2][3] = {};
 };
 

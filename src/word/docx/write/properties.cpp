@@ -1,5 +1,7 @@
 #include "word/docx/write/properties.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <span>
 
@@ -94,6 +96,18 @@ std::string RunProperties(const CharFormat& format) {
     return properties.Take();
 }
 
+namespace {
+
+/// The mark's properties, with the tracked change of the mark itself in front.
+std::string Reviewed(const std::string& review, std::string_view markProperties) {
+    constexpr std::string_view kOpening = "<w:rPr>", kClosing = "</w:rPr>";
+    if (review.empty()) return std::string(markProperties);
+    if (!markProperties.starts_with(kOpening)) return fmt::format("{}{}{}", kOpening, review, kClosing);
+    return fmt::format("{}{}{}", kOpening, review, markProperties.substr(kOpening.size()));
+}
+
+}  // namespace
+
 std::string ParagraphProperties(const ParaFormat& format, std::string_view markProperties,
                                 std::string_view section) {
     xml::PropertyElement properties("w:pPr", xml::kParagraphOrder);
@@ -107,7 +121,7 @@ std::string ParagraphProperties(const ParaFormat& format, std::string_view markP
     AddSpacing(properties, format);
     AddIndents(properties, format);
     if (format.alignment) properties.Value("w:jc", NameOf(kAlignments, *format.alignment));
-    properties.Raw("rPr", markProperties);
+    properties.Raw("rPr", Reviewed(format.markReview, markProperties));
     properties.Raw("sectPr", section);
     properties.Extra(format.extra);
     return properties.Take();

@@ -1,5 +1,7 @@
 #include "word/docx/write/story.h"
 
+#include <algorithm>
+
 #include "word/docx/xml/text_codes.h"
 
 namespace quillmark::word::docx::write {
@@ -34,6 +36,26 @@ std::optional<Range> FindDrawingId(std::string_view xml, std::size_t from) {
     return std::nullopt;
 }
 
+constexpr std::string_view kPlainControl = "<w:sdt><w:sdtContent/></w:sdt>";
+
+struct ElementTags {
+    std::string opening;
+    std::string_view closing;
+};
+
+/// What begins and ends an element whose XML holds no text.
+ElementTags TagsOf(std::string_view xml) {
+    constexpr std::string_view kControl = "<w:sdt", kEmptyContent = "<w:sdtContent/></w:sdt>";
+    constexpr std::string_view kEnd = "/>";
+    if (xml.starts_with(kControl) && xml.ends_with(kEmptyContent)) {
+        xml.remove_suffix(kEmptyContent.size());
+        return {std::string(xml) + "<w:sdtContent>", "</w:sdtContent></w:sdt>"};
+    }
+    if (!xml.ends_with(kEnd)) return {};
+    xml.remove_suffix(kEnd.size());
+    return {std::string(xml) + ">", "</w:ins>"};
+}
+
 }  // namespace
 
 std::string_view FormatCache::Run(const StyleUse& use, FormatId format) {
@@ -59,11 +81,18 @@ std::string_view FormatCache::Paragraph(const StyleUse& use, FormatId format, Fo
 }
 
 void StoryWriter::Write(const Blocks& blocks, const SectionElement& section) {
+    int depth = 0;
     for (const Block& block : blocks) {
-        if (const auto* paragraph = std::get_if<Paragraph>(&block)) WriteParagraph(*paragraph, section);
-        if (const auto* table = std::get_if<std::unique_ptr<Table>>(&block)) WriteTable(**table);
+        const auto* paragraph = std::get_if<Paragraph>(&block);
+        const auto* table = std::get_if<std::unique_ptr<Table>>(&block);
+        const Frames* frames = paragraph ? &paragraph->frames : table ? &(*table)->frames : nullptr;
+        if (frames) OpenFrames(*frames, depth);
+        if (paragraph) WriteParagraph(*paragraph, section);
+        if (table) WriteTable(**table);
         if (const auto* raw = std::get_if<RawBlock>(&block)) WriteRaw(raw->xml);
+        if (frames) CloseFrames(frames->closes, depth);
     }
+    CloseFrames(depth, depth);
     const auto* last = blocks.empty() ? nullptr : std::get_if<Paragraph>(&blocks.back());
     if (!last || (last->section && section)) xml_.Empty("w:p");
 }
@@ -126,6 +155,7 @@ void StoryWriter::WriteContent(const Paragraph& paragraph) {
         }
     }
     writeAnchorsUpTo(std::string_view::npos);
+    if (!around_.empty()) CloseAround(around_.front().first);
 }
 
 void StoryWriter::WriteCharacters(std::string_view text, FormatId format) {
@@ -178,10 +208,40 @@ void StoryWriter::WriteBreak(std::string_view type) {
 }
 
 void StoryWriter::WriteAnchor(const Anchor& anchor) {
+    if (anchor.kind == Anchor::Kind::Alone) return WriteRaw(anchor.xml);
+    if (anchor.kind == Anchor::Kind::Around)
+        return anchor.isStart ? OpenAround(anchor) : CloseAround(anchor.id);
     if (anchor.isStart && !TakeBookmarkName(anchor.name)) state_.droppedBookmarks.insert(anchor.id);
     if (state_.droppedBookmarks.contains(anchor.id)) return;
     if (anchor.isStart) WriteBookmarkStart(anchor.id, anchor.name);
     if (!anchor.isStart) WriteBookmarkEnd(anchor.id);
+}
+
+void StoryWriter::OpenAround(const Anchor& anchor) {
+    const ElementTags tags = TagsOf(anchor.xml);
+    WriteRaw(tags.opening);
+    around_.emplace_back(anchor.id, tags.closing);
+}
+
+/// Closes what stands inside too: an element ends with the paragraph, and with one around it.
+void StoryWriter::CloseAround(int id) {
+    const auto wanted = std::ranges::find(around_, id, &std::pair<int, std::string_view>::first);
+    for (auto left = around_.end() - wanted; left > 0; --left) {
+        xml_.Raw(around_.back().second);
+        around_.pop_back();
+    }
+}
+
+void StoryWriter::OpenFrames(const Frames& frames, int& depth) {
+    for (const std::string& control : frames.opens) {
+        const std::string_view xml = control.empty() ? kPlainControl : std::string_view(control);
+        WriteRaw(TagsOf(xml).opening);
+        ++depth;
+    }
+}
+
+void StoryWriter::CloseFrames(int closes, int& depth) {
+    for (; closes > 0 && depth > 0; --closes, --depth) xml_.Raw(TagsOf(kPlainControl).closing);
 }
 
 bool StoryWriter::TakeBookmarkName(std::string_view name) {

@@ -79,6 +79,10 @@ class StoryWriter {
     void WriteSpecial(char special, FormatId format);
     void WriteBreak(std::string_view type);
     void WriteAnchor(const Anchor& anchor);
+    void OpenAround(const Anchor& anchor);
+    void CloseAround(int id);
+    void OpenFrames(const Frames& frames, int& depth);
+    void CloseFrames(int closes, int& depth);
     void WriteBookmarkStart(int id, std::string_view name);
     void WriteBookmarkEnd(int id);
     /// Whether no bookmark had the name before.
@@ -107,6 +111,7 @@ class StoryWriter {
     const std::vector<InlineObject>* objects_ = nullptr;
     std::size_t nextObject_ = 0;
     bool inRun_ = false;
+    std::vector<std::pair<int, std::string_view>> around_;  ///< the open elements' ids and closing tags
 };
 
 }  // namespace quillmark::word::docx::write

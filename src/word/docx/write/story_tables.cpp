@@ -161,9 +161,14 @@ void StoryWriter::WriteTable(const Table& table) {
         xml_.Close();
     }
     xml_.Close();
+    int depth = 0;
     for (const TableRow& row : table.rows) {
-        if (HasCells(row)) WriteRow(table, row);
+        if (!HasCells(row)) continue;
+        OpenFrames(row.frames, depth);
+        WriteRow(table, row);
+        CloseFrames(row.frames.closes, depth);
     }
+    CloseFrames(depth, depth);
     xml_.Close();
 }
 
@@ -174,10 +179,14 @@ void StoryWriter::WriteRow(const Table& table, const TableRow& row) {
     }
     xml_.Raw(RowProperties(row));
     std::size_t column = ColumnsBefore(row);
+    int depth = 0;
     for (const TableCell& cell : row.cells) {
+        OpenFrames(cell.frames, depth);
         WriteCell(cell, WidthOf(table.grid, column, cell.span));
+        CloseFrames(cell.frames.closes, depth);
         column += static_cast<std::size_t>(std::max(cell.span, 1));
     }
+    CloseFrames(depth, depth);
     xml_.Close();
 }
 

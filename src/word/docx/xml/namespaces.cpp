@@ -37,15 +37,14 @@ constexpr std::array kStrictNames = {
     StrictName{"m",   "http://purl.oclc.org/ooxml/officeDocument/math"},
 };
 
-/// What a document is read without: marks of tools, of review and of former states.
-constexpr std::array<std::string_view, 27> kDroppedElements = {
-    "w:proofErr", "w:lastRenderedPageBreak", "w:permStart", "w:permEnd", "w:commentRangeStart",
-    "w:commentRangeEnd", "w:commentReference", "w:annotationRef", "w:moveFromRangeStart",
+/// What a document is read without: marks of tools, and of former states that no page shows.
+constexpr std::array<std::string_view, 21> kDroppedElements = {
+    "w:proofErr", "w:lastRenderedPageBreak", "w:permStart", "w:permEnd", "w:moveFromRangeStart",
     "w:moveFromRangeEnd", "w:moveToRangeStart", "w:moveToRangeEnd", "w:customXmlInsRangeStart",
     "w:customXmlInsRangeEnd", "w:customXmlDelRangeStart", "w:customXmlDelRangeEnd",
     "w:customXmlMoveFromRangeStart", "w:customXmlMoveFromRangeEnd", "w:customXmlMoveToRangeStart",
-    "w:customXmlMoveToRangeEnd", "w:rPrChange", "w:pPrChange", "w:sectPrChange", "w:tblPrChange",
-    "w:trPrChange", "w:tcPrChange", "w:tblGridChange",
+    "w:customXmlMoveToRangeEnd", "w:sectPrChange", "w:tblPrChange", "w:trPrChange", "w:tcPrChange",
+    "w:tblGridChange",
 };
 
 /// Drawings that a reader of this project's documents may be trusted to know.
@@ -113,6 +112,7 @@ class Normaliser {
 
     std::vector<Declared> scope_;
     std::ptrdiff_t lastFound_ = -1;  ///< most names in a row have one prefix
+    bool inControl_ = false;         ///< in a content control's properties
     std::map<std::string, std::string, std::less<>> uriByPrefix_;
 };
 
@@ -185,7 +185,8 @@ Fate Normaliser::FateOf(std::string_view name, bool isAttribute, std::string& ne
     if (prefix == "xml" || (prefix.empty() && isAttribute)) return Fate::Keep;
     const Declared* declared = Find(prefix);
     if (!declared || declared->usual.empty()) return prefix.empty() ? Fate::Keep : Fate::Drop;
-    if (declared->ignorable) return Fate::Drop;
+    // A check box and a frame's look are told in names that older programs may skip.
+    if (declared->ignorable && !(inControl_ && IsUsualPrefix(declared->usual))) return Fate::Drop;
     if (declared->usual == prefix) return Fate::Keep;
     newName = fmt::format("{}:{}", declared->usual, local);
     return Fate::Rename;
@@ -286,8 +287,11 @@ pugi::xml_node Normaliser::Child(pugi::xml_node child) {
     } else if (IsNamed(child, "mc:AlternateContent")) {
         next = Alternatives(child);
     } else {
+        const bool wasInControl = inControl_;
+        inControl_ = inControl_ || IsNamed(child, "w:sdtPr");
         Attributes(child);
         Children(child);
+        inControl_ = wasInControl;
     }
     Truncate(outer);
     return next;

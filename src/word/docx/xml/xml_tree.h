@@ -21,8 +21,8 @@ class XmlDamage : public std::runtime_error {
 /// Names bear the usual prefixes of their namespaces (w, r, wp, a, ...), whatever the file calls them;
 /// namespaces that this project does not know keep a prefix of their own. Declarations are gone. Of
 /// compatibility markup the ignorable is dropped and alternatives are decided, but for drawings in runs,
-/// whose alternatives stay together. Marks of proofing, revisions' numbers, comments and the former state
-/// of changed properties are dropped. Texts are UTF-8 without control characters.
+/// whose alternatives stay together. Marks of proofing, revisions' numbers, the ends of moved text and the
+/// former state of tables and sections are dropped. Texts are UTF-8 without control characters.
 class XmlTree {
  public:
     /// Throws XmlDamage for text that is no XML, and for trees too deep or too large.
