@@ -131,12 +131,20 @@ StyleImport::StyleImport(const StyleSheet& sheet, const std::set<std::string, st
     int number = 1;
     Family family = Render(number);
     while (!Fits(family)) family = Render(++number);
-    for (auto& [id, style] : family) {
+    for (const std::string& id : BasesFirst()) {
+        StyleDefinition& style = family.at(id);
         newIds_[id] = style.id;
         const bool isThere =
             std::ranges::find(target_.styles, style.id, &StyleDefinition::id) != target_.styles.end();
         if (!isThere) target_.styles.push_back(std::move(style));
     }
+}
+
+/// Not every program inherits from a style that comes later.
+std::vector<std::string> StyleImport::BasesFirst() const {
+    std::vector<std::string> ids(wanted_.begin(), wanted_.end());
+    std::ranges::stable_sort(ids, {}, [&](const std::string& id) { return sheet_.Chain(id).size(); });
+    return ids;
 }
 
 void StyleImport::AddWithBases(std::string_view id) {

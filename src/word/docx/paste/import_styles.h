@@ -4,6 +4,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "word/docx/paste/import_sheet.h"
 
@@ -32,6 +33,7 @@ class StyleImport {
 
     void AddWithBases(std::string_view id);
     void TakeByName();
+    std::vector<std::string> BasesFirst() const;
     Family Render(int number) const;
     StyleDefinition RenderStyle(const StyleSheet::Style& style, int number) const;
     void Bake(pugi::xml_node style) const;
