@@ -22,7 +22,7 @@ WHO = "<dc:creator>A. Clerk</dc:creator><dc:date>2024-03-01T10:00:00</dc:date>"
 
 def flat(body, master="", layouts="", tracked=""):
     return (
-        f'<office:document {SPACES} office:version="1.3" office:mimetype="application/vnd.oasis.opendocument.text">'
+        f'<?xml version="1.0" encoding="UTF-8"?><office:document {SPACES} office:version="1.3" office:mimetype="application/vnd.oasis.opendocument.text">'
         f"<office:automatic-styles>{STYLES}"
         '<style:page-layout style:name="Up"><style:page-layout-properties fo:page-width="8.5in" fo:page-height="11in" '
         'fo:margin="1in"/><style:header-style/><style:footer-style/></style:page-layout>'
@@ -83,6 +83,7 @@ def make(folder, scratch):
         (scratch / f"office-{name}.html").write_text(f"<html><body>{text}</body></html>", "utf-8")
     office = ["soffice", f"-env:UserInstallation=file://{scratch}/profile", "--headless"]
     writer = ["--convert-to", "docx:MS Word 2007 XML", "--outdir", str(folder)]
-    subprocess.run(office + writer + [str(f) for f in sorted(scratch.glob("*.fodt"))], check=True)
+    subprocess.run(office + ["--infilter=OpenDocument Text Flat XML"] + writer +
+                   [str(f) for f in sorted(scratch.glob("*.fodt"))], check=True)
     subprocess.run(office + ["--infilter=HTML (StarWriter)"] + writer + [str(f) for f in sorted(scratch.glob("*.html"))],
                    check=True)

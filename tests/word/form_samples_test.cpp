@@ -75,6 +75,10 @@ Contents ContentsOf(const std::string& bytes) {
     return contents;
 }
 
+std::filesystem::path SampleFolder() {
+    return quillmark::test::SourceFolder() / "tests/word/form_samples";
+}
+
 std::string WithValues(std::string text) {
     constexpr std::pair<std::string_view, std::string_view> kValues[] = {
         {"[seller 1 name]", "Ann & Bo"}, {"[buyer 1 name]", "Cy"}, {"[LOT FEE]", "250"}};
@@ -104,8 +108,7 @@ class FormSample : public testing::TestWithParam<std::string>, protected EngineS
 };
 
 TEST_P(FormSample, HoldsAfterTheMergeWhatItHeldBefore) {
-    const std::filesystem::path file =
-        std::filesystem::path(QUILLMARK_SOURCE_DIR) / "tests/word/form_samples" / GetParam();
+    const std::filesystem::path file = SampleFolder() / GetParam();
     const Contents before = ContentsOf(quillmark::test::ReadBytes(file));
     Merge(file.string());
     ExpectWhole();
@@ -126,8 +129,7 @@ TEST_P(FormSample, HoldsAfterTheMergeWhatItHeldBefore) {
 
 std::vector<std::string> Samples() {
     std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(std::filesystem::path(QUILLMARK_SOURCE_DIR) /
-                                                                 "tests/word/form_samples"))
+    for (const auto& entry : std::filesystem::directory_iterator(SampleFolder()))
         names.push_back(entry.path().filename().string());
     std::ranges::sort(names);
     return names;
