@@ -1,18 +1,22 @@
-# What an installed Quillmark consists of, and the Debian package that `cpack` makes of it. On Windows and macOS only
-# the programs are installed.
+# What an installed Quillmark consists of, and the Debian package that `cpack` makes of it. Windows has its own
+# (QuillmarkWindows.cmake); on macOS only the programs are installed.
 include(GNUInstallDirs)
 set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)  # installing needs the target package_contents, not tests and benchmarks
 set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 
 add_custom_target(package_contents)
+if(WIN32)
+  include(cmake/QuillmarkWindows.cmake)
+  return()
+endif()
 foreach(program quillmark-cli quillmark quillmark-preview)
   if(TARGET ${program})
     add_dependencies(package_contents ${program})
     install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
   endif()
 endforeach()
-if(NOT UNIX OR APPLE)
+if(APPLE)
   return()
 endif()
 

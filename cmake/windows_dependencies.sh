@@ -44,7 +44,7 @@ else
     work=$prefix/work
     mkdir -p "$prefix/include" "$prefix/lib/pkgconfig" "$prefix/share/cmake"
 fi
-mkdir -p "$work/lists/partial" "$work/cache/archives/partial"
+mkdir -p "$work/lists/partial" "$work/cache/archives/partial" "$prefix/share/licenses"
 prefix=$(cd "$prefix" && pwd)
 work=$(cd "$work" && pwd)
 
@@ -75,17 +75,26 @@ unpack() {
     rm -rf "$work/unpacking" && mkdir "$work/unpacking"
     (cd "$work/unpacking" && own_apt source "$1${2:+=$2}" && mv ./*/ "$work/$1")
     rm -rf "$work/unpacking"
+    cp "$work/$1/debian/copyright" "$prefix/share/licenses/$1.txt"
+}
+
+# build_with_cmake PACKAGE TARGET OPTION...: in $work/PACKAGE-build, ready to be installed below $prefix.
+build_with_cmake() {
+    package=$1
+    target=$2
+    shift 2
+    unpack "$package"
+    cmake -S "$work/$package" -B "$work/$package-build" -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
+        -DQUILLMARK_WINDOWS_PREFIX="$prefix" -DCMAKE_INSTALL_PREFIX="$prefix" -DCMAKE_INSTALL_LIBDIR=lib \
+        -DCMAKE_BUILD_TYPE=Release -DCMAKE_C_FLAGS=-w -DBUILD_SHARED_LIBS=OFF "$@"
+    cmake --build "$work/$package-build" --parallel "$jobs" --target "$target"
 }
 
 # install_with_cmake PACKAGE OPTION...
 install_with_cmake() {
     package=$1
     shift
-    unpack "$package"
-    cmake -S "$work/$package" -B "$work/$package-build" -DCMAKE_TOOLCHAIN_FILE="$toolchain" \
-        -DQUILLMARK_WINDOWS_PREFIX="$prefix" -DCMAKE_INSTALL_PREFIX="$prefix" -DCMAKE_INSTALL_LIBDIR=lib \
-        -DCMAKE_BUILD_TYPE=Release -DCMAKE_C_FLAGS=-w -DBUILD_SHARED_LIBS=OFF "$@"
-    cmake --build "$work/$package-build" --parallel "$jobs"
+    build_with_cmake "$package" all "$@"
     cmake --install "$work/$package-build"
 }
 
@@ -135,9 +144,14 @@ install_with_cmake libzip -DENABLE_COMMONCRYPTO=OFF -DENABLE_GNUTLS=OFF -DENABLE
     -DBUILD_TOOLS=OFF -DBUILD_REGRESS=OFF -DBUILD_EXAMPLES=OFF -DBUILD_DOC=OFF
 describe libzip "-lzip -lz"
 
-install_with_cmake libjpeg-turbo -DENABLE_SHARED=OFF -DWITH_TURBOJPEG=OFF -DWITH_SIMD=OFF
-install_with_cmake qpdf -DBUILD_STATIC_LIBS=ON -DUSE_IMPLICIT_CRYPTO=OFF -DREQUIRE_CRYPTO_NATIVE=ON \
-    -DCMAKE_CXX_FLAGS=-w -DINSTALL_EXAMPLES=OFF
+# Of these two the libraries alone: their programs and tests take longer than all the rest.
+build_with_cmake libjpeg-turbo jpeg-static -DENABLE_SHARED=OFF -DWITH_TURBOJPEG=OFF -DWITH_SIMD=OFF
+cp "$work/libjpeg-turbo-build/libjpeg.a" "$prefix/lib/"
+cp "$work"/libjpeg-turbo/j*lib.h "$work/libjpeg-turbo/jmorecfg.h" "$work/libjpeg-turbo/jerror.h" \
+    "$work/libjpeg-turbo-build/jconfig.h" "$prefix/include/"
+build_with_cmake qpdf libqpdf -DCMAKE_CXX_FLAGS=-w -DUSE_IMPLICIT_CRYPTO=OFF -DREQUIRE_CRYPTO_NATIVE=ON
+cp "$work/qpdf-build/libqpdf/libqpdf.a" "$prefix/lib/"
+cp -r "$work/qpdf/include/qpdf" "$prefix/include/"
 describe libqpdf "-lqpdf -ljpeg -lz"
 
 cp -r /usr/include/CLI /usr/include/nlohmann "$prefix/include/"
