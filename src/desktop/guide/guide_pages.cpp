@@ -15,7 +15,7 @@ const std::vector<std::string_view>& GuidePages() {
         "index",      "first-document", "firm-defaults", "naming",    "documents",     "gallery",
         "packages",   "custom-forms",   "grid",          "amounts",   "address-books", "schedule-a",
         "calculator", "create",         "files",         "templates", "field-list",    "closing-statement",
-        "messages",   "keyboard",       "command-line"};
+        "messages",   "keyboard",       "command-line",  "windows"};
     return pages;
 }
 
