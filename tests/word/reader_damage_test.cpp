@@ -1,3 +1,4 @@
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -75,6 +76,21 @@ TEST(ReaderDamage, BombsAreRefused) {
     zip::ZipReader many(WithPart("a", "b"), "f", {.totalBytes = 700});
     EXPECT_THROW(for (int n = 0; n < 10; ++n) many.Read("[Content_Types].xml"), AutomationError);
     EXPECT_THROW(zip::ZipReader(WithPart("a", "b"), "f", {.entries = 3}), AutomationError);
+}
+
+TEST(ReaderDamage, AHeaderOfManySectionsCountsAsOftenAsItIsRead) {
+    test::BareDocx docx;
+    std::mt19937 random(1);
+    for (int section = 0; section < 900; ++section)
+        docx.body += fmt::format(
+            R"(<w:p w:rsidR="{:x}"><w:pPr><w:sectPr><w:headerReference r:id="rId9"/></w:sectPr></w:pPr></w:p>)",
+            random());
+    docx.relationships = R"(<Relationship Id="rId9" Type="t/header" Target="header.xml"/>)";
+    docx.extraPartName = "word/header.xml";
+    docx.extraPart = R"(<w:hdr xmlns:w="http://schemas.openxmlformats.org/wordprocessingml/2006/main">)";
+    for (int n = 0; n < 1000; ++n) docx.extraPart += fmt::format(R"(<w:p w:rsidR="{:x}"/>)", random());
+    docx.extraPart += "</w:hdr>";
+    ExpectDamage(docx.Bytes(), "more than any document");
 }
 
 TEST(ReaderDamage, PartsThatLeadToEachOtherEnd) {

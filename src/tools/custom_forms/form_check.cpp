@@ -96,11 +96,29 @@ class FormCheck {
     void CheckParagraph(const docx::Paragraph& paragraph, const std::string& place) {
         CheckText(paragraph.text, place);
         CheckFonts(paragraph, place);
+        CheckReview(paragraph, place);
         for (const docx::InlineObject& object : paragraph.objects) {
             const auto* raw = std::get_if<docx::RawInline>(&object);
             if (raw && raw->xml.find("w:txbxContent") != raw->xml.npos)
                 CheckXml(raw->xml, "a text box at " + place);
         }
+    }
+
+    /// What others wrote on the form is in the document of a job too.
+    void CheckReview(const docx::Paragraph& paragraph, const std::string& place) {
+        const auto tell = [&](std::string_view what) {
+            findings_.push_back({place, fmt::format("{}; a job's document shows it too", what), false});
+        };
+        const auto holds = [&](docx::Anchor::Kind kind, std::string_view element) {
+            return std::ranges::any_of(paragraph.anchors, [&](const docx::Anchor& anchor) {
+                return anchor.kind == kind && anchor.xml.find(element) != anchor.xml.npos;
+            });
+        };
+        using Kind = docx::Anchor::Kind;
+        if (holds(Kind::Alone, "<w:commentReference")) tell("a comment stands here");
+        const bool isChanged = holds(Kind::Alone, "<w:del") || holds(Kind::Around, "<w:ins") ||
+                               !document_->paraFormats[paragraph.format].markReview.empty();
+        if (isChanged) tell("a tracked change stands here");
     }
 
     void CheckXml(const std::string& xml, const std::string& place) {

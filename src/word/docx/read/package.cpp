@@ -17,6 +17,9 @@ constexpr std::string_view kStrictRelationships = "http://purl.oclc.org/ooxml/of
 /// A chart leads to its style, its colours and a workbook, and these lead no further.
 constexpr int kDeepestRelations = 6;
 constexpr int kMostRelations = 20'000;
+/// A document of five hundred full pages; each takes some 300 bytes by the time that it is text of the model.
+/// A part that is read several times, a header of several sections, counts as often.
+constexpr std::ptrdiff_t kMostElements = 800'000;
 
 std::string FolderOf(const std::string& part) {
     const std::size_t slash = part.rfind('/');
@@ -45,6 +48,14 @@ std::string RelationsPart(const std::string& part) {
 /// Where the part goes in a document of ours.
 std::string TargetBelowWord(const std::string& part) {
     return part.starts_with(kMainFolder) ? part.substr(kMainFolder.size()) : "../" + part;
+}
+
+/// How many tags begin an element, counted without reading the text.
+std::ptrdiff_t ElementsIn(std::string_view bytes) {
+    const auto tags = std::ranges::count(bytes, '<');
+    std::ptrdiff_t ends = 0;
+    for (auto at = bytes.find("</"); at != bytes.npos; at = bytes.find("</", at + 2)) ++ends;
+    return tags - ends;
 }
 
 }  // namespace
@@ -78,6 +89,8 @@ std::string Package::ContentType(const std::string& part) const {
 
 std::unique_ptr<xml::XmlTree> Package::Xml(const std::string& part) {
     const std::string bytes = Bytes(part);
+    elements_ += ElementsIn(bytes);
+    if (elements_ > kMostElements) Refuse("holds more than any document");
     try {
         return std::make_unique<xml::XmlTree>(bytes);
     } catch (const xml::XmlDamage& damage) {

@@ -33,7 +33,7 @@ class Package {
 
     bool Has(const std::string& part) const { return zip_.Has(part); }
     std::string Bytes(const std::string& part) { return zip_.Read(part); }
-    /// Refuses the file for XML that is damaged.
+    /// Refuses the file for XML that is damaged, and once all that was read is more than a document holds.
     std::unique_ptr<xml::XmlTree> Xml(const std::string& part);
     std::string ContentType(const std::string& part) const;
 
@@ -43,6 +43,7 @@ class Package {
     void ReadContentTypes();
 
     zip::ZipReader& zip_;
+    std::ptrdiff_t elements_ = 0;
     std::map<std::string, std::string> typeByPart_;
     std::map<std::string, std::string> typeByExtension_;
     std::map<std::string, std::vector<PackageLink>> links_;

@@ -13,8 +13,6 @@ namespace quillmark::word::docx::xml {
 namespace {
 
 constexpr std::size_t kLargestXml = std::size_t{48} << 20;
-/// A document of five hundred full pages; each takes some 300 bytes by the time that it is text of the model.
-constexpr std::ptrdiff_t kMostElements = 800'000;
 /// The declaration of white space is part of the text; without it a lone blank between two runs is lost.
 constexpr unsigned kParseOptions = pugi::parse_default | pugi::parse_ws_pcdata;
 constexpr unsigned kPrintOptions = pugi::format_raw | pugi::format_no_declaration;
@@ -50,19 +48,10 @@ double PointsOf(std::string_view unit) {
     return unit == "pc" || unit == "pi" ? 12.0 : 0.0;
 }
 
-/// How many tags begin an element, counted without reading the text.
-std::ptrdiff_t ElementsIn(std::string_view bytes) {
-    const auto tags = std::ranges::count(bytes, '<');
-    std::ptrdiff_t ends = 0;
-    for (auto at = bytes.find("</"); at != bytes.npos; at = bytes.find("</", at + 2)) ++ends;
-    return tags - ends;
-}
-
 }  // namespace
 
 XmlTree::XmlTree(std::string_view bytes) {
-    if (bytes.size() > kLargestXml || ElementsIn(bytes) > kMostElements)
-        throw XmlDamage("is larger than any document");
+    if (bytes.size() > kLargestXml) throw XmlDamage("is larger than any document");
     const pugi::xml_parse_result result = document_.load_buffer(bytes.data(), bytes.size(), kParseOptions);
     if (!result) throw XmlDamage(std::string("is no XML: ") + result.description());
     uriByPrefix_ = NormaliseNames(root());
