@@ -1,8 +1,10 @@
 #include "desktop/program.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QSettings>
 #include <QTimer>
+#include <algorithm>
 
 #include "desktop/guide/first_run_window.h"
 #include "desktop/side_windows/book_wait.h"
@@ -35,6 +37,16 @@ QSettings OwnSettings() {
     return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("quillmark"),
                      QStringLiteral("desktop"));
 }
+
+std::vector<std::string> WithFontsOfTheSystem(std::vector<std::string> fonts) {
+    for (const QString& family : QFontDatabase::families())
+        if (!QFontDatabase::isPrivateFamily(family)) fonts.push_back(Utf8(family));
+    std::ranges::sort(fonts);
+    const auto twice = std::ranges::unique(fonts);
+    fonts.erase(twice.begin(), twice.end());
+    return fonts;
+}
+
 const QString kPreviewShown = QStringLiteral("preview/shown");
 const QString kPreviewWidth = QStringLiteral("preview/width");
 const QString kTheme = QStringLiteral("look/theme");
@@ -72,6 +84,7 @@ Program::Program(LaunchOrder order) : order_(std::move(order)) {
     window_->SetTheme(OwnTheme());
     boxes_.SetParent(window_.get());
     printer_.SetParent(window_.get());
+    sheets_.SetParent(window_.get());
     shell_.SetParent(window_.get());
     dialogs_.beforeBox = [this] {
         window_->ShowState();
@@ -87,6 +100,9 @@ Machine Program::MachineAround() {
     machine.startWord = [] { return word::StartWordProcessor(word::WordProcessor::Automatic); };
     if (!order_.shared) machine.handOver = [this] { return instance_->HandOver(Shown(order_.job)); };
     machine.printer = &printer_;
+    machine.printers = &printers_;
+    machine.sheets = &sheets_;
+    machine.fonts = WithFontsOfTheSystem(std::move(machine.fonts));
     machine.programFile = ProgramFile();
     machine.waitForBooks = [this, wait = WaitForBooks()](const BooksInUse& use) mutable {
         if (!wait) wait = WaitingForBooks(window_.get());

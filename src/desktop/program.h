@@ -7,6 +7,7 @@
 #include "desktop/machine/desktop_shell.h"
 #include "desktop/machine/http_client.h"
 #include "desktop/machine/qt_printer.h"
+#include "desktop/machine/sheet_printer.h"
 #include "desktop/machine/single_instance.h"
 #include "desktop/main_window.h"
 #include "desktop/toolkit/dialogs.h"
@@ -65,6 +66,8 @@ class Program final : public QObject {
     DesktopShell shell_{system_};
     QtHttpClient http_;
     QtPrinter printer_;
+    QtPrinters printers_;
+    QtSheetPrinter sheets_{shell_};
     QtDialogs boxes_;
     ShowingDialogs dialogs_{boxes_};
     std::unique_ptr<SingleInstance> instance_;

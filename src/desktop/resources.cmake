@@ -8,4 +8,5 @@ set_source_files_properties("${sample_job}" PROPERTIES QT_RESOURCE_ALIAS "sample
 qt6_add_resources(quillmark_desktop guide PREFIX /guide BASE ${CMAKE_SOURCE_DIR}/docs/guide FILES ${guide_files})
 qt6_add_resources(quillmark_desktop icons PREFIX /icons BASE ${CMAKE_SOURCE_DIR}/packaging/icons FILES ${icon_files})
 qt6_add_resources(quillmark_desktop seeds PREFIX /seeds BASE ${CMAKE_SOURCE_DIR}/packaging/firm
-                  FILES "${sample_job}" ${CMAKE_SOURCE_DIR}/packaging/firm/package.def)
+                  FILES "${sample_job}" ${CMAKE_SOURCE_DIR}/packaging/firm/package.def
+                  ${CMAKE_SOURCE_DIR}/packaging/firm/OP236.pdf)

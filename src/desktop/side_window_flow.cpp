@@ -4,6 +4,8 @@
 #include "desktop/side_windows/browser_window.h"
 #include "desktop/side_windows/clients_window.h"
 #include "desktop/side_windows/custom_forms_dialog.h"
+#include "desktop/side_windows/envelope_dialog.h"
+#include "desktop/side_windows/op236_dialog.h"
 #include "desktop/side_windows/packages_window.h"
 #include "desktop/toolkit/text.h"
 #include "session/state/reasons.h"
@@ -20,6 +22,8 @@ void SideWindowFlow::Press(std::string_view name) {
     if (!desk_.Do([name](MainScreen& screen) { screen.Click(name); })) return;
     ShowBrowserIfOpen();
     if (name == "cmdCustom") desk_.Do([this](MainScreen& screen) { ShowCustomForms(screen, &window_); });
+    if (name == "cmdOP236") desk_.Do([this](MainScreen& screen) { ShowReturn(screen, &window_); });
+    if (name == "cmdEnvelopes") desk_.Do([this](MainScreen& screen) { ShowEnvelopes(screen, &window_); });
 }
 
 void SideWindowFlow::ShowBrowserIfOpen() {

@@ -49,6 +49,16 @@ class NoShell final : public Shell {
     std::filesystem::path home_;
 };
 
+/// One printer with three bins.
+class PicturePrinters final : public Printers {
+ public:
+    std::vector<std::string> Names() override { return {"Office Laser"}; }
+    std::string DefaultName() override { return "Office Laser"; }
+    std::vector<PrinterBin> BinsOf(const std::string&) override {
+        return {{1, "Upper tray"}, {2, "Lower tray"}, {4, "Manual feed"}};
+    }
+};
+
 void Settle() {
     for (int i = 0; i < 5; ++i) QApplication::processEvents();
 }
@@ -120,11 +130,13 @@ class Studio {
     FixedClock clock_{std::chrono::year(2026) / 3 / 9};
     ScriptedDialogs dialogs_;
     NoShell shell_{scratch_.path()};
+    PicturePrinters printers_;
     MainScreen screen_{
         scratch_.path(),
         Machine{.clock = clock_,
                 .dialogs = dialogs_,
                 .shell = shell_,
+                .printers = &printers_,
                 .startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
                 .handOver = {},
                 .programFile = {}}};
@@ -241,12 +253,38 @@ void SideWindows(const QDir& out) {
     studio.Keep(welcome, "welcome");
 }
 
+/// The return and an envelope of the sample job, on a printer of the picture's own.
+void ReturnAndEnvelope(const QDir& out) {
+    Studio studio(out);
+    studio.Do([](MainScreen& screen) { TakeFirstStep(screen, FirstStep::SampleJob); });
+    const auto press = [&](const char* name) {
+        return [&studio, name] { studio.Find<QPushButton>(name)->click(); };
+    };
+    studio.KeepModal("op236", press("cmdOP236"));
+    const auto setUp = [](QWidget& window) {
+        window.findChild<QPushButton*>(QStringLiteral("setup"))->click();
+        const auto pick = [&](const char* box, int entry) {
+            Q_EMIT window.findChild<QComboBox*>(QLatin1String(box))->activated(entry);
+        };
+        pick("cboFonts", 0);
+        pick("Combo1", 2);
+        for (const char* choice : {"Landscape", "Check1"})
+            window.findChild<QAbstractButton*>(QLatin1String(choice))->click();
+    };
+    studio.KeepModal("envelopes-setup", press("cmdEnvelopes"), setUp);
+    studio.KeepModal("envelopes", press("cmdEnvelopes"), [&](QWidget& window) {
+        setUp(window);
+        window.findChild<QPushButton*>(QStringLiteral("OK"))->click();
+    });
+}
+
 void MakeAll(const QDir& out) {
     MainScreenAndBlock(out);
     ListsAndGrid(out);
     Calculator(out);
     Settings(out);
     SideWindows(out);
+    ReturnAndEnvelope(out);
 }
 
 /// The same looks on every machine.

@@ -49,7 +49,8 @@ QHBoxLayout* Heading() {
 
 std::vector<SeedFile> SeedFiles() {
     return {{"data/" + std::string(kSampleJob) + ".dat", Carried(":/seeds/sample.dat")},
-            {"package.def", Carried(":/seeds/package.def")}};
+            {"package.def", Carried(":/seeds/package.def")},
+            {"OP236.pdf", Carried(":/seeds/OP236.pdf")}};
 }
 
 FirstRunWindow::FirstRunWindow(QWidget* parent) : SideWindow(parent, "Welcome") {

@@ -12,10 +12,8 @@ namespace quillmark::desktop {
 const std::vector<std::string_view>& GuidePages() {
     // The program's first box sends the reader to page 3, the firm's defaults.
     static const std::vector<std::string_view> pages = {
-        "index",      "first-document", "firm-defaults", "naming",    "documents",     "gallery",
-        "packages",   "custom-forms",   "grid",          "amounts",   "address-books", "schedule-a",
-        "calculator", "create",         "files",         "templates", "field-list",    "closing-statement",
-        "messages",   "keyboard",       "command-line",  "windows"};
+        "calculator",        "create",   "op236",    "envelopes", "files",       "templates", "field-list",
+        "closing-statement", "messages", "keyboard", "windows",   "command-line"};
     return pages;
 }
 
@@ -43,6 +41,8 @@ const std::vector<GuideTopic>& GuideTopics() {
         {"cmdExit",         "files"},
         {"cmdTemplate",     "templates"},
         {"cmdPrintFList",   "field-list"},
+        {"cmdOP236",        "op236"},
+        {"cmdEnvelopes",    "envelopes"},
         {"List3",           "firm-defaults"},
         {"cmdSelect",       "firm-defaults"},
         // windows beside the main screen
@@ -52,6 +52,8 @@ const std::vector<GuideTopic>& GuideTopics() {
         {"AddressEditor",   "address-books"},
         {"Calculator",      "calculator"},
         {"Clients",         "firm-defaults"},
+        {"OP236",           "op236"},
+        {"Envelopes",       "envelopes"},
     };
     // clang-format on
     return topics;

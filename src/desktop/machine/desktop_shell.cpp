@@ -17,8 +17,17 @@ namespace {
 
 constexpr std::string_view kMail = "mailto:";
 const QString kMailType = QStringLiteral("x-scheme-handler/mailto");
-const QString kDocumentType =
-    QStringLiteral("application/vnd.openxmlformats-officedocument.wordprocessingml.document");
+
+/// A file that the program makes.
+struct Kind {
+    const char* extension;
+    const char* type;
+    const char* files;  ///< as the person calls them
+};
+constexpr Kind kKinds[] = {
+    {".docx", "application/vnd.openxmlformats-officedocument.wordprocessingml.document", "Word documents"},
+    {".pdf", "application/pdf", "PDF files"},
+};
 
 /// A box with OK and one button more; true if that one was pressed.
 bool Offers(QWidget* over, const QString& title, const QString& text, const QString& offer) {
@@ -58,9 +67,13 @@ void DesktopShell::Open(const std::string& fileOrAddress) {
         const std::string_view mail = std::string_view(fileOrAddress).substr(kMail.size());
         return OfferAddress(Shown(mail.substr(0, mail.find('?'))));
     }
-    if (!Shown(fileOrAddress).endsWith(QLatin1String(".docx"), Qt::CaseInsensitive))
-        return system_.Open(fileOrAddress);
-    if (!OpensWithProgram(fileOrAddress, kDocumentType)) OfferFolder(fileOrAddress);
+    for (const Kind& kind : kKinds) {
+        if (!Shown(fileOrAddress).endsWith(QLatin1String(kind.extension), Qt::CaseInsensitive)) continue;
+        if (!OpensWithProgram(fileOrAddress, QString::fromLatin1(kind.type)))
+            OfferFolder(fileOrAddress, kind.files);
+        return;
+    }
+    system_.Open(fileOrAddress);
 }
 
 bool DesktopShell::OpensWithProgram(const std::string& fileOrAddress, const QString& type) {
@@ -73,10 +86,10 @@ bool DesktopShell::OpensWithProgram(const std::string& fileOrAddress, const QStr
     }
 }
 
-void DesktopShell::OfferFolder(const std::string& document) {
+void DesktopShell::OfferFolder(const std::string& document, const char* files) {
     const QString text =
-        QObject::tr("The document is finished:\n\n%1\n\nThis computer has no program for Word documents.")
-            .arg(Shown(document));
+        QObject::tr("The document is finished:\n\n%1\n\nThis computer has no program for %2.")
+            .arg(Shown(document), QString::fromLatin1(files));
     if (!Offers(parent_, QObject::tr("  DOCUMENT CREATED"), text, QObject::tr("Open &Folder"))) return;
     Guarded(parent_, [&] { system_.Open(TextOf(PathOf(document).parent_path())); });
 }

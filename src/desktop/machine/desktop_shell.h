@@ -33,7 +33,7 @@ class DesktopShell final : public Shell {
 
  private:
     bool OpensWithProgram(const std::string& fileOrAddress, const QString& type);
-    void OfferFolder(const std::string& document);
+    void OfferFolder(const std::string& document, const char* files);
     void OfferAddress(const QString& address);
 
     Shell& system_;

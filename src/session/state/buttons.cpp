@@ -86,7 +86,7 @@ void ResetButtons(bool offersClients, ScreenState& screen) {
     screen.cmdCustom = {"CUSTOM", " import/edit custom documents ", true, true};
     screen.cmdNameAs = {"", "", true, false};
     ShowNameAs(NameAsDoes::Rename, screen);
-    screen.cmdEnvelopes = {"envelopes", "", false, true};
+    screen.cmdEnvelopes = {"envelopes", " print envelopes ", false, true};
     screen.cmdOP236 = {"OP-236", "", false, true};
     screen.cmdPrintFList = {"  PRINT Field List", " print list of relevant fields ", true, false};
     screen.cmdSelect = {"Re-Select", "", true, offersClients};

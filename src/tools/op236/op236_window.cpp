@@ -192,7 +192,9 @@ fs::path OP236Window::FileFor(const fs::path& to) const {
 void OP236Window::FillOP236(const fs::path& to) {
     EnableButtons(false);
     try {
-        Fill(to);
+        TellMissing(Fill(to));
+        TellNotices();
+        if (to.empty()) office_.shell.Open(TextOf(*document_));
     } catch (const FormError& failure) {
         const bool isThere = failure.kind != FormError::Kind::NotThere;
         office_.dialogs.Tell("Adobe Reader",
@@ -205,20 +207,29 @@ void OP236Window::FillOP236(const fs::path& to) {
     EnableButtons(true);
 }
 
-void OP236Window::Fill(const fs::path& to) {
-    const FilledForm filled = FillPdfForm(FindExisting(office_.programFolder / kForm),
-                                          FormValues(office_.job, Entries(), office_.clock));
+/// What the form lacks.
+std::vector<std::string> OP236Window::Fill(const fs::path& to) {
+    struct Waiting {
+        explicit Waiting(const std::function<void(bool)>& w) : wait(w) { wait(true); }
+        ~Waiting() { wait(false); }
+        const std::function<void(bool)>& wait;
+    };
+    const Waiting waiting(wait_);
+    FilledForm filled = FillPdfForm(FindExisting(office_.programFolder / kForm),
+                                    FormValues(office_.job, Entries(), office_.clock));
     const fs::path file = FileFor(to);
     ReplaceFile(file, filled.bytes);
     document_ = file;
-    if (!filled.missing.empty())
-        office_.dialogs.Tell(kNote,
-                             fmt::format("This revision of {} lacks the following, which you have to fill in "
-                                         "by hand if the return asks for it:\n\n{}",
-                                         kForm, fmt::join(filled.missing, "\n")),
-                             DialogIcon::Warning);
-    TellNotices();
-    if (to.empty()) office_.shell.Open(TextOf(file));
+    return std::move(filled.missing);
+}
+
+void OP236Window::TellMissing(const std::vector<std::string>& fields) {
+    if (fields.empty()) return;
+    office_.dialogs.Tell(kNote,
+                         fmt::format("This revision of {} lacks the following, which you have to fill in by "
+                                     "hand if the return asks for it:\n\n{}",
+                                     kForm, fmt::join(fields, "\n")),
+                         DialogIcon::Warning);
 }
 
 void OP236Window::EnableButtons(bool enabled) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -38,6 +39,9 @@ class OP236Window final : public SideWindow {
     std::string Title() const override { return "Quillmark - Form OP-236 Utility"; }
     std::vector<WindowControl> Controls() const override { return controls_.All(); }
 
+    /// Called with true when the filling begins and with false when it ends, for the mouse pointer.
+    void OnWait(std::function<void(bool waits)> wait) { wait_ = std::move(wait); }
+
     /// Fills OP236.pdf of the program folder and leaves the filled copy where `to` says (a path or a folder),
     /// else beside the job's documents, under a name of its own. What fails is told in a box.
     void FillOP236(const std::filesystem::path& to = {});
@@ -61,7 +65,8 @@ class OP236Window final : public SideWindow {
     PostalAddress AddressIn(std::string_view street, std::string_view city) const;
     ReturnEntries Entries() const;
     std::filesystem::path FileFor(const std::filesystem::path& to) const;
-    void Fill(const std::filesystem::path& to);
+    std::vector<std::string> Fill(const std::filesystem::path& to);
+    void TellMissing(const std::vector<std::string>& fields);
     void EnableButtons(bool enabled);
     void TellNotices();
     void TellOlderNotices();
@@ -74,6 +79,7 @@ class OP236Window final : public SideWindow {
     PrinterChoice printers_;
     std::string printer_;  ///< of the settings of this session
     int bin_ = 0;
+    std::function<void(bool waits)> wait_ = [](bool) {};
 };
 
 }  // namespace quillmark::op236
