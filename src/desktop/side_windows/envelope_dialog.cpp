@@ -36,8 +36,8 @@ EnvelopeDialog::EnvelopeDialog(envelopes::EnvelopeWindow& model, QWidget* parent
     word_ = new QLabel(this);
     word_->setWordWrap(true);
     auto* seen = new QVBoxLayout;
-    seen->addWidget(view_, 1);
     seen->addWidget(word_);
+    seen->addWidget(view_, 1);
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(fields, 2);
     layout->addLayout(seen, 3);

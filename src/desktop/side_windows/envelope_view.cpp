@@ -60,6 +60,7 @@ void EnvelopeView::paintEvent(QPaintEvent*) {
     const double scale = Scale();
     QRectF paper(QPointF(), SheetInches(page_) * scale);
     paper.moveCenter(QRectF(rect()).center());
+    paper.moveTop(kEdge);
     painter.fillRect(paper.translated(2, 2), palette().color(QPalette::Shadow));
     painter.fillRect(paper, Qt::white);
     painter.setPen(palette().color(QPalette::Mid));

@@ -131,6 +131,9 @@ QBoxLayout* OP236Dialog::NewExemptions() {
     code->setFont(large);
     codeCaption_ = new QLabel(QStringLiteral("Exemption code:"), this);
     Text9_ = NewBox("Text9", "Citation or docket number");
+    QSizePolicy keeps = Text9_->sizePolicy();
+    keeps.setRetainSizeWhenHidden(true);  // or the list would jump
+    Text9_->setSizePolicy(keeps);
     chosen->addWidget(NewCaption("Click to select exemption code (if applicable) ...", "rtbCode"), 1);
     chosen->addWidget(codeCaption_);
     chosen->addWidget(code);

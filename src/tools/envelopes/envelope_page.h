@@ -28,11 +28,12 @@ Address AddressOf(const Job& job, const Addressee& addressee);
 inline constexpr double kMostIndent = 6;
 inline constexpr double kUsualIndent = 2.75;
 
+/// What a setup begins with where none has been kept: an envelope that lies as one reads it.
 struct EnvelopeSettings {
     std::string printer;
     int bin = 0;
-    std::string font;
-    bool landscape = false;
+    std::string font = "Arial";
+    bool landscape = true;
     bool returnAddress = false;
     double indent = kUsualIndent;  ///< inches
 };
