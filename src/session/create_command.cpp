@@ -12,6 +12,7 @@
 #include "production/run/dispatch.h"
 #include "selection/relevant_fields.h"
 #include "session/holes.h"
+#include "session/job_check.h"
 #include "session/state/buttons.h"
 #include "session/state/info_bar.h"
 #include "session/state/ready.h"
@@ -50,8 +51,10 @@ std::string TextOfDocument(CreateRun& run) {
 }
 
 /// What the guidance bar adds where the document is not whole; empty where it is.
-std::string Gaps(const std::vector<std::string>& holes, const std::vector<std::string>& documents) {
+std::string Gaps(const std::vector<std::string>& holes, const std::vector<std::string>& documents,
+                 const std::vector<std::string>& pictureFaults) {
     std::string text;
+    for (const std::string& fault : pictureFaults) text += ".  " + fault;
     if (!documents.empty()) text += fmt::format(".  No text yet for:  {}", fmt::join(documents, "; "));
     if (!holes.empty()) text += fmt::format(".  Nothing fills:  {}", fmt::join(holes, ", "));
     return text;
@@ -77,6 +80,7 @@ void CreateCommand::Run() {
     lastDocument_.reset();
     holes_.clear();
     emptyDocuments_.clear();
+    pictureFaults_.clear();
     screen_.creating = true;
     try {
         EndFormerRun();
@@ -217,7 +221,7 @@ void CreateCommand::ShowAsMade() {
     ShowCreate(CreateDoes::ReMake, screen_);
     screen_.cmdEnvelopes.enabled = screen_.cmdOP236.enabled = !screen_.testMode;
     ShowInfo({{" Edit fields and Re-Make/Save OR click 'RESET' to clear & start over", InfoColour::Blue},
-              {Gaps(holes_, emptyDocuments_), InfoColour::Red}},
+              {Gaps(holes_, emptyDocuments_, pictureFaults_), InfoColour::Red}},
              screen_);
     machine_.LetRepaint();
 }
@@ -252,6 +256,7 @@ void CreateCommand::EndFailedRun(const CreateError& failure) {
 
 void CreateCommand::LookForGaps(CreateRun& run) {
     run.Attempt([&] { holes_ = MarkersNobodyAsksFor(TextOfDocument(run), screen_); });
+    pictureFaults_ = PictureFaults(screen_);
     for (const JobListLine& line : screen_.List2)
         if (StaysEmpty(line.name)) emptyDocuments_.push_back(line.name);
 }

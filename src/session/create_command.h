@@ -81,6 +81,7 @@ class CreateCommand {
     std::optional<std::filesystem::path> lastDocument_;
     std::vector<std::string> holes_;
     std::vector<std::string> emptyDocuments_;
+    std::vector<std::string> pictureFaults_;
 };
 
 }  // namespace quillmark

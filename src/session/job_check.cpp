@@ -1,6 +1,7 @@
 #include "session/job_check.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <fmt/format.h>
 
@@ -9,6 +10,7 @@
 #include "core/text_conversions.h"
 #include "entry/smart_fields.h"
 #include "entry/tagged_values.h"
+#include "production/kit/field_pictures.h"
 #include "production/run/dispatch.h"
 
 namespace quillmark {
@@ -53,11 +55,22 @@ std::vector<std::string> DoubtfulValues(const JobInHand& hand) {
         };
         if (IsNoAmount(n, value)) doubt("which is no amount");
         if (IsNoPlace(n, job)) doubt("which is in no county");
-        if (value == kImageLiteral && job.FieldPictures[static_cast<std::size_t>(n)].empty())
-            doubts.push_back(fmt::format("{} is a picture, but its file \"{}_{}.bmp\" is missing",
-                                         FieldMarker(n), job.name, n));
     }
+    std::ranges::move(PictureFaults(hand), std::back_inserter(doubts));
     return doubts;
+}
+
+std::vector<std::string> PictureFaults(const JobInHand& hand) {
+    std::vector<std::string> faults;
+    const Job& job = hand.job;
+    for (int n = 1; n <= kFields; ++n) {
+        if (!job.txtField(n).relevant || job.D(n) != kImageLiteral) continue;
+        const std::string fault = FaultOfPicture(job.FieldPictures[static_cast<std::size_t>(n)]);
+        if (!fault.empty())
+            faults.push_back(
+                fmt::format("{} is a picture, but {} (\"{}_{}.bmp\")", FieldMarker(n), fault, job.name, n));
+    }
+    return faults;
 }
 
 std::vector<std::string> UnknownDocuments(const JobInHand& hand) {

@@ -8,8 +8,11 @@
 namespace quillmark {
 
 /// Values of the job's relevant fields that cannot be what they stand for: an amount that is no number, a
-/// place that is no town, a picture whose file is missing. One sentence each, in the order of the fields.
+/// place that is no town; and the faults of pictures. One sentence each, in the order of the fields.
 std::vector<std::string> DoubtfulValues(const JobInHand& hand);
+
+/// Pictures of the job's relevant fields whose file is missing or cannot be read. One sentence each.
+std::vector<std::string> PictureFaults(const JobInHand& hand);
 
 /// Entries of the job list that name no document at all.
 std::vector<std::string> UnknownDocuments(const JobInHand& hand);

@@ -1,5 +1,6 @@
 #include "cli/make.h"
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 
 #include <sstream>
@@ -113,6 +114,24 @@ TEST_F(Making, CheckNamesWhatIsWrongAndMakesNothing) {
     EXPECT_TRUE(fs::is_empty(made.path()));
     WriteBytes(program / "data/Lot.dat", Job("\"201\",\"Lot 7.\"\r\n\"202\",\"None.\"\r\n"));
     EXPECT_EQ(MakeAsked({"--check", "--documents", "Schedule A", "Lot"}), 0) << err.str();
+}
+
+TEST_F(Making, APictureThatCannotBeReadIsNamedAndLeavesItsMarker) {
+    WriteBytes(program / "data/Lot.dat",
+               Job("\"201\",\"IMAGE -> (Select & R-Click for options)\"\r\n\"202\",\"None.\"\r\n"));
+    const auto named = [&](std::string_view fault) {
+        return HasSubstr(
+            fmt::format("Lot: [sched A description] is a picture, but {} (\"Lot_201.bmp\")", fault));
+    };
+    EXPECT_EQ(MakeAsked({"--check", "--documents", "Schedule A", "Lot"}), 1);
+    EXPECT_THAT(err.str(), named("its file is missing"));
+    fs::create_directories(program / "data/images");
+    WriteBytes(program / "data/images/Lot_201.bmp", "BM of a drawing");
+    EXPECT_EQ(MakeAsked({"--check", "--documents", "Schedule A", "Lot"}), 1);
+    EXPECT_THAT(err.str(), named("the BMP picture ends too early"));
+    EXPECT_EQ(Make({"--documents", "Schedule A", "--trace", TextOf(made / "trace.txt"), "Lot"}), 0);
+    EXPECT_THAT(err.str(), named("the BMP picture ends too early"));
+    EXPECT_THAT(ReadBytes(made / "trace.txt"), HasSubstr("TypeText \"[sched A description]"));
 }
 
 TEST_F(Making, PaperAndDateComeFromTheCommandLine) {

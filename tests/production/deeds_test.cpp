@@ -116,10 +116,16 @@ TEST(Deeds, ScheduleA) {
 TEST(Deeds, ScheduleAOfAPicture) {
     Job job = SampleDeal();
     job.SetField(SchedADescription, kImageLiteral);
-    job.FieldPictures[SchedADescription] = "BM picture";
+    job.FieldPictures[SchedADescription] =
+        std::string("BM\x3a\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\1\0\0\0\1\0\0\0\1\0\x18\0", 30) +
+        std::string(28, '\0');
     const std::string reading = Reading("Schedule A", job);
-    EXPECT_NE(reading.find("{BM picture}"), std::string::npos) << reading;
+    EXPECT_NE(reading.find("{Legal description of 14 Chestnut Lane, Branford, CT 06405}"), std::string::npos)
+        << reading;
     EXPECT_EQ(reading.find("IMAGE"), std::string::npos) << reading;
+    job.FieldPictures[SchedADescription] = "BM of a drawing";
+    EXPECT_NE(Reading("Schedule A", job).find("[sched A description]"), std::string::npos)
+        << "one that cannot be read leaves its marker";
 }
 
 TEST(Deeds, NoticeOfJointTenantsOnlyForTheBareWords) {

@@ -162,7 +162,7 @@ Value RecordingWord::Call(const std::string& path, const std::string& member, Ar
         TypeAt(range ? static_cast<const Node&>(**range).path() : "Selection.Range",
                "{" + word::docx::objects::ReadPictureSize(bytes).description + "}");
     } else if (full == "Selection.Paste") {
-        TypeText("{" + clipboard_->picture() + "}");
+        TypeText("{" + clipboard_->description() + "}");
     } else if (full == "Selection.Paragraphs.TabStops.Add") {
         paragraph.tabs.insert(Number(arguments.front().value));
     } else if (full.starts_with("Selection.Paragraphs.TabStops(") && member == "Clear") {

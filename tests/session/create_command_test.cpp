@@ -187,11 +187,16 @@ TEST_F(CreateTest, AValueThatItsFieldCannotTakeKeepsTheRunFromStarting) {
 
 TEST_F(CreateTest, TheGuidanceBarNamesWhatTheDocumentLacks) {
     std::filesystem::remove(scratch / "defaults.fld");
-    WriteJob("\"021\",\"Walter Hollis\"\r\n",
-             "\"000\",\"Deed / Warranty\"\r\n\"000\",\"Notice Of Lease\"\r\n");
+    WriteJob("\"021\",\"Walter Hollis\"\r\n\"201\",\"IMAGE -> (Select & R-Click for options)\"\r\n",
+             "\"000\",\"Deed / Warranty\"\r\n\"000\",\"Schedule A\"\r\n\"000\",\"Notice Of Lease\"\r\n");
+    std::filesystem::create_directories(scratch / "data/images");
+    WriteBytes(scratch / "data/images/Hollis_201.bmp", "a letter");
     Open();
     EXPECT_EQ(FindRow(3, State()), nullptr) << "a firm without defaults is never asked for its attorney";
     Create();
+    EXPECT_THAT(State().picInfo,
+                HasSubstr(".  [sched A description] is a picture, but the picture is none of the "
+                          "kinds PNG, JPEG and BMP (\"Hollis_201.bmp\")"));
     EXPECT_THAT(State().picInfo, HasSubstr(".  No text yet for:  Notice Of Lease"));
     EXPECT_THAT(State().picInfo, HasSubstr(".  Nothing fills:  [seller atty]"));
     EXPECT_THAT(State().picInfo, Not(HasSubstr("[buyer 1 name]"))) << "the grid asks for it";

@@ -94,8 +94,32 @@ TEST_F(EngineObjects, PicturesHaveTheirOwnSizeUntilTheTextIsTooNarrow) {
     EXPECT_NEAR(static_cast<double>(PictureAt(0).widthEmu), 914400, 500) << "an inch at 300 dots";
     EXPECT_EQ(PictureAt(1).widthEmu, 468 * 12700) << "the text's width";
     EXPECT_EQ(PictureAt(1).heightEmu, 468 * 12700 / 20);
-    EXPECT_EQ(PictureAt(1, 1).heightEmu, 648 * 12700) << "the page's height";
+    EXPECT_NEAR(static_cast<double>(PictureAt(1, 1).heightEmu), (648 - 13.8) * 12700, 100)
+        << "the page's height but for the line's own";
     EXPECT_EQ(PictureAt(0).extension, "png");
+}
+
+TEST_F(EngineObjects, APictureKeepsWithinTheIndentsAndLeavesRoomForTheHeadingAboveIt) {
+    quillmark::test::WriteBytes(folder / "page.png", PngBytes(850, 1300, 100));
+    const std::shared_ptr<Hints> hints = docx::objects::HintsOf(app.Reach());
+    sel.Font.Size = 11;
+    hints->SetRole(Role::Title);
+    sel.TypeText("\rSCHEDULE\r\r\r");
+    hints->SetRole(Role::Body);
+    sel.Paragraphs.LeftIndent = 36;
+    sel.Paragraphs.RightIndent = 18;
+    sel.InlineShapes.AddPicture("page.png");
+    const docx::Picture& page = PictureAt(4);
+    EXPECT_NEAR(static_cast<double>(page.heightEmu) / static_cast<double>(page.widthEmu), 1300 / 850.0,
+                0.001);
+    const double height = static_cast<double>(page.heightEmu) / 12700;
+    EXPECT_LT(height, 648 - 5 * 12) << "four lines of heading stand above, and its own line has letters";
+    EXPECT_GT(height, 648 - 5 * 14);
+
+    quillmark::test::WriteBytes(folder / "wide.png", PngBytes(1920, 96));
+    sel.TypeText("\r");
+    sel.InlineShapes.AddPicture("wide.png");
+    EXPECT_EQ(PictureAt(5).widthEmu, (468 - 36 - 18) * 12700);
 }
 
 TEST_F(EngineObjects, APictureThatIsNoneIsRefused) {
@@ -109,7 +133,7 @@ TEST_F(EngineObjects, APictureThatIsNoneIsRefused) {
 
 TEST_F(EngineObjects, PasteTakesWhatTheSystemPutOnTheClipboard) {
     EXPECT_EQ(ErrorOf([&] { sel.Paste(); }), error::kNotAvailable) << "nothing is on it";
-    clipboard->SetPicture(PngBytes(96, 96));
+    clipboard->SetPicture(PngBytes(96, 96), "A map");
     sel.TypeText("map: ");
     sel.Paste();
     clipboard->SetText("one\rtwo");
@@ -118,6 +142,7 @@ TEST_F(EngineObjects, PasteTakesWhatTheSystemPutOnTheClipboard) {
     sel.TypeText(" three");
     EXPECT_THAT(Texts(), ElementsAre("map: #one", "two three"));
     EXPECT_EQ(PictureAt(0).widthEmu, 914400);
+    EXPECT_EQ(PictureAt(0).description, "A map");
     EXPECT_EQ(FontAt(1).bold, true);
     clipboard->Clear();
     EXPECT_EQ(ErrorOf([&] { sel.Paste(); }), error::kNotAvailable);
@@ -154,7 +179,7 @@ TEST_F(EngineObjects, MarkersAreReplacedThroughoutADocument) {
     sel.TypeText("[seller 1 name] sells to [buyer 1 name].\r[SELLER 1 NAME] signs: [picture]");
     EXPECT_TRUE(doc.Content.Find.ReplaceAll("[seller 1 name]", "Jane Roe"));
     EXPECT_FALSE(doc.Content.Find.ReplaceAll("[no such marker]", "x"));
-    clipboard->SetPicture(PngBytes(96, 48));
+    clipboard->SetPicture(PngBytes(96, 48), {});
     EXPECT_TRUE(doc.Content.Find.ReplaceAll("[picture]", "^c"));
     EXPECT_THAT(Texts(), ElementsAre("Jane Roe sells to [buyer 1 name].", "Jane Roe signs: #"));
     sel.TypeText("!");

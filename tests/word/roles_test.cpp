@@ -101,6 +101,23 @@ TEST_F(Roles, BlocksToSignStayWholeAndTheDocumentsEndTakesNoPage) {
               "BodyText BodyText BodyText+ BodyText+ BodyText DocumentEnd DocumentEnd");
 }
 
+TEST_F(Roles, TextBelowTheSignaturesHasThemForCompanyAndItemsAreNotCutBeforeTheirBlankLine) {
+    Type(Role::Body, "First.\rSecond.\rThird.\r");
+    Type(Role::Signature, std::string(41, '_') + "\rAmy Roe\r");
+    Type(Role::Body, "\rEncl.\r");
+    sel.InsertBreak(SectionBreakNextPage);
+    sel.Range().ListFormat.ApplyListTemplate(doc.ListTemplates.Add(false));
+    sel.TypeText("An item.\v\rOne without the line.\r" + std::string(2000, 'x') + "\v\r");
+    EXPECT_EQ(Styles(),
+              "BodyText BodyText BodyText+ SignatureBlock SignatureBlock+ BodyText+ BodyText DocumentEnd "
+              "ListItem ListItem ListItem DocumentEnd")
+        << "a rule to sign on is no sentence, so the text above goes with it";
+    std::string whole;
+    for (const pugi::xml_node paragraph : Body().first_child().child("w:body").children("w:p"))
+        whole += paragraph.child("w:pPr").child("w:keepLines") ? '1' : '0';
+    EXPECT_EQ(whole, "000000001000");
+}
+
 TEST_F(Roles, StatementThatMissesItsPageByAFewLinesIsSetCloser) {
     const auto spacingOf = [](int lines) {
         EngineSession session;

@@ -1,7 +1,15 @@
 #include <gtest/gtest.h>
+#include <libdeflate.h>
 
+#include <fmt/format.h>
+
+#include <array>
+#include <map>
+#include <memory>
+#include <optional>
 #include <random>
 
+#include "word/docx/objects/bitmap.h"
 #include "word/docx/objects/picture_size.h"
 #include "word/docx/objects/pictures.h"
 #include "word/seam/automation.h"
@@ -88,6 +96,134 @@ TEST(PictureSize, DescriptionOfAPngReachesTheDocument) {
     EXPECT_NE(xml.find(R"(<wp:docPr id="1" name="Picture 1" descr="A café &amp; its door"/>)"),
               std::string::npos)
         << xml;
+}
+
+// ---- Bitmaps become PNG ----
+
+/// A bitmap of three pixels by two: red, green, blue over white, black, grey (of 255, 0 and 128), or what
+/// comes nearest in so many bits.
+std::string ColourBitmap(int bits, bool isTopDown, bool hasMasks) {
+    using Pixels = std::array<std::uint32_t, 3>;
+    const bool isPalette = bits <= 8;
+    Pixels upper = {0, 1, 2}, lower = {3, 4, 5};
+    if (bits == 16) upper = {31 << 10, 31 << 5, 31}, lower = {0x7FFF, 0, 16 << 10 | 16 << 5 | 16};
+    if (bits == 16 && hasMasks) upper = {31 << 11, 63 << 5, 31}, lower = {0xFFFF, 0, 16 << 11 | 32 << 5 | 16};
+    if (bits >= 24) upper = {0xFF0000, 0xFF00, 0xFF}, lower = {0xFFFFFF, 0, 0x808080};
+    if (bits == 32 && hasMasks) upper = {0xFF, 0xFF00, 0xFF0000};
+    const auto rowOf = [&](const Pixels& pixels) {
+        std::uint64_t packed = 0;
+        std::string row;
+        for (std::uint32_t pixel : pixels) packed = packed << bits | pixel;
+        if (bits == 4)
+            row = Big(static_cast<std::uint32_t>(packed << 4), 2);
+        else
+            for (std::uint32_t pixel : pixels) row += Little(pixel, bits / 8);
+        row.resize((row.size() + 3) / 4 * 4);
+        return row;
+    };
+    std::string masks, palette;
+    if (hasMasks && bits == 16) masks = Little(0xF800, 4) + Little(0x7E0, 4) + Little(0x1F, 4);
+    if (hasMasks && bits == 32) masks = Little(0xFF, 4) + Little(0xFF00, 4) + Little(0xFF0000, 4);
+    for (std::uint32_t colour : {0xFF0000, 0xFF00, 0xFF, 0xFFFFFF, 0, 0x808080})
+        if (isPalette) palette += Little(colour, 4);
+    const std::string pixels = isTopDown ? rowOf(upper) + rowOf(lower) : rowOf(lower) + rowOf(upper);
+    const std::size_t start = 54 + masks.size() + palette.size();
+    return "BM" + Little(start + pixels.size(), 4) + Little(0, 4) + Little(start, 4) + Little(40, 4) +
+           Little(3, 4) + Little(static_cast<std::uint32_t>(isTopDown ? -2 : 2), 4) + Little(1, 2) +
+           Little(static_cast<std::uint64_t>(bits), 2) + Little(hasMasks ? 3 : 0, 4) + Little(0, 4) +
+           Little(3780, 4) + Little(3780, 4) + Little(palette.size() / 4, 4) + Little(0, 4) + masks +
+           palette + pixels;
+}
+
+std::uint32_t BigAt(std::string_view bytes, std::size_t at) {
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < 4; ++i) value = value << 8 | static_cast<unsigned char>(bytes.at(at + i));
+    return value;
+}
+
+/// The chunks of a PNG by name, each with a right check sum.
+std::map<std::string, std::string> ChunksOf(const std::string& png) {
+    std::map<std::string, std::string> chunks;
+    for (std::size_t at = 8; at < png.size();) {
+        const std::size_t length = BigAt(png, at);
+        EXPECT_EQ(libdeflate_crc32(0, png.data() + at + 4, length + 4), BigAt(png, at + 8 + length));
+        chunks[png.substr(at + 4, 4)] = png.substr(at + 8, length);
+        at += 12 + length;
+    }
+    return chunks;
+}
+
+/// The pixels as six hexadecimal digits each, row by row; of the filters only those in use are known.
+std::string PixelsOf(const std::string& png) {
+    auto chunks = ChunksOf(png);
+    const unsigned width = BigAt(chunks["IHDR"], 0), height = BigAt(chunks["IHDR"], 4);
+    const unsigned bits = static_cast<unsigned>(chunks["IHDR"][8]);
+    const bool isPalette = chunks["IHDR"][9] == 3;
+    const std::size_t stride = isPalette ? (width * bits + 7) / 8 : std::size_t{width} * 3;
+    std::string rows((stride + 1) * height, '\0'), above(stride, '\0'), pixels;
+    const std::unique_ptr<libdeflate_decompressor, decltype(&libdeflate_free_decompressor)> unpacker(
+        libdeflate_alloc_decompressor(), libdeflate_free_decompressor);
+    EXPECT_EQ(libdeflate_zlib_decompress(unpacker.get(), chunks["IDAT"].data(), chunks["IDAT"].size(),
+                                         rows.data(), rows.size(), nullptr),
+              LIBDEFLATE_SUCCESS);
+    for (std::size_t y = 0; y < height; ++y) {
+        std::string row = rows.substr(y * (stride + 1) + 1, stride);
+        const char filter = rows[y * (stride + 1)];
+        EXPECT_TRUE(filter == 0 || filter == 2);
+        for (std::size_t i = 0; i < stride && filter == 2; ++i) row[i] = static_cast<char>(row[i] + above[i]);
+        for (std::size_t x = 0; x < width; ++x) {
+            const auto packed = static_cast<unsigned char>(row[isPalette ? x * bits / 8 : 3 * x]);
+            const std::size_t number = packed >> (8 - bits - x * bits % 8) & ((1u << bits) - 1);
+            const std::string_view colour = isPalette ? std::string_view(chunks["PLTE"]).substr(3 * number, 3)
+                                                      : std::string_view(row).substr(3 * x, 3);
+            for (const char c : colour) pixels += fmt::format("{:02x}", static_cast<unsigned char>(c));
+            pixels += ' ';
+        }
+        above = row;
+    }
+    return pixels;
+}
+
+TEST(PictureBitmap, BecomesAPngOfTheSamePixels) {
+    const std::string full = "ff0000 00ff00 0000ff ffffff 000000 808080 ";
+    const std::string fiveBits = "ff0000 00ff00 0000ff ffffff 000000 848484 ";
+    const std::string sixBits = "ff0000 00ff00 0000ff ffffff 000000 848284 ";
+    struct Case {
+        int bits;
+        bool isTopDown, hasMasks;
+        std::string pixels;
+    };
+    for (const Case& row :
+         {Case{4, false, false, full}, Case{8, true, false, full}, Case{24, false, false, full},
+          Case{32, true, false, full}, Case{32, false, true, full}, Case{16, false, false, fiveBits},
+          Case{16, false, true, sixBits}}) {
+        const std::string bitmap = ColourBitmap(row.bits, row.isTopDown, row.hasMasks);
+        const std::optional<std::string> png = objects::PngOfBitmap(bitmap);
+        ASSERT_TRUE(png) << row.bits;
+        EXPECT_EQ(PixelsOf(*png), row.pixels) << row.bits;
+        const objects::PictureSize as = objects::ReadPictureSize(*png),
+                                   was = objects::ReadPictureSize(bitmap);
+        EXPECT_EQ(as.WidthEmu(), was.WidthEmu());
+        EXPECT_EQ(as.HeightEmu(), was.HeightEmu());
+        for (std::size_t length = 0; length < bitmap.size(); ++length)
+            EXPECT_FALSE(objects::PngOfBitmap(bitmap.substr(0, length))) << row.bits << " torn at " << length;
+    }
+}
+
+TEST(PictureBitmap, NumbersBeyondItsPaletteAreBlack) {
+    std::string bitmap = ColourBitmap(8, false, false);
+    bitmap[bitmap.size() - 2] = '\xEE';
+    EXPECT_EQ(PixelsOf(*objects::PngOfBitmap(bitmap)), "ff0000 00ff00 000000 ffffff 000000 808080 ");
+}
+
+TEST(PictureBitmap, DamagedOnesNeverReadBeyondTheirEnd) {
+    std::mt19937 random(7);
+    for (int round = 0; round < 4000; ++round) {
+        std::string damaged = ColourBitmap(round % 2 ? 8 : 16, round % 3 == 0, round % 2 == 0);
+        for (int n = 0; n < 3; ++n)
+            damaged[2 + random() % (damaged.size() - 2)] = static_cast<char>(random());
+        if (const auto png = objects::PngOfBitmap(damaged)) EXPECT_NO_THROW(objects::ReadPictureSize(*png));
+    }
 }
 
 TEST(PictureSize, EveryTornPictureIsRefused) {

@@ -93,8 +93,8 @@ word::Table Typist::Table(int rows, int columns) {
     return session_.WordDoc.Tables.Add(place, rows, columns);
 }
 
-void Typist::Picture(std::string_view bytes) {
-    session_.clipboard->SetPicture(std::string(bytes));
+void Typist::Picture(const std::string& bytes, const std::string& description) {
+    session_.clipboard->SetPicture(bytes, description);
     WordSel.Paste();
     session_.clipboard->Clear();
 }

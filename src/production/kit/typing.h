@@ -134,8 +134,9 @@ class Typist {
     void CheckBox(const word::Cell& cell, bool ticked) { CheckBox(cell.Range, ticked); }
     /// A field to click and type over.
     void TextField(std::string_view result);
-    /// A picture given as the bytes of its file, by way of the clipboard, which is empty afterwards.
-    void Picture(std::string_view bytes);
+    /// A picture given as the bytes of its file, and described, by way of the clipboard, which is empty
+    /// afterwards.
+    void Picture(const std::string& bytes, const std::string& description);
     /// A table at the insertion point, which must be at the start of a paragraph. Typing goes on below it,
     /// after the empty paragraph that a table has behind it; its cells are reached without moving the
     /// insertion point.

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <optional>
 
+#include "core/field_registry.h"
 #include "platform/paths.h"
+#include "production/kit/field_pictures.h"
 #include "production/pdf/form_copy.h"
 
 namespace quillmark {
@@ -82,7 +84,9 @@ class FormMerge {
     std::string CodeFor(const FormMarker& marker) const {
         const std::string_view picture = PictureOfMarker(marker, production_.job);
         if (!picture.empty()) {
-            session_.clipboard->SetPicture(std::string(picture));
+            if (!IsReadablePicture(picture)) return WithoutCodes(FieldMarker(marker.field));
+            session_.clipboard->SetPicture(std::string(picture),
+                                           DescriptionOfPicture(JobValues(production_.job)));
             return std::string(kFromClipboard);
         }
         const std::string value = ValueOfMarker(marker, production_.job);

@@ -57,7 +57,7 @@ void SystemClipboard::SetText(std::string_view text) {
     OpenedClipboard().Set(CF_UNICODETEXT, wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
 }
 
-void SystemClipboard::SetPicture(std::string bytes) {
+void SystemClipboard::SetPicture(std::string bytes, std::string) {
     const std::string_view view = bytes;
     std::string_view contents = view;
     UINT format = 0;

@@ -7,7 +7,7 @@
 /// What the embedded engine can be told beside the operations of the model, so that its files are as well
 /// made as they look: the meaning of paragraphs, the properties of the document. Word needs none of it and
 /// has no such object; the trace does not show it. Text, looks and results of operations are the same with
-/// hints and without.
+/// hints and without, but for a picture that fills its page: it leaves room for a heading above it.
 namespace quillmark::word {
 
 /// What a paragraph is in its document. Each becomes a named style of the written file. Items of lists need
@@ -27,6 +27,11 @@ enum class Role : std::uint8_t {
     StatementTotal,    ///< stays with the lines above it
 };
 inline constexpr int kRoles = 12;
+
+/// Whether the role is that of words over others, which never stand alone at the end of a page.
+constexpr bool IsHeading(Role role) {
+    return role == Role::Title || role == Role::Heading || role == Role::StatementHeading;
+}
 
 /// What a file says of itself to those who look for it.
 struct DocumentProperties {

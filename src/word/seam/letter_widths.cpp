@@ -78,7 +78,9 @@ double WidthOf(std::string_view utf8, std::string_view font, double points, bool
 }
 
 double LineHeight(std::string_view font, double points) {
-    constexpr double kProportional = 1.15, kFixed = 1.133;
+    // The free face that stands for Courier is higher than the others.
+    constexpr double kProportional = 1.15, kFixed = 1.133, kCourier = 1.24;
+    if (font == "Courier") return points * kCourier;
     return points * (FaceOf(font) == Face::Typewriter ? kFixed : kProportional);
 }
 

@@ -82,9 +82,9 @@ TEST(SystemClipboard, HoldsTextsAndRefusesWhatIsNoPicture) {
     CloseClipboard();
     clipboard.Clear();
     EXPECT_FALSE(IsClipboardFormatAvailable(CF_UNICODETEXT));
-    clipboard.SetPicture(std::string("\x89PNG\r\n\x1a\n", 8));
+    clipboard.SetPicture(std::string("\x89PNG\r\n\x1a\n", 8), {});
     EXPECT_TRUE(IsClipboardFormatAvailable(RegisterClipboardFormatW(L"PNG")));
-    EXPECT_EQ(test::ErrorOf([&] { clipboard.SetPicture("GIF89a"); }), error::kBadValue);
+    EXPECT_EQ(test::ErrorOf([&] { clipboard.SetPicture("GIF89a", {}); }), error::kBadValue);
 }
 
 }  // namespace

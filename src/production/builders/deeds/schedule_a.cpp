@@ -1,7 +1,9 @@
 #include <string>
 #include <string_view>
 
+#include "core/field_registry.h"
 #include "core/text_conversions.h"
+#include "production/kit/field_pictures.h"
 #include "production/kit/job_values.h"
 #include "production/kit/typing.h"
 
@@ -26,8 +28,10 @@ std::string ExceptionParagraphs(std::string_view text) {
 }
 
 void TypeDescription(const JobValues& job, Typist& type) {
-    if (const std::string& picture = job.Picture(SchedADescription); !picture.empty()) {
-        type.Picture(picture);
+    if (const std::string& picture = job.Picture(SchedADescription); IsReadablePicture(picture)) {
+        type.Picture(picture, DescriptionOfPicture(job));
+    } else if (!picture.empty()) {
+        type.Text(FieldMarker(SchedADescription));
     } else {
         type.Align(word::AlignJustified);
         type.Text(job[SchedADescription]);

@@ -88,7 +88,7 @@ paste::CopiedText EngineState::copied() const {
 
 find::ClipboardContent EngineState::clipboardContent() const {
     const MemoryClipboard& clipboard = *options_.clipboard;
-    if (!clipboard.picture().empty()) return MakePicture(clipboard.picture());
+    if (!clipboard.picture().empty()) return MakePicture(clipboard.picture(), clipboard.description());
     if (!clipboard.text().empty()) return clipboard.text();
     return std::monostate();
 }

@@ -1,15 +1,19 @@
 #include "word/docx/objects/pictures.h"
 
 #include <algorithm>
+#include <cmath>
 #include <fstream>
 #include <iterator>
 
+#include "word/docx/model/style_look.h"
+#include "word/docx/objects/bitmap.h"
 #include "word/docx/objects/engine_state.h"
 #include "word/docx/objects/picture_size.h"
 #include "word/docx/objects/range.h"
 #include "word/docx/objects/section_objects.h"
 #include "word/docx/objects/selection.h"
 #include "word/docx/objects/table_objects.h"
+#include "word/seam/letter_widths.h"
 
 namespace quillmark::word::docx::objects {
 namespace {
@@ -21,18 +25,52 @@ struct Room {
     int height;
 };
 
+double HeightOf(const Document& document, const Paragraph& paragraph) {
+    const FormatId letters = paragraph.spans.empty() ? paragraph.markFormat : paragraph.spans.front().format;
+    const CharFormat font =
+        EffectiveFont(document, document.paraFormats[paragraph.format], document.charFormats[letters]);
+    const auto lines = 1 + std::ranges::count(paragraph.text, character::kLineBreak);
+    return static_cast<double>(lines) * LineHeight(font.font, *font.halfPoints / 2.0);
+}
+
+/// What the heading directly above takes from the page, and the line of the picture itself, in twips; only
+/// the latter where the heading is so long that the picture had better have a page of its own.
+int TakenAbove(const Document& document, const Place& place, int textHeight) {
+    constexpr double kTwips = 20;
+    const double line = HeightOf(document, std::get<Paragraph>(*place.block));
+    double heading = 0;
+    for (auto block = place.block; block != place.blocks->begin();) {
+        const auto* paragraph = std::get_if<Paragraph>(&*--block);
+        if (!paragraph || !IsHeading(document.paraFormats[paragraph->format].role)) break;
+        heading += HeightOf(document, *paragraph);
+    }
+    const double most = textHeight / kTwips / 4;
+    return static_cast<int>(std::ceil((heading > most ? line : heading + line) * kTwips));
+}
+
 Room RoomAt(OpenDocument& document, const Place& place) {
     const SectionProperties* section = document.editor().SectionAt(place);
     if (!section) section = &document.model().lastSection;
     const int cellWidth = CellTextWidth(document, place);
-    return {cellWidth > 0 ? cellWidth : ColumnWidth(*section), TextHeight(*section)};
+    const Paragraph& paragraph = edit::Editor::ParagraphAt(place);
+    const ParaFormat look =
+        EffectiveParagraph(document.model(), document.model().paraFormats[paragraph.format]);
+    const int width =
+        (cellWidth > 0 ? cellWidth : ColumnWidth(*section)) - *look.leftIndent - *look.rightIndent;
+    const int height = TextHeight(*section);
+    return {width, height - TakenAbove(document.model(), place, height)};
 }
 
 }  // namespace
 
-Picture MakePicture(std::string bytes) {
-    const PictureSize size = ReadPictureSize(bytes);
-    return {std::move(bytes), size.extension, size.WidthEmu(), size.HeightEmu(), size.description};
+Picture MakePicture(std::string bytes, std::string description) {
+    PictureSize size = ReadPictureSize(bytes);
+    if (description.empty()) description = std::move(size.description);
+    if (std::optional<std::string> png = PngOfBitmap(bytes)) {
+        bytes = *std::move(png);
+        size.extension = "png";
+    }
+    return {std::move(bytes), size.extension, size.WidthEmu(), size.HeightEmu(), std::move(description)};
 }
 
 Picture LoadPicture(const std::filesystem::path& file) {

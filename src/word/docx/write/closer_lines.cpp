@@ -17,9 +17,9 @@ constexpr int kStep = 10;
 constexpr int kMostSteps = 4;
 /// What the reckoning may be wrong by.
 constexpr double kMargin = 6;
-/// A line with letters of two faces reaches higher and lower than one of either: by so much where Courier is
-/// the Courier of the free faces, which is higher than others.
-constexpr double kMixedFaces = 1.16;
+/// A line with letters of two faces reaches higher and lower than one of either, by so much for Times and a
+/// typewriter face.
+constexpr double kMixedFaces = 1.08;
 
 /// Where a tab at this place leads to, all in points.
 double NextStop(const ParaFormat& format, double defaultStop, double at) {

@@ -9,17 +9,13 @@ namespace {
 using Keep = StyleUse::Keep;
 constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-/// A block that begins with less has no sentence of its own, as "Very truly yours," has not.
-constexpr std::size_t kSentence = 60;
+/// A block that begins with fewer letters has no sentence of its own, as "Very truly yours," has not.
+constexpr std::size_t kSentence = 50;
 /// So many paragraphs make a text whose last one can be left alone.
 constexpr int kText = 4;
 
 bool IsBlock(Role role) {
     return role == Role::Signature || role == Role::Notary;
-}
-
-bool IsHeading(Role role) {
-    return role == Role::Title || role == Role::Heading || role == Role::StatementHeading;
 }
 
 bool IsStatement(Role role) {
@@ -41,7 +37,7 @@ void KeepFrom(std::vector<PagePart>& parts, std::size_t first, std::size_t end) 
 void KeepTextWithBlock(std::vector<PagePart>& parts, std::size_t block) {
     std::size_t first = block;
     while (first < parts.size() && parts[first].role == parts[block].role && parts[first].isEmpty) ++first;
-    if (first == parts.size() || parts[first].length >= kSentence) return;
+    if (first == parts.size() || parts[first].letters >= kSentence) return;
     const std::size_t text = TextBefore(parts, block);
     if (text == kNone || IsBlock(parts[text].role) || !parts[text].isPlanned) return;
     KeepFrom(parts, text, block);
@@ -67,8 +63,7 @@ void KeepTotals(std::vector<PagePart>& parts) {
 void KeepLastInCompany(std::vector<PagePart>& parts, std::size_t last) {
     const auto texts = std::ranges::count(parts, false, &PagePart::isEmpty);
     if (texts < kText || IsBlock(parts[last].role) || IsStatement(parts[last].role)) return;
-    const std::size_t before = TextBefore(parts, last);
-    if (!IsBlock(parts[before].role)) KeepFrom(parts, before, last);
+    KeepFrom(parts, TextBefore(parts, last), last);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ struct PagePart {
     std::size_t planned = 0;  ///< the paragraph's place in the plan
     bool isPlanned = false;   ///< a paragraph with a style of the plan
     Role role = Role::None;
-    std::size_t length = 0;  ///< of its text, in bytes
+    std::size_t letters = 0;  ///< of its text, without blanks and the rules to sign on
     bool isEmpty = false;
     StyleUse::Keep keepNext = StyleUse::Keep::AsStyle;
     bool isGap = false;

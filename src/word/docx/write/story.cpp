@@ -69,7 +69,8 @@ std::string_view FormatCache::Run(const StyleUse& use, FormatId format) {
 
 std::size_t FormatCache::HashOfKey::operator()(const Key& key) const {
     const std::uint64_t formats = std::uint64_t{key.format} << 32 | key.markFormat;
-    const auto flags = static_cast<std::uint64_t>(key.use.keepNext) << 1 | key.use.isGap;
+    const auto flags = static_cast<std::uint64_t>(key.use.keepNext) << 2 |
+                       static_cast<std::uint64_t>(key.use.keepLines) << 1 | key.use.isGap;
     return std::hash<std::uint64_t>()(formats ^ (static_cast<std::uint64_t>(key.use.style) << 20) ^
                                       flags << 60);
 }

@@ -25,6 +25,20 @@ FormatId LettersOf(const Paragraph& paragraph) {
     return longest == paragraph.spans.end() ? paragraph.markFormat : longest->format;
 }
 
+std::size_t LettersIn(std::string_view text) {
+    return static_cast<std::size_t>(
+        std::ranges::count_if(text, [](char c) { return c != '_' && c != ' ' && c != '\t'; }));
+}
+
+/// An item of a list that ends with a blank line of its own: where it is cut at the end of a page, that line
+/// counts as one of the two that stay together, and its last words stand alone. So it stays whole, unless it
+/// is so long that half a page would stay empty before it.
+bool StaysWhole(const PlannedStyle& style, const Paragraph& paragraph) {
+    constexpr std::size_t kLongest = 800;  // some eight lines
+    return style.kind == StyleKind::ListItem && paragraph.text.ends_with(character::kLineBreak) &&
+           paragraph.text.size() <= kLongest;
+}
+
 }  // namespace
 
 StylePlan::StylePlan(const Document& document) : document_(document) {
@@ -99,7 +113,7 @@ void StylePlan::PlanSections() {
         part = {.planned = planned,
                 .isPlanned = paragraphs_[planned].use.style != StyleUse::kAsItIs,
                 .role = document_.paraFormats[paragraph->format].role,
-                .length = paragraph->text.size(),
+                .letters = LettersIn(paragraph->text),
                 .isEmpty = paragraph->text.empty() && paragraph->anchors.empty()};
         ++planned;
         if (!paragraph->section || sections[++section]->start == kContinuous) continue;
@@ -118,6 +132,8 @@ void StylePlan::PlanPage(std::vector<PagePart>& parts, const SectionProperties& 
         Planned& planned = paragraphs_[parts[i].planned];
         planned.use.keepNext = parts[i].keepNext;
         planned.use.isGap = parts[i].isGap;
+        planned.use.keepLines =
+            StaysWhole(styles_[static_cast<std::size_t>(planned.use.style)], *planned.paragraph);
         isStatement = isStatement || parts[i].role == Role::StatementLine;
     }
     for (std::size_t i = end; i < parts.size(); ++i)
@@ -177,6 +193,7 @@ std::string StylePlan::ParagraphProperties(const StyleUse& use, FormatId format,
     if (use.keepNext == StyleUse::Keep::On) direct.extra.emplace_back("keepNext", "<w:keepNext/>");
     if (use.keepNext == StyleUse::Keep::Off)
         direct.extra.emplace_back("keepNext", R"(<w:keepNext w:val="0"/>)");
+    if (use.keepLines) direct.extra.emplace_back("keepLines", "<w:keepLines/>");
     if (use.isGap) direct.extra.emplace_back("outlineLvl", R"(<w:outlineLvl w:val="9"/>)");
     return write::ParagraphProperties(direct, mark, section);
 }

@@ -23,6 +23,7 @@ struct StyleUse {
 
     int style = kAsItIs;
     Keep keepNext = Keep::AsStyle;
+    bool keepLines = false;
     bool isGap = false;  ///< an empty line of a heading, which is none itself
     bool operator==(const StyleUse&) const = default;
 };
