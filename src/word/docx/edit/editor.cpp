@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 
 #include "word/docx/model/pieces.h"
 #include "word/docx/model/spans.h"
+#include "word/docx/model/walk.h"
 #include "word/seam/automation.h"
 
 namespace quillmark::word::docx::edit {
@@ -40,6 +42,24 @@ void EraseAnchors(Paragraph& paragraph, std::size_t from, std::size_t to) {
     for (Anchor& anchor : kept)
         if (anchor.offset > from) anchor.offset = anchor.offset <= to ? from : anchor.offset - (to - from);
     paragraph.anchors = std::move(kept);
+}
+
+/// Bookmarks' marks in blocks that go, of bookmarks whose other mark stays.
+std::vector<Anchor> LoneAnchors(Blocks::const_iterator first, Blocks::const_iterator end) {
+    std::vector<Anchor> anchors;
+    const auto collect = [&](const Paragraph& paragraph) {
+        anchors.insert(anchors.end(), paragraph.anchors.begin(), paragraph.anchors.end());
+    };
+    for (auto block = first; block != end; ++block) {
+        if (const auto* paragraph = std::get_if<Paragraph>(&*block)) collect(*paragraph);
+        if (const auto* table = std::get_if<std::unique_ptr<Table>>(&*block))
+            for (const TableRow& row : (*table)->rows)
+                for (const TableCell& cell : row.cells) ForEachParagraph(cell.blocks, collect);
+    }
+    std::map<int, int> marks;
+    for (const Anchor& anchor : anchors) ++marks[anchor.id];
+    std::erase_if(anchors, [&](const Anchor& anchor) { return marks[anchor.id] != 1; });
+    return anchors;
 }
 
 /// Whether the character is a mark of a field that goes on in another paragraph.
@@ -258,6 +278,10 @@ Place Editor::Erase(const Place& start, const Place& to) {
         CollectStories(*block, containers);
     }
     if (!gone.empty()) {
+        for (Anchor& anchor : LoneAnchors(std::next(from.block), to.block)) {
+            anchor.offset = from.offset;
+            ParagraphAt(from).anchors.push_back(std::move(anchor));
+        }
         ++removals_;
         marks_.Abandon(gone, containers, from);
         from.blocks->erase(std::next(from.block), to.block);
