@@ -74,25 +74,29 @@ std::string TaxIdOrLine(const JobValues& job, Field taxId) {
 }
 
 void TypeAcknowledgment(const JobValues& job, Typist& type, std::string_view signers, bool plural) {
-    type.Text("Personally appeared ", signers);
-    if (plural) {
-        type.Text(
-            ", signers and sealers of the foregoing instrument, known to me (or satisfactorily proven) to "
-            "be the persons whose names are subscribed to the within instrument and acknowledged that they "
-            "executed the same for the purposes therein contained in the capacity therein stated, before "
-            "me, on this ");
-    } else {
-        type.Text(
-            ", signer and sealer of the foregoing instrument, known to me (or satisfactorily proven) to be "
-            "the person whose name is subscribed to the within instrument and acknowledged that he/she "
-            "executed the same for the purposes therein contained in the capacity therein stated, before "
-            "me, on this ");
-    }
-    type.Text(job.DayMonthYear(DocumentDate), ".");
+    type.As(word::Role::Notary, [&] {
+        type.Text("Personally appeared ", signers);
+        if (plural) {
+            type.Text(
+                ", signers and sealers of the foregoing instrument, known to me (or satisfactorily proven) to "
+                "be the persons whose names are subscribed to the within instrument and acknowledged that they "
+                "executed the same for the purposes therein contained in the capacity therein stated, before "
+                "me, on this ");
+        } else {
+            type.Text(
+                ", signer and sealer of the foregoing instrument, known to me (or satisfactorily proven) to be "
+                "the person whose name is subscribed to the within instrument and acknowledged that he/she "
+                "executed the same for the purposes therein contained in the capacity therein stated, before "
+                "me, on this ");
+        }
+        type.Text(job.DayMonthYear(DocumentDate), ".");
+    });
 }
 
 void TypeJurat(const JobValues& job, Typist& type) {
-    type.Text("Subscribed and sworn to before me this ", job.DayMonthYear(DocumentDate), ".");
+    type.As(word::Role::Notary, [&] {
+        type.Text("Subscribed and sworn to before me this ", job.DayMonthYear(DocumentDate), ".");
+    });
 }
 
 void TypeNotary(const JobValues& job, Typist& type) {

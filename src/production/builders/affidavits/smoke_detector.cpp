@@ -89,9 +89,11 @@ void TypeEquipment(Typist& type, std::string_view heading,
 void TypeOath(const JobValues& job, Typist& type) {
     type.AtTab(kSignatureTab, [&] {
         TypeSignatures(type, SellerSigners(job, SellerRole(job, "Seller")));
-        type.TypeBold("STATE OF CONNECTICUT\t}\r\t}");
-        type.Text("\tss.  ", RepeatUnderscore(20), "\r");
-        type.TypeBold("COUNTY OF ", RepeatUnderscore(18), "\t}\r\r");
+        type.As(word::Role::Notary, [&] {
+            type.TypeBold("STATE OF CONNECTICUT\t}\r\t}");
+            type.Text("\tss.  ", RepeatUnderscore(20), "\r");
+            type.TypeBold("COUNTY OF ", RepeatUnderscore(18), "\t}\r\r");
+        });
         TypeJurat(job, type);
         TypeNotary(job, type);
     });

@@ -59,9 +59,11 @@ void TypeEscrowSignatures(const JobValues& job, Typist& type) {
     type.AtTab(kSignatureTab, [&] {
         TypeSignatures(type, SellerSigners(job, "Seller"));
         TypeSignatures(type, BuyerSigners(job, "Buyer"));
-        type.Text(RepeatReturn(2), "\t", SignatureRule(), "\r",  //
-                  "\t", job[SellerLawfirm], ", Escrow Agent\r",  //
-                  "\tBy ", job[SellerAtty], "\r");
+        type.As(word::Role::Signature, [&] {
+            type.Text(RepeatReturn(2), "\t", SignatureRule(), "\r",  //
+                      "\t", job[SellerLawfirm], ", Escrow Agent\r",  //
+                      "\tBy ", job[SellerAtty], "\r");
+        });
     });
 }
 
@@ -70,11 +72,13 @@ void TypeIndemnitorSignatures(const JobValues& job, Typist& type) {
 }
 
 void TypeEscrowHolder(const JobValues& job, Typist& type) {
-    type.Text(
-        "The undersigned has received the Escrow and agrees to hold it and to pay it out as Section 2 provides.",
-        RepeatReturn(3));
-    type.AtTab(kSignatureTab,
-               [&] { type.Text("\t", SignatureRule(), "\r\t", job[EscrowAtty], ", Escrow Holder\r"); });
+    type.As(word::Role::Signature, [&] {
+        type.Text(
+            "The undersigned has received the Escrow and agrees to hold it and to pay it out as Section 2 provides.",
+            RepeatReturn(3));
+        type.AtTab(kSignatureTab,
+                   [&] { type.Text("\t", SignatureRule(), "\r\t", job[EscrowAtty], ", Escrow Holder\r"); });
+    });
 }
 
 }  // namespace

@@ -47,6 +47,13 @@ void TypeAttorney(const JobValues& job, Typist& type, const Office& office) {
               ", facsimile ", job[office.fax]);
 }
 
+/// How the buyers hold the title. The form is made before every buyer has said so, and then a line stays to
+/// be written in.
+void TypeTenancy(const JobValues& job, Typist& type) {
+    constexpr std::uint16_t kBlank = 24;
+    type.TypeBold(job.IsFilled(TenancyType) ? job[TenancyType] : RepeatUnderscore(kBlank));
+}
+
 /// A place to write in after the document is made.
 void TypeBlank(const JobValues&, Typist& type) {
     type.TextField(std::string(30, ' '));
@@ -155,10 +162,12 @@ void TypeBuyers(const JobValues& job, Typist& type, std::string_view role) {
 
 void TypeSignatures(const JobValues& job, Typist& type, std::string_view buyersRole) {
     type.AtTab(kPartyTab, [&] {
-        TypeSellers(job, type);
-        type.Text(RepeatReturn(4));
-        TypeBuyers(job, type, buyersRole);
-        type.Text(RepeatReturn(3));
+        type.As(word::Role::Signature, [&] {
+            TypeSellers(job, type);
+            type.Text(RepeatReturn(4));
+            TypeBuyers(job, type, buyersRole);
+            type.Text(RepeatReturn(3));
+        });
     });
 }
 
@@ -192,6 +201,7 @@ Passages ContractPassages() {
     static constexpr auto kPassages = std::to_array<Passage>({
         {"fiduciary title",         TypeFiduciaryTitle},
         {"brokers",                 TypeBrokers},
+        {"tenancy",                 TypeTenancy},
         {"attorney of seller", [](const JobValues& job, Typist& type) { TypeAttorney(job, type, kOfSeller); }},
         {"attorney of buyer", [](const JobValues& job, Typist& type) { TypeAttorney(job, type, kOfBuyer); }},
         {"blank",                   TypeBlank},

@@ -65,7 +65,7 @@ void TypeConsideration(const JobValues& job, Typist& type, std::string_view gran
 
 void TypeGrantorAcknowledgment(const JobValues& job, Typist& type, const SellersByPower& power) {
     if (job.Has(Person) && power.PoaSeller != 0) {
-        TypeAcknowledgmentByPower(job, type, power);
+        type.As(word::Role::Notary, [&] { TypeAcknowledgmentByPower(job, type, power); });
     } else if (job.Has(TwoSellers)) {
         TypeAcknowledgment(job, type, job.SellerNames(), true);
     } else if (job.Has(Entity)) {

@@ -52,7 +52,7 @@ void TypeLlcIncumbency(const JobValues& job, Typist& type) {
 
     type.Text("Witness ", isAlone ? "my signature" : "our signatures", " this ",
               job.DayMonthYear(DocumentDate), ".\r\r");
-    TypeMembers(members, type);
+    type.As(word::Role::Signature, [&] { TypeMembers(members, type); });
     type.Indents(0);
 }
 

@@ -16,9 +16,11 @@ void BeginEntityPaper(Typist& type) {
 void TypeCaption(Typist& type, std::initializer_list<std::string_view> lines) {
     type.Align(word::AlignCentre);
     type.FontSize(14);
-    for (const std::string_view line : lines) type.TypeBold(line, "\r");
-    type.FontSize(12);
-    type.Text("\r");
+    type.As(word::Role::Title, [&] {
+        for (const std::string_view line : lines) type.TypeBold(line, "\r");
+        type.FontSize(12);
+        type.Text("\r");
+    });
     type.Align(word::AlignLeft);
 }
 
@@ -46,16 +48,19 @@ void TypeDatedSignatures(Typist& type, std::string_view names, std::string_view 
                          std::string_view date) {
     constexpr double kDateTab = 4.5;
     type.AtTab(kDateTab, [&] {
-        for (const std::string& name : PeopleIn(names)) {
-            type.Text("\r\r", SignatureRule(), "\tDated: ", date, "\r", name, ", ", capacity, "\r");
-        }
+        type.As(word::Role::Signature, [&] {
+            for (const std::string& name : PeopleIn(names))
+                type.Text("\r\r", SignatureRule(), "\tDated: ", date, "\r", name, ", ", capacity, "\r");
+        });
     });
 }
 
 void TypeSecretarySignature(const JobValues& job, Typist& type) {
     type.AtTab(kSignatureTab, [&] {
-        type.Text(RepeatReturn(3), "\t", RepeatUnderscore(33), "\r\t", job[CorporateSecretary],
-                  ", Secretary\r\r(Corporate Seal)\r");
+        type.As(word::Role::Signature, [&] {
+            type.Text(RepeatReturn(3), "\t", RepeatUnderscore(33), "\r\t", job[CorporateSecretary],
+                      ", Secretary\r\r(Corporate Seal)\r");
+        });
     });
 }
 

@@ -55,7 +55,12 @@ void TypeDraft(const JobValues& job, Typist& type) {
 }
 
 void TypeExecuted(const JobValues& job, Typist& type) {
+    constexpr std::uint16_t kBlankAmount = 12;
     const std::string_view yours = ClientWord(job.Has(TwoBuyers));
+    // This letter does not ask for the deposit, so without the contract in the same job a line stays to be
+    // written in.
+    const std::string deposit =
+        job.IsFilled(ContractDeposit) ? job[ContractDeposit] : "$" + RepeatUnderscore(kBlankAmount);
     type.Text(" for the sale of the above-referenced property, executed by my ",
               ClientWord(job.Has(TwoSellers)), ".");
     TypeCredits(job, type);
@@ -63,7 +68,7 @@ void TypeExecuted(const JobValues& job, Typist& type) {
         type, " Kindly have your ", yours,
         " execute both copies, retain one for your file, and return the other to me together with the "
         "contract deposit in the amount of ",
-        job[ContractDeposit],
+        deposit,
         ", payable to this firm as trustee. The deposit will be held in accordance with the terms of the "
         "Contract.");
     if (job.IsFilled(SellerAttyEmail)) {

@@ -26,8 +26,10 @@ void TypeHeading(Typist& type, bool isBalloon) {
             RepeatReturn(2));
     }
     type.Font("Arial", 11);
-    type.TypeBold(isBalloon ? "BALLOON NOTE" : "PROMISSORY NOTE", "\r(FIXED RATE)",
-                  RepeatReturn(isBalloon ? 2 : 3));
+    type.As(word::Role::Title, [&] {
+        type.TypeBold(isBalloon ? "BALLOON NOTE" : "PROMISSORY NOTE", "\r(FIXED RATE)",
+                      RepeatReturn(isBalloon ? 2 : 3));
+    });
     type.Align(word::AlignLeft);
     type.FontSize(10);
 }
@@ -77,7 +79,7 @@ void TypeFixedRateNote(const JobValues& job, Typist& type, const Variant& varian
     TypeHeading(type, isBalloon);
     TypeDateAndPlace(job, type);
     TypeBody("mortgages/note.txt", job, type);
-    TypeExecution(job, type);
+    type.As(word::Role::Signature, [&] { TypeExecution(job, type); });
     TypeFormLine(type, isBalloon);
 
     if (isBalloon) TypeBalloonRider(job, type);

@@ -102,9 +102,11 @@ void TypePartialRelease(const JobValues& job, Typist& type, const Variant& varia
     TypeWhatRemains(type);
 
     type.AtTab(kReleasorTab, [&] {
-        TypeReleasorSignature(job, type, mortgage);
-        TypeOpenWitnesses(type);
-        TypeOpenAcknowledgment(job, type, mortgage);
+        type.As(word::Role::Signature, [&] {
+            TypeReleasorSignature(job, type, mortgage);
+            TypeOpenWitnesses(type);
+        });
+        type.As(word::Role::Notary, [&] { TypeOpenAcknowledgment(job, type, mortgage); });
     });
     type.Indents(0);
 }

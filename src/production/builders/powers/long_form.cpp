@@ -53,8 +53,10 @@ void TypeDesignatedSuccessors(const JobValues& job, Typist& type, Articles& arti
 }
 
 void TypeVenueInOneLine(const JobValues& job, Typist& type) {
-    type.TypeBold("STATE OF CONNECTICUT, COUNTY OF ", UpperCase(job.CountyOfExecution()));
-    type.Text(", ss. ", job[TownOfExecution], RepeatReturn(2));
+    type.As(word::Role::Notary, [&] {
+        type.TypeBold("STATE OF CONNECTICUT, COUNTY OF ", UpperCase(job.CountyOfExecution()));
+        type.Text(", ss. ", job[TownOfExecution], RepeatReturn(2));
+    });
 }
 
 }  // namespace
