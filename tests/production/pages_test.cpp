@@ -212,7 +212,8 @@ std::vector<Look> Deeds() {
                         SellsByPower(job, job.D(Seller1Name), "Ferdinand Q. Attorney-Infact");
                     if (isFiduciary) SellerIsFiduciary(job, kind);
                     looks.push_back({fmt::format("{} {}{}{}", kind, seller, buyers, isLong ? "L" : ""),
-                                     fmt::format("Deed / {}", kind), job, isLong || seller.ends_with("P") ? 2u : 1u});
+                                     fmt::format("Deed / {}", kind), job,
+                                     isLong || seller.ends_with("P") ? 2u : 1u});
                 }
             }
         }

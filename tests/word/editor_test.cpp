@@ -29,7 +29,8 @@ class Editing : public ::testing::Test {
             const bool isStart = text[i] == '{', isEnd = i + 1 < text.size() && text[i + 1] == '}';
             if (isStart || isEnd) {
                 const int id = text[isStart ? ++i : i++] - '0';
-                paragraph.anchors.push_back({paragraph.text.size(), isStart, id, isStart ? fmt::format("b{}", id) : ""});
+                paragraph.anchors.push_back(
+                    {paragraph.text.size(), isStart, id, isStart ? fmt::format("b{}", id) : ""});
             } else {
                 paragraph.text += text[i];
             }
