@@ -9,12 +9,11 @@
 
 #include "core/fields.h"
 #include "core/text_conversions.h"
+#include "production/engine_desk.h"
 #include "production/kit/job_values.h"
 #include "production/kit/typing.h"
-#include "production/recording_word.h"
 #include "production/sample_deal.h"
 #include "support/scratch.h"
-#include "word/docx/objects/engine.h"
 
 namespace quillmark::test {
 namespace {
@@ -40,51 +39,10 @@ std::string ChooseOptions(Job& job, std::mt19937& random) {
     return options;
 }
 
-/// The sample deal with every other field filled too.
-Job FilledDeal() {
-    Job job = SampleDeal();
-    SellersApart(job);
-    BuyersApart(job);
-    job.SetField(field::ClosingDate, "May 2, 2024");
-    job.SetField(field::ProrationDate, "May 3, 2024");
-    for (int n = 1; n <= kFields; ++n) {
-        if (FieldMarker(n).size() > 2 && !job.IsFilled(n)) job.SetField(n, "12");
-    }
-    return job;
-}
-
-TEST(Builders, LeaveTheInsertionPointAsTheyFoundIt) {
-    std::mt19937 random(20240502);
-    for (int round = 0; round < 100; ++round) {
-        Job job = FilledDeal();
-        const std::string options = ChooseOptions(job, random);
-        const char* const principals[] = {"Walter B. Hollis", "June Hollis", "nobody"};
-        job.SetField(field::PrincipalOfPower, principals[random() % 3]);
-        RecordingWord recorder;
-        WordSession session(recorder.Application(), recorder.clipboard());
-        SetUpWordSession(session);
-        for (const Builder& builder : Builders()) {
-            SCOPED_TRACE(std::string(builder.document) + " with options " + options);
-            TypeDocument(builder, From(job), session);
-            EXPECT_FALSE(recorder.characters().bold);
-            EXPECT_FALSE(recorder.characters().italic);
-            EXPECT_EQ(recorder.characters().underline, 0);
-            EXPECT_EQ(recorder.paragraph().left, 0);
-            EXPECT_EQ(recorder.paragraph().right, 0);
-            EXPECT_EQ(recorder.paragraph().spaceAfter, 0);
-            EXPECT_EQ(recorder.paragraph().lineSpacing, 12);
-            EXPECT_TRUE(recorder.paragraph().tabs.empty());
-            EXPECT_TRUE(recorder.paragraph().list.empty());
-        }
-    }
-}
-
 std::string TypedText(const Builder& builder, const Job& job) {
-    RecordingWord recorder;
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
-    TypeDocument(builder, From(job), session);
-    return recorder.Text();
+    EngineDesk desk;
+    desk.Type(builder.document, job);
+    return desk.Text();
 }
 
 /// Words in brackets that a form prints itself.
@@ -93,24 +51,6 @@ constexpr std::string_view kPrintedInBrackets[] = {
     "[specify]",
     "[Sign Original Only]",
 };
-
-TEST(Builders, FilledJobShowsNoHole) {
-    std::mt19937 random(7);
-    for (int round = 0; round < 40; ++round) {
-        Job job = FilledDeal();
-        const std::string options = ChooseOptions(job, random);
-        for (const Builder& builder : Builders()) {
-            std::string text = TypedText(builder, job);
-            for (const std::string_view printed : kPrintedInBrackets) {
-                if (const std::size_t at = text.find(printed); at != text.npos)
-                    text.erase(at, printed.size());
-            }
-            if (const std::size_t hole = text.find('['); hole != text.npos)
-                ADD_FAILURE() << builder.document << " with options " << options << ": "
-                              << text.substr(hole, 60);
-        }
-    }
-}
 
 // Custom documents and the user look for a marker by its text, so a mangled one is a hole that nobody finds.
 TEST(Builders, UnfilledJobShowsMarkersOnly) {
@@ -138,75 +78,6 @@ TEST(Builders, UnfilledJobShowsMarkersOnly) {
     }
 }
 
-/// What stands in a paragraph in place of a character, in braces as RecordingWord shows it.
-struct ObjectText {
-    std::string operator()(const word::docx::FormFieldData& field) const {
-        if (field.isCheckBox) return field.checked ? "{x}" : "{ }";
-        return "{" + field.result + "}";
-    }
-    std::string operator()(const word::docx::Picture& picture) const {
-        return "{" + picture.description + "}";
-    }
-    template <class Other>
-    std::string operator()(const Other&) const {
-        return "{?}";
-    }
-};
-
-std::string ParagraphText(const word::docx::Paragraph& paragraph) {
-    std::string text;
-    std::size_t object = 0;
-    for (const char c : paragraph.text) {
-        if (c == word::docx::character::kObject) {
-            text += std::visit(ObjectText{}, paragraph.objects.at(object++));
-        } else {
-            text += c;
-        }
-    }
-    return text;
-}
-
-/// A cell's paragraphs are parted by "\r"; a cell joined to the one before it has none.
-std::string CellText(const word::docx::TableCell& cell) {
-    std::string text;
-    for (const word::docx::Block& block : cell.blocks)
-        text += (text.empty() ? "" : "\r") + ParagraphText(std::get<word::docx::Paragraph>(block));
-    return text;
-}
-
-/// The paragraphs and table cells of the embedded engine's document, one a line.
-std::string EngineText(const word::docx::Document& document) {
-    std::string text;
-    for (const word::docx::Block& block : document.body) {
-        if (const auto* paragraph = std::get_if<word::docx::Paragraph>(&block)) {
-            text += ParagraphText(*paragraph) + "\n";
-        } else if (const auto* table = std::get_if<std::unique_ptr<word::docx::Table>>(&block)) {
-            for (const word::docx::TableRow& row : (*table)->rows)
-                for (const word::docx::TableCell& cell : row.cells) text += CellText(cell) + "\n";
-        }
-    }
-    return text;
-}
-
-// The recording word processor takes any member; the embedded engine only those that it knows.
-TEST(Builders, TypeTheSameIntoTheEmbeddedEngine) {
-    std::mt19937 random(19);
-    for (int round = 0; round < 10; ++round) {
-        Job job = FilledDeal();
-        const std::string options = ChooseOptions(job, random);
-        for (const Builder& builder : Builders()) {
-            SCOPED_TRACE(std::string(builder.document) + " with options " + options);
-            auto clipboard = std::make_shared<word::MemoryClipboard>();
-            WordSession session(word::docx::objects::StartEngine({.folder = {}, .clipboard = clipboard}),
-                                clipboard);
-            SetUpWordSession(session);
-            TypeDocument(builder, From(job), session);
-            EXPECT_EQ(EngineText(word::docx::objects::ModelOf(session.WordDoc.Reach())),
-                      TypedText(builder, job));
-        }
-    }
-}
-
 TEST(Builders, RunAgainForTheSecondSellerOrPayoff) {
     static std::string calls;
     const Builder letter{"Letter",
@@ -216,21 +87,19 @@ TEST(Builders, RunAgainForTheSecondSellerOrPayoff) {
                          {"SMS", 1},
                          RunsAgain::WithTwoPayoffs,
                          ""};
-    RecordingWord recorder;
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
+    EngineDesk desk;
     Job job;
     job.SetOption(TwoSellers, true);
-    TypeDocument(letter, From(job), session);
+    TypeDocument(letter, From(job), desk.session);
     EXPECT_EQ(calls, "SMS1 ");
     job.SetOption(TwoPayoffs, true);
-    TypeDocument(letter, From(job), session);
+    TypeDocument(letter, From(job), desk.session);
     EXPECT_EQ(calls, "SMS1 SMS1 SMS2 ");
-    EXPECT_EQ(recorder.Text(), "\f\n") << "the second stands on a page of its own";
+    EXPECT_EQ(desk.Text(), "\f\n") << "the second stands on a page of its own";
 }
 
 TEST(Builders, LeaveThePageBreakOfTheSecondCopyToTheList) {
-    Job job = FilledDeal();
+    Job job = FullDeal();
     for (const int option : {TwoSellers, TwoPayoffs}) job.SetOption(option, true);
     for (const Builder& builder : Builders()) {
         EXPECT_EQ(TypedText(builder, job).find("\f\f"), std::string::npos) << builder.document;

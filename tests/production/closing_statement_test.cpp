@@ -6,7 +6,7 @@
 #include "core/fields.h"
 #include "core/text_conversions.h"
 #include "production/builders/builder_list.h"
-#include "production/recording_word.h"
+#include "production/engine_desk.h"
 #include "production/sample_deal.h"
 #include "production/statement_page.h"
 #include "support/scratch.h"
@@ -52,15 +52,13 @@ Job TypicalSale() {
 }
 
 std::string Typed(const std::string& document, const Job& job, ScriptedDialogs::Answers answers = {},
-                  std::string (RecordingWord::*form)() const = &RecordingWord::Text) {
-    RecordingWord recorder;
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
+                  std::string (EngineDesk::*form)() const = &EngineDesk::Text) {
+    EngineDesk desk;
     ScriptedDialogs dialogs(std::move(answers), ScriptedDialogs::WhenUnanswered::Fail);
     const Settings settings;
-    TypeDocument(*FindBuilder(document), {job, settings, dialogs}, session);
+    desk.Type(document, {job, settings, dialogs});
     EXPECT_EQ(dialogs.AnswersLeft(), 0U);
-    return (recorder.*form)();
+    return (desk.*form)();
 }
 
 void ExpectOnPaper(const std::string& golden, const std::string& document, const std::string& facts,
@@ -77,7 +75,7 @@ TEST(ClosingStatementPage, InFull) {
         std::string(kStatement) +
             "\na couple sells to a couple: two payoffs, two brokers, the binder applied to the first "
             "commission\n\n" +
-            Typed(kStatement, TypicalSale(), {}, &RecordingWord::Reading));
+            Typed(kStatement, TypicalSale(), {}, &EngineDesk::Reading));
 }
 
 TEST(ClosingStatementPage, ByTheSale) {
@@ -165,14 +163,10 @@ TEST(ClosingStatementPage, ALabelTooWideForItsColumnBreaksBeforeTheTab) {
 
 TEST(ClosingStatementPage, LinesAreCloserForAnOldWord) {
     for (const auto& [version, spacing] : {std::pair("11.0", "= 11"), std::pair("12.0", "= 11.9")}) {
-        RecordingWord recorder;
-        recorder.SetValue("Version", std::string(version));
-        WordSession session(recorder.Application(), recorder.clipboard());
-        SetUpWordSession(session);
-        TypeDocument(*FindBuilder(kStatement), From(SampleDeal()), session);
-        const std::string set = std::string("Selection.Paragraphs.LineSpacing ") + spacing;
-        const auto& operations = recorder.operations();
-        EXPECT_NE(std::find(operations.begin(), operations.end(), set), operations.end()) << version;
+        EngineDesk desk;
+        desk.SetVersion(version);
+        desk.Type(kStatement, SampleDeal());
+        EXPECT_TRUE(desk.Did(std::string("Selection.Paragraphs.LineSpacing ") + spacing)) << version;
     }
 }
 
@@ -303,15 +297,12 @@ TEST(ClosingStatementPage, EveryTotalIsTheSumOfTheTypedLines) {
     RandomSale sales(kSeed);
     for (int round = 0; round < 400; ++round) {
         const Job job = sales.Next();
-        RecordingWord recorder;
-        WordSession session(recorder.Application(), recorder.clipboard());
-        SetUpWordSession(session);
+        EngineDesk desk;
         ScriptedDialogs dialogs({round % 2 ? "Yes" : "No", round % 3 ? "Yes" : "No"});
         const Settings settings;
-        TypeDocument(*FindBuilder(kExempt), {job, settings, dialogs}, session);
-        Auditor(recorder.Text()).ExpectToAddUp();
-        if (HasFailure())
-            FAIL() << "seed " << kSeed << ", sale " << round << "\n" << AsOnPaper(recorder.Text());
+        desk.Type(kExempt, {job, settings, dialogs});
+        Auditor(desk.Text()).ExpectToAddUp();
+        if (HasFailure()) FAIL() << "seed " << kSeed << ", sale " << round << "\n" << AsOnPaper(desk.Text());
     }
 }
 

@@ -4,7 +4,7 @@
 #include "core/fields.h"
 #include "production/builders/builder_list.h"
 #include "production/document_goldens.h"
-#include "production/recording_word.h"
+#include "production/engine_desk.h"
 #include "production/sample_deal.h"
 
 namespace quillmark::test {
@@ -157,21 +157,15 @@ TEST(Contracts, PriceIsTheSumOfItsLines) {
 TEST(Contracts, NameTheFairHousingNoticeAmongTheirPapers) {
     Job marked = ContractDeal();
     marked.txtField(PropertyAddress1).tag = "M";
-    const std::string list[] = {kValley, "CHRO Fair Housing Notice"};
     for (const char* const document : kContracts) {
         SCOPED_TRACE(document);
         const auto naming = testing::ContainsRegex("CHRO F[AaIiRr]+ H[OoUuSsIiNnGg]+ N[OoTtIiCcEe]+");
         EXPECT_THAT(Reading(document, ContractDeal()), Not(naming));
         EXPECT_THAT(Reading(document, marked), naming);
 
-        RecordingWord recorder;
-        WordSession session(recorder.Application(), recorder.clipboard());
-        SetUpWordSession(session);
-        const Job job = ContractDeal();
-        Production production = From(job);
-        production.documents = list;
-        TypeDocument(*FindBuilder(document), production, session);
-        EXPECT_THAT(recorder.Text(), naming);
+        EngineDesk desk;
+        desk.Type(document, ContractDeal(), {kValley, "CHRO Fair Housing Notice"});
+        EXPECT_THAT(desk.Text(), naming);
     }
 }
 

@@ -5,10 +5,10 @@
 #include <algorithm>
 
 #include "core/fields.h"
-#include "production/recording_word.h"
+#include "platform/paths.h"
+#include "production/engine_desk.h"
 #include "production/sample_deal.h"
-#include "word/start.h"
-#include "word/trace.h"
+#include "support/scratch.h"
 
 namespace quillmark::test {
 namespace {
@@ -25,36 +25,12 @@ class Creating : public ::testing::Test {
         job.name = "Hollis";
         order.DocumentNames = {"Deed / Warranty", "Schedule A"};
         order.today = 2025y / April / 6;
-        order.startWord = [this] { return word::StartedWordProcessor{Traced(), recorder.clipboard()}; };
-        recorder.SetValue("Version", std::string("16.0"));
-        Sections({word::SectionNewPage, word::SectionNewPage});
-    }
-
-    word::ObjectPtr Traced() {
-        return word::Trace(recorder.Application(),
-                           [this](std::string_view line) { trace.emplace_back(line); });
-    }
-
-    /// A document with these sections, each with its three footers.
-    void Sections(std::vector<int> starts) {
-        recorder.SetValue("ActiveDocument.Sections.Count", static_cast<std::int32_t>(starts.size()));
-        for (std::size_t n = 0; n < starts.size(); ++n) {
-            const std::string section = "ActiveDocument.Sections(" + std::to_string(n + 1) + ")";
-            recorder.SetValue(section + ".PageSetup.SectionStart", starts[n]);
-            recorder.SetValue(section + ".Footers.Count", 3);
-            const int stories[] = {word::PrimaryFooterStory, word::FirstPageFooterStory,
-                                   word::EvenPagesFooterStory};
-            for (int f = 0; f < 3; ++f) {
-                const std::string range = section + ".Footers(" + std::to_string(f + 1) + ").Range";
-                recorder.SetValue(range + ".StoryType", stories[f]);
-                recorder.SetValue(range + ".StoryLength", 50);
-            }
-        }
+        order.startWord = [this] { return desk.Started(); };
     }
 
     void Run() {
         CreateRun run(job, order);
-        run.Run("/tmp/Hollis_QMF.docx");
+        run.Run(TextOf(folder / "Hollis_QMF.docx"));
         notices = run.CreateNotices();
     }
 
@@ -67,13 +43,15 @@ class Creating : public ::testing::Test {
 
     Job job = SampleDeal();
     CreateOrder order;
-    RecordingWord recorder;
-    std::vector<std::string> trace;
+    EngineDesk desk{EngineDesk::Bare{}};
+    const std::vector<std::string>& trace = desk.operations;
     std::string notices;
+    ScratchFolder folder;
 };
 
 TEST_F(Creating, StepsComeInOrder) {
-    recorder.SetValue("Application.Options.CheckSpellingAsYouType", true);
+    desk.session.WordApp.Options.CheckGrammarAsYouType = false;
+    desk.operations.clear();
     Run();
     const std::vector<std::string> steps = {
         "Application.Options.CheckSpellingAsYouType = False",
@@ -84,7 +62,7 @@ TEST_F(Creating, StepsComeInOrder) {
         "ActiveDocument.Sections(1).ProtectedForForms = False",
         "ActiveDocument.Sections(2).ProtectedForForms = False",
         "Selection.GoTo 3, 1",
-        "ActiveDocument.SaveAs \"/tmp/Hollis_QMF.docx\"",
+        "ActiveDocument.SaveAs \"" + TextOf(folder / "Hollis_QMF.docx") + "\"",
         "Application.Options.CheckSpellingAsYouType = True",
         "Application.Visible = True",
     };
@@ -106,8 +84,9 @@ TEST_F(Creating, ProgressGoesFromAQuarterToTheEnd) {
 }
 
 TEST_F(Creating, AFailureRestoresWordAndTheJobAndTellsTheNumber) {
-    recorder.SetValue("Application.Options.CheckGrammarAsYouType", true);
-    recorder.Refuse("ActiveDocument.Sections", 4605);
+    desk.session.WordApp.Options.CheckGrammarAsYouType = true;
+    desk.operations.clear();
+    desk.Refuse("ActiveDocument.Sections", 4605);
     try {
         Run();
         FAIL() << "the refusal was lost";

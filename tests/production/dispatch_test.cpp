@@ -5,7 +5,7 @@
 #include <set>
 
 #include "production/builders/builder_list.h"
-#include "production/recording_word.h"
+#include "production/engine_desk.h"
 #include "production/sample_deal.h"
 #include "selection/document_catalogue.h"
 
@@ -13,12 +13,10 @@ namespace quillmark::test {
 namespace {
 
 std::string Typed(std::string_view entry, const Job& job, std::string* notices = nullptr) {
-    RecordingWord recorder;
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
-    const std::string letters = TypeEntry(entry, From(job), session);
+    EngineDesk desk;
+    const std::string letters = TypeEntry(entry, From(job), desk.session);
     if (notices) *notices = letters;
-    return recorder.Text();
+    return desk.Text();
 }
 
 TEST(Dispatch, EveryKnownEntryIsTypedWithoutFailure) {

@@ -3,9 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "production/builders/builder_list.h"
-#include "production/recording_word.h"
-#include "production/sample_deal.h"
+#include "production/engine_desk.h"
 #include "support/scratch.h"
 
 namespace quillmark::test {
@@ -53,11 +51,9 @@ std::vector<Edit> Compare(const std::vector<std::string>& a, const std::vector<s
 }  // namespace
 
 std::string Reading(const std::string& document, const Job& job) {
-    RecordingWord recorder;
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
-    TypeDocument(*FindBuilder(document), From(job), session);
-    return recorder.Reading();
+    EngineDesk desk;
+    desk.Type(document, job);
+    return desk.Reading();
 }
 
 std::string Redline(const std::string& before, const std::string& after) {

@@ -8,7 +8,7 @@
 /// Documents as golden texts: whole in one configuration of a job, and for each branch only what differs.
 namespace quillmark::test {
 
-/// The document of this job as RecordingWord::Reading gives it.
+/// The document of this job as EngineDesk::Reading gives it.
 std::string Reading(const std::string& document, const Job& job);
 
 /// The changes from one reading to another as a lawyer redlines them, one place to a line, with some words

@@ -8,8 +8,8 @@
 #include "core/people.h"
 #include "production/builders/builder_list.h"
 #include "production/document_goldens.h"
+#include "production/engine_desk.h"
 #include "production/kit/pictures.h"
-#include "production/recording_word.h"
 #include "production/sample_deal.h"
 #include "support/scratch.h"
 #include "word/docx/objects/picture_size.h"
@@ -127,14 +127,9 @@ TEST(TaxPapers, NumberCanBeWrittenInByHandAndAnUnfilledTaxShows) {
 
 TEST(TaxPapers, SheetKnowsWhetherTheCertificationIsMadeToo) {
     const Job job = ClosingDeal();
-    const std::vector<std::string> list = {kCertification, kSheet};
-    RecordingWord recorder;
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
-    Production production = From(job);
-    production.documents = list;
-    TypeDocument(*FindBuilder(kSheet), production, session);
-    EXPECT_THAT(recorder.Reading(), HasSubstr("{x} certifying that the property"));
+    EngineDesk desk;
+    desk.Type(kSheet, job, {kCertification, kSheet});
+    EXPECT_THAT(desk.Reading(), HasSubstr("{x} certifying that the property"));
     EXPECT_THAT(Reading(kSheet, job), HasSubstr("{ } certifying that the property"));
 }
 

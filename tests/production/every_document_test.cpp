@@ -9,7 +9,7 @@
 #include "core/fields.h"
 #include "core/text_conversions.h"
 #include "production/builders/builder_list.h"
-#include "production/recording_word.h"
+#include "production/engine_desk.h"
 #include "production/sample_deal.h"
 #include "selection/document_catalogue.h"
 
@@ -155,28 +155,6 @@ void ForEveryJob(const Job& deal, const std::function<void(const Job&)>& visit) 
                     }
 }
 
-/// The word processor with its format at the end of a document.
-struct Typed {
-    Typed(const Builder& builder, const Job& job) {
-        SetUpWordSession(session);
-        TypeDocument(builder, From(job), session);
-    }
-    RecordingWord recorder;
-    WordSession session{recorder.Application(), recorder.clipboard()};
-};
-
-void ExpectFormatAsFound(const RecordingWord& word) {
-    EXPECT_FALSE(word.characters().bold);
-    EXPECT_FALSE(word.characters().italic);
-    EXPECT_EQ(word.characters().underline, 0);
-    EXPECT_EQ(word.paragraph().left, 0);
-    EXPECT_EQ(word.paragraph().right, 0);
-    EXPECT_EQ(word.paragraph().spaceAfter, 0);
-    EXPECT_EQ(word.paragraph().lineSpacing, 12);
-    EXPECT_TRUE(word.paragraph().tabs.empty());
-    EXPECT_TRUE(word.paragraph().list.empty());
-}
-
 /// The words around a place in a text.
 std::string Around(const std::string& text, std::size_t place) {
     return text.substr(place < 40 ? 0 : place - 40, 80);
@@ -240,9 +218,10 @@ TEST(EveryDocument, ReadsCleanlyInEveryJob) {
             seen;  // documents do not know most choices, and one text need be read only once
         ForEveryJob(FullDeal(), [&](const Job& job) {
             if (testing::Test::HasFailure()) return;
-            const Typed typed(builder, job);
-            ExpectFormatAsFound(typed.recorder);
-            const std::string text = typed.recorder.Text();
+            EngineDesk desk;
+            desk.Type(builder.document, job);
+            EXPECT_EQ(desk.LeftOver(), "");
+            const std::string text = desk.Text();
             if (!NamesOthers(builder.document)) ExpectNobodyElse(text, job);
             if (!seen.insert(text).second) return;
             if (!IsRuled(builder.document)) ExpectCleanSentences(text);

@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "core/fields.h"
-#include "production/builders/builder_list.h"
-#include "production/recording_word.h"
+#include "production/engine_desk.h"
 #include "production/sample_deal.h"
 #include "support/scratch.h"
 
@@ -14,12 +13,9 @@ using namespace field;
 constexpr const char* kSheet = "FILE SUMMARY SHEET";
 
 void ExpectReading(const std::string& golden, const std::string& facts, const Job& job) {
-    RecordingWord recorder;
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
-    TypeDocument(*FindBuilder(kSheet), From(job), session);
-    ExpectGolden("closing/" + golden + ".txt",
-                 std::string(kSheet) + "\n" + facts + "\n\n" + recorder.Reading());
+    EngineDesk desk;
+    desk.Type(kSheet, job);
+    ExpectGolden("closing/" + golden + ".txt", std::string(kSheet) + "\n" + facts + "\n\n" + desk.Reading());
 }
 
 TEST(FileSummarySheet, ByItsParties) {

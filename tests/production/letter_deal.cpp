@@ -1,28 +1,12 @@
 #include "production/letter_deal.h"
 
 #include "core/fields.h"
-#include "platform/dialogs.h"
-#include "production/builders/builder_list.h"
-#include "production/recording_word.h"
+#include "production/engine_desk.h"
 #include "production/sample_deal.h"
 
 namespace quillmark::test {
 
 using namespace field;
-
-namespace {
-
-void Type(RecordingWord& recorder, const std::string& document, const Job& job,
-          std::vector<std::string> others) {
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
-    others.push_back(document);
-    Production production = From(job);
-    production.documents = others;
-    TypeDocument(*FindBuilder(document), production, session);
-}
-
-}  // namespace
 
 Job LetterDeal() {
     Job job = SampleDeal();
@@ -87,17 +71,26 @@ Job LetterDeal() {
     return job;
 }
 
+namespace {
+
+std::vector<std::string> With(std::vector<std::string> others, const std::string& document) {
+    others.push_back(document);
+    return others;
+}
+
+}  // namespace
+
 std::string ReadingBeside(const std::string& document, const Job& job,
                           const std::vector<std::string>& others) {
-    RecordingWord recorder;
-    Type(recorder, document, job, others);
-    return recorder.Reading();
+    EngineDesk desk;
+    desk.Type(document, job, With(others, document));
+    return desk.Reading();
 }
 
 std::string TextBeside(const std::string& document, const Job& job, const std::vector<std::string>& others) {
-    RecordingWord recorder;
-    Type(recorder, document, job, others);
-    return recorder.Text();
+    EngineDesk desk;
+    desk.Type(document, job, With(others, document));
+    return desk.Text();
 }
 
 }  // namespace quillmark::test

@@ -5,7 +5,7 @@
 #include "core/fields.h"
 #include "production/builders/builder_list.h"
 #include "production/document_goldens.h"
-#include "production/recording_word.h"
+#include "production/engine_desk.h"
 #include "production/sample_deal.h"
 #include "support/scratch.h"
 
@@ -80,14 +80,9 @@ TEST(FnmaMortgage, InFullAndByItsParties) {
 
 TEST(FnmaMortgage, MarksTheBalloonRiderThatIsMadeWithIt) {
     const auto text = [](const std::vector<std::string>& documents) {
-        const Job job = MortgagedDeal();
-        Production production = From(job);
-        production.documents = documents;
-        RecordingWord recorder;
-        WordSession session(recorder.Application(), recorder.clipboard());
-        SetUpWordSession(session);
-        TypeDocument(*FindBuilder(kFnma), production, session);
-        return recorder.Text();
+        EngineDesk desk;
+        desk.Type(kFnma, MortgagedDeal(), documents);
+        return desk.Text();
     };
     EXPECT_NE(text({kFnma, kBalloon}).find("{x} Balloon Rider"), std::string::npos);
     EXPECT_NE(text({kFnma, kNote}).find("{ } Balloon Rider"), std::string::npos);

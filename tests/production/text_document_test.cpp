@@ -7,8 +7,8 @@
 #include <set>
 
 #include "production/builders/text_bodies.h"
+#include "production/engine_desk.h"
 #include "production/kit/text_reader.h"
-#include "production/recording_word.h"
 #include "production/sample_deal.h"
 
 namespace quillmark::test {
@@ -22,20 +22,17 @@ constexpr Passage kPassages[] = {
 
 class Desk {
  public:
-    Desk() { SetUpWordSession(session_); }
     void Type(std::string_view text, const Job& job = SampleDeal(), std::span<const TextSource> family = {}) {
         const TextDocument document({"forms/lease.txt", text}, kPassages, family);
         EXPECT_THAT(document.Errors(), ElementsAre());
-        Typist type(session_);
-        before_ = recorder_.operations().size();
-        document.Type(JobValues(job), type);
+        desk_.operations.clear();
+        document.Type(JobValues(job), desk_.type);
     }
-    std::string Text() const { return recorder_.Text(); }
-    std::string Reading() const { return recorder_.Reading(); }
+    std::string Text() const { return desk_.Text(); }
+    std::string Reading() const { return desk_.Reading(); }
     std::vector<std::string> Typed() const {
         std::vector<std::string> typed;
-        for (std::size_t i = before_; i < recorder_.operations().size(); ++i) {
-            const std::string& operation = recorder_.operations()[i];
+        for (const std::string& operation : desk_.operations) {
             if (operation.find("TypeText") != std::string::npos ||
                 operation.find("ListFormat") != std::string::npos)
                 typed.push_back(operation.substr(10));
@@ -44,9 +41,7 @@ class Desk {
     }
 
  private:
-    RecordingWord recorder_;
-    WordSession session_{recorder_.Application(), recorder_.clipboard()};
-    std::size_t before_ = 0;
+    EngineDesk desk_;
 };
 
 std::string TypedText(std::string_view text, const Job& job = SampleDeal()) {
@@ -111,23 +106,17 @@ TEST(TextDocument, PassagesAndNamedTexts) {
 }
 
 TEST(TextDocument, LeavesTheParagraphAsItFoundIt) {
-    RecordingWord recorder;
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
-    Typist type(session);
+    EngineDesk desk;
     TextDocument({"a/b.txt", "@indents 0.5\n@tabs 1 2\n@align centre\n@space after 6\n# Only item"}, {})
-        .Type(JobValues(SampleDeal()), type);
-    const RecordingWord::Paragraph& last = recorder.paragraph();
-    EXPECT_EQ(last.left, 0);
-    EXPECT_EQ(last.alignment, 0);
-    EXPECT_EQ(last.spaceAfter, 0);
-    EXPECT_TRUE(last.tabs.empty());
-    EXPECT_TRUE(last.list.empty());
+        .Type(JobValues(SampleDeal()), desk.type);
+    EXPECT_EQ(desk.LeftOver(), "");
+    EXPECT_TRUE(desk.Reading().ends_with("[left, indents 0 and 0]\n\n")) << desk.Reading();
 
-    type.Indents(0.25);
+    desk.type.Indents(0.25);
     TextDocument({"a/b.txt", "# Item of a body\n\n@indents 0.5\nMore"}, {})
-        .Type(JobValues(SampleDeal()), type);
-    EXPECT_EQ(recorder.paragraph().left, 18) << "a body ends with the indents of its document";
+        .Type(JobValues(SampleDeal()), desk.type);
+    EXPECT_TRUE(desk.Reading().ends_with("[left, indents 18 and 18]\n\n"))
+        << desk.Reading() << "a body ends with the indents of its document";
 }
 
 TEST(TextDocument, NamesEveryFaultWithItsLine) {

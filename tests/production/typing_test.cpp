@@ -4,10 +4,10 @@
 #include <gtest/gtest.h>
 
 #include "production/builders/builder_list.h"
+#include "production/engine_desk.h"
 #include "production/kit/job_values.h"
 #include "production/kit/passages.h"
 #include "production/kit/phrases.h"
-#include "production/recording_word.h"
 #include "production/sample_deal.h"
 
 namespace quillmark::test {
@@ -16,30 +16,17 @@ namespace {
 using namespace field;
 using testing::ElementsAre;
 
-struct Desk {
-    Desk() {
-        SetUpWordSession(session);
-        before = recorder.operations().size();
-    }
-    std::vector<std::string> Operations() const {
-        return {recorder.operations().begin() + static_cast<std::ptrdiff_t>(before),
-                recorder.operations().end()};
-    }
-    RecordingWord recorder;
-    WordSession session{recorder.Application(), recorder.clipboard()};
-    Typist type{session};
-    std::size_t before = 0;
-};
-
 TEST(WordSession, SetsTheDefaultPageInOrder) {
-    RecordingWord recorder;
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
+    EngineDesk desk(EngineDesk::Bare{});
+    desk.session.WordApp.Options.CheckSpellingAsYouType = false;
+    desk.session.WordApp.Options.CheckGrammarAsYouType = false;
+    desk.operations.clear();
+    SetUpWordSession(desk.session);
     EXPECT_THAT(
-        recorder.operations(),
+        desk.operations,
         ElementsAre("Application.Options.CheckSpellingAsYouType -> False",  //
                     "Application.Options.CheckGrammarAsYouType -> False",   //
-                    "Application.Documents.Add",                            //
+                    "Documents.Add",                                        //
                     "ActiveDocument.DefaultTabStop = 18",                   //
                     "ActiveDocument.PageSetup.LeftMargin = 45",             //
                     "ActiveDocument.PageSetup.RightMargin = 45",            //
@@ -63,9 +50,9 @@ TEST(WordSession, SetsTheDefaultPageInOrder) {
 }
 
 TEST(WordSession, PutsBackTheCheckersThatWereOn) {
-    RecordingWord recorder;
-    recorder.SetValue("Application.Options.CheckSpellingAsYouType", true);
-    WordSession session(recorder.Application(), recorder.clipboard());
+    EngineDesk desk(EngineDesk::Bare{});
+    WordSession& session = desk.session;
+    session.WordApp.Options.CheckGrammarAsYouType = false;
     SetUpWordSession(session);
     EXPECT_TRUE(session.SpellingWasOn);
     EXPECT_FALSE(session.GrammarWasOn);
@@ -76,36 +63,35 @@ TEST(WordSession, PutsBackTheCheckersThatWereOn) {
 }
 
 TEST(WordSession, GoesOnWithoutTheStyleThatAnOldWordLacks) {
-    RecordingWord recorder;
-    recorder.Refuse("ActiveDocument.Styles(\"List Paragraph\")", word::error::kNoSuchElement);
-    WordSession session(recorder.Application(), recorder.clipboard());
-    SetUpWordSession(session);
-    EXPECT_TRUE(session.ListTemplateOutline);
+    EngineDesk desk(EngineDesk::Bare{});
+    desk.Refuse("ActiveDocument.Styles(\"List Paragraph\")", word::error::kNoSuchElement);
+    SetUpWordSession(desk.session);
+    EXPECT_TRUE(desk.session.ListTemplateOutline);
 
-    recorder.Refuse("ActiveDocument.Styles(\"List Paragraph\")", word::error::kServerGone);
-    EXPECT_THROW(SetUpWordSession(session), word::AutomationError);
+    desk.Refuse("ActiveDocument.Styles(\"List Paragraph\")", word::error::kServerGone);
+    EXPECT_THROW(SetUpWordSession(desk.session), word::AutomationError);
 }
 
 TEST(Typist, BoldInsideABoldRunEndsIt) {
-    Desk desk;
+    EngineDesk desk;
     desk.type.Bold(true);
     desk.type.TypeBold("a");
     desk.type.Text("b");
-    EXPECT_TRUE(desk.recorder.Reading().ends_with("*a*b\n")) << desk.recorder.Reading();
+    EXPECT_TRUE(desk.Reading().ends_with("*a*b\n")) << desk.Reading();
 }
 
 TEST(Typist, LineEndsOfAValueAreParagraphs) {
-    Desk desk;
+    EngineDesk desk;
     desk.type.Text("a\r\nb\nc\rd\n\ne", "\r");
-    EXPECT_EQ(desk.recorder.Text(), "a\nb\nc\nd\n\ne\n\n");
+    EXPECT_EQ(desk.Text(), "a\nb\nc\nd\n\ne\n\n");
 }
 
 TEST(Typist, ListEndsWithTheIndentsOfTheText) {
-    Desk desk;
+    EngineDesk desk;
     desk.type.Indents(0.5);
-    desk.before = desk.recorder.operations().size();
+    desk.operations.clear();
     desk.type.NumberedList({"First", "Second"});
-    EXPECT_THAT(desk.Operations(),
+    EXPECT_THAT(desk.operations,
                 ElementsAre("Selection.Range.ListFormat.ApplyListTemplate ActiveDocument.ListTemplates(1)",
                             "Selection.TypeText \"First\\v\\r\"", "Selection.TypeText \"Second\\v\\r\"",
                             "Selection.Range.ListFormat.RemoveNumbers",
@@ -113,7 +99,7 @@ TEST(Typist, ListEndsWithTheIndentsOfTheText) {
 }
 
 TEST(Typist, OutlineGoesInAndOut) {
-    Desk desk;
+    EngineDesk desk;
     desk.type.BeginOutline();
     desk.type.Text("AFFIDAVITS.");
     desk.type.EndItem();
@@ -123,7 +109,7 @@ TEST(Typist, OutlineGoesInAndOut) {
     desk.type.ListOut();
     desk.type.EndList();
     EXPECT_THAT(
-        desk.Operations(),
+        desk.operations,
         ElementsAre("Selection.Range.ListFormat.ApplyListTemplate ActiveDocument.ListTemplates(2)",
                     "Selection.TypeText \"AFFIDAVITS.\"", "Selection.TypeText \"\\v\\r\"",
                     "Selection.Range.ListFormat.ListIndent",  //
@@ -133,10 +119,10 @@ TEST(Typist, OutlineGoesInAndOut) {
 }
 
 TEST(Typist, FormFieldsStandAtTheInsertionPoint) {
-    Desk desk;
+    EngineDesk desk;
     desk.type.CheckBox(true);
     desk.type.TextField("(click here & enter text)");
-    EXPECT_THAT(desk.Operations(),
+    EXPECT_THAT(desk.operations,
                 ElementsAre("ActiveDocument.FormFields.Add Selection.Range, 71",
                             "ActiveDocument.FormFields(1).CheckBox.Value = True",
                             "ActiveDocument.FormFields.Add Selection.Range, 70",
@@ -144,25 +130,25 @@ TEST(Typist, FormFieldsStandAtTheInsertionPoint) {
 }
 
 TEST(Passages, JuratIsSwornBeforeTheSellersAttorney) {
-    Desk desk;
+    EngineDesk desk;
     const Job job = SampleDeal();
     TypeJurat(JobValues(job), desk.type);
     TypeNotary(JobValues(job), desk.type);
-    EXPECT_EQ(desk.recorder.Text(),
+    EXPECT_EQ(desk.Text(),
               "Subscribed and sworn to before me this 2nd day of May, 2024.\n\n\n\t" + SignatureRule() +
                   "\n\tRuth Ann Penfield\n\tNotary Public/Commissioner of the Superior Court\n\n");
 }
 
 std::string Grantors(const Job& job, Names names) {
-    Desk desk;
+    EngineDesk desk;
     TypeGrantorPhrase(JobValues(job), desk.type, names);
-    return desk.recorder.Reading();
+    return desk.Reading();
 }
 
 std::string Grantees(const Job& job, Tenancy tenancy) {
-    Desk desk;
+    EngineDesk desk;
     TypeGranteePhrase(JobValues(job), desk.type, Names::Plain, tenancy);
-    return desk.recorder.Text();
+    return desk.Text();
 }
 
 TEST(Phrases, NamesAreBoldOnRequest) {

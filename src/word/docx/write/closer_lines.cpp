@@ -12,9 +12,10 @@ namespace {
 
 constexpr double kTwips = 20;
 constexpr double kWholeLine = 240;
-/// Half a point of a line of twelve; four of them still leave the letters of two lines apart.
+/// Half a point of a line of twelve; five of them still leave the letters of two lines apart, and a statement
+/// with every line that there is on its page.
 constexpr int kStep = 10;
-constexpr int kMostSteps = 4;
+constexpr int kMostSteps = 5;
 /// What the reckoning may be wrong by.
 constexpr double kMargin = 6;
 /// A line with letters of two faces reaches higher and lower than one of either, by so much for Times and a
