@@ -12,8 +12,11 @@ namespace quillmark::desktop {
 const std::vector<std::string_view>& GuidePages() {
     // The program's first box sends the reader to page 3, the firm's defaults.
     static const std::vector<std::string_view> pages = {
-        "calculator",        "create",   "op236",    "envelopes", "files",       "templates", "field-list",
-        "closing-statement", "messages", "keyboard", "windows",   "command-line"};
+        "index",         "first-document", "firm-defaults", "naming",     "documents",
+        "gallery",       "packages",       "custom-forms",  "grid",       "amounts",
+        "address-books", "schedule-a",     "calculator",    "create",     "op236",
+        "envelopes",     "files",          "templates",     "field-list", "closing-statement",
+        "messages",      "keyboard",       "command-line",  "windows"};
     return pages;
 }
 
