@@ -9,7 +9,8 @@
 /// Running another program to its end, as the PDF output needs it; one source file for each kind of system.
 namespace quillmark {
 
-/// The first of these programs that stands in a folder of the PATH.
+/// The first of these programs that stands in a folder of the PATH, or, on Windows, of which its setup has
+/// told the system.
 std::optional<std::filesystem::path> FindProgram(const std::vector<std::string>& names);
 
 enum class ProgramEnd { Done, Failed, TimedOut };

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <array>
+#include <string>
 #include <system_error>
 
 #include "platform/paths.h"
@@ -46,13 +48,36 @@ HANDLE MakeProcessGroup(const std::string& what) {
     return group;
 }
 
+std::optional<fs::path> OnThePath(const std::wstring& name) {
+    std::array<wchar_t, MAX_PATH> found = {};
+    const DWORD length = SearchPathW(nullptr, name.c_str(), L".exe", MAX_PATH, found.data(), nullptr);
+    if (length == 0 || length >= MAX_PATH) return {};
+    return fs::path(found.data());
+}
+
+/// Where setups tell the system of their program, for this user or for all: few put it on the path.
+std::optional<fs::path> AsInstalled(const std::wstring& name) {
+    const std::wstring key = L"Software\\Microsoft\\Windows\\CurrentVersion\\App Paths\\" + name + L".exe";
+    for (const HKEY whose : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
+        std::array<wchar_t, 1024> value = {};
+        DWORD size = sizeof value;
+        if (RegGetValueW(whose, key.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, value.data(), &size) !=
+            ERROR_SUCCESS)
+            continue;
+        std::wstring program = value.data();
+        std::erase(program, L'"');
+        std::error_code unreachable;
+        if (fs::exists(program, unreachable)) return fs::path(program);
+    }
+    return {};
+}
+
 }  // namespace
 
 std::optional<fs::path> FindProgram(const std::vector<std::string>& names) {
     for (const std::string& name : names) {
-        wchar_t found[MAX_PATH];
-        const DWORD length = SearchPathW(nullptr, PathOf(name).c_str(), L".exe", MAX_PATH, found, nullptr);
-        if (length > 0 && length < MAX_PATH) return fs::path(found);
+        if (auto found = OnThePath(PathOf(name).wstring())) return found;
+        if (auto found = AsInstalled(PathOf(name).wstring())) return found;
     }
     return {};
 }
