@@ -14,6 +14,13 @@ namespace {
 constexpr double kTwipsPerPixel = 15;
 constexpr std::size_t kPathRow = 11;  ///< of List3
 constexpr QSize kFirstSize(1240, 680);
+constexpr QSize kLargestFirstSize(1680, 1000);
+
+/// Most of the screen, unless that is a large one.
+QSize FirstSizeOn(const QScreen& screen) {
+    const QSize available = screen.availableSize();
+    return (available * 9 / 10).boundedTo(kLargestFirstSize).expandedTo(kFirstSize).boundedTo(available);
+}
 
 bool IsWithin(const QWidget* widget, const QWidget* part) {
     return part && (widget == part || part->isAncestorOf(widget));
@@ -31,7 +38,7 @@ MainWindow::MainWindow(MainScreen& screen)
     Connect();
     AddShortcuts();
     SetTabOrder();
-    resize(kFirstSize.boundedTo(QWidget::screen()->availableSize()));
+    resize(FirstSizeOn(*QWidget::screen()));
     ShowState();
 }
 
@@ -50,6 +57,7 @@ void MainWindow::Connect() {
     connect(List3_, &SettingsView::RowOpened, this,
             [this](std::size_t row) { desk_.Do([row](MainScreen& screen) { screen.EditSetting(row); }); });
     connect(preview_, &PreviewPane::RowWanted, this, &MainWindow::GoToField);
+    connect(preview_, &PreviewPane::CloseWanted, this, [this] { ShowPreview(false); });
     connect(view_, &ViewControls::Dimmed, this, &MainWindow::ShowState);
     connect(qApp, &QApplication::focusChanged, this, &MainWindow::FocusMoved);
 }
@@ -124,26 +132,13 @@ void MainWindow::ShowPage() {
 void MainWindow::ShowCounters() {
     const ScreenState& state = desk_.State();
     const bool counts = !state.grid.empty() && state.mode == ScreenMode::Job;
-    counters_->setText(counts ? tr("total flds %1     remaining %2").arg(state.total).arg(state.remaining)
+    counters_->setText(counts ? tr("total flds %1   remaining %2").arg(state.total).arg(state.remaining)
                               : QString());
 }
 
 void MainWindow::ShowPreview(bool shown) {
-    if (shown == PreviewShown()) return;
-    if (!shown) previewWidth_ = PreviewWidth();
-    preview_->setVisible(shown);
-    if (shown) SetPreviewWidth(previewWidth_);
-}
-
-void MainWindow::SetPreviewWidth(int width) {
-    constexpr int kUsual = 460;
-    previewWidth_ = width > 0 ? width : kUsual;
-    const int whole = beside_->width() - beside_->handleWidth();
-    beside_->setSizes({std::max(1, whole - previewWidth_), previewWidth_});
-}
-
-int MainWindow::PreviewWidth() const {
-    return PreviewShown() ? beside_->sizes().last() : previewWidth_;
+    panes_->PreferPage(shown);
+    panes_->WantPage(shown);
 }
 
 /// As a click on the row does, which first has to be in sight.
@@ -204,6 +199,7 @@ void MainWindow::ShowFocus() {
     const QWidget* now = focusWidget();
     QWidget* wanted = WidgetOf(focus);
     const bool hasIt = now && now->isEnabled() && now->isVisible() && FocusOf(now) == focus;
+    if (focus == ScreenFocus::Documents) panes_->PreferPage(false);
     if (!wanted || !wanted->isEnabled() || hasIt) return;
     wanted->setFocus(Qt::OtherFocusReason);
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QActionGroup>
-#include <QSplitter>
 #include <QStackedWidget>
 #include <QToolButton>
 #include <QWidget>
@@ -18,11 +17,14 @@
 #include "desktop/panels/progress_panel.h"
 #include "desktop/panels/settings_view.h"
 #include "desktop/panels/view_controls.h"
+#include "desktop/panes.h"
 #include "desktop/preview/preview_pane.h"
 #include "desktop/side_window_flow.h"
 #include "desktop/toolkit/appearance.h"
 #include "desktop/toolkit/desk.h"
 #include "session/window_placement.h"
+
+class QSplitter;
 
 namespace quillmark::desktop {
 
@@ -49,13 +51,11 @@ class MainWindow final : public QWidget {
     void SetTheme(ThemeChoice choice);
     ThemeChoice Theme() const { return theme_; }
 
-    /// The live page beside the grid.
+    /// The live page beside the grid; in a narrow window it takes the place of the documents.
     void ShowPreview(bool shown);
     bool PreviewShown() const { return !preview_->isHidden(); }
-    /// Its width in pixels; 0 leaves it to the window.
-    void SetPreviewWidth(int width);
-    int PreviewWidth() const;
     PreviewPane& Preview() { return *preview_; }
+    Panes& PaneWidths() { return *panes_; }
 
     Desk& CommandDesk() { return desk_; }
     Appearance& Look() { return appearance_; }
@@ -70,7 +70,8 @@ class MainWindow final : public QWidget {
  private:
     void Arrange();
     QWidget* MakeLeft();
-    QWidget* MakeRight();
+    QWidget* MakeRight(QSplitter* beside);
+    QWidget* MakeWork(QWidget* parent);
     QLayout* MakeButtonRow(QWidget* parent);
     QWidget* MakeWelcome();
     QLayout* MakeFooter(QWidget* parent);
@@ -112,9 +113,8 @@ class MainWindow final : public QWidget {
     QActionGroup* themes_ = nullptr;
     QToolButton* undo_ = nullptr;
     QToolButton* redo_ = nullptr;
-    QSplitter* beside_ = nullptr;
+    Panes* panes_ = nullptr;
     PreviewPane* preview_ = nullptr;
-    int previewWidth_ = 0;
     ThemeChoice theme_ = ThemeChoice::System;
     QLabel* counters_;
     QWidget* left_ = nullptr;

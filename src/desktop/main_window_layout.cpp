@@ -1,5 +1,6 @@
 #include <QHBoxLayout>
 #include <QMenu>
+#include <QSplitter>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -37,29 +38,21 @@ constexpr WelcomeStep kWelcome[] = {
 }  // namespace
 
 void MainWindow::Arrange() {
-    auto* layout = new QHBoxLayout(this);
+    auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
-    layout->setSpacing(10);
     left_ = MakeLeft();
-    layout->addWidget(left_);
-    beside_ = new QSplitter(Qt::Horizontal, this);
-    beside_->setObjectName(QStringLiteral("besideGrid"));
-    beside_->setChildrenCollapsible(false);
-    beside_->setHandleWidth(8);
-    beside_->addWidget(MakeRight());
-    preview_ = new PreviewPane(desk_, PreviewPane::RendererProgram(), beside_);
-    preview_->hide();
-    beside_->addWidget(preview_);
-    beside_->setStretchFactor(0, 1);
-    beside_->setStretchFactor(1, 0);
-    layout->addWidget(beside_, 1);
+    auto* beside = new QSplitter(Qt::Horizontal);
+    beside->setObjectName(QStringLiteral("besideGrid"));
+    QWidget* right = MakeRight(beside);
+    preview_ = new PreviewPane(desk_, appearance_, PreviewPane::RendererProgram(), beside);
+    panes_ = new Panes(left_, right, beside, preview_, this);
+    layout->addWidget(panes_);
     FitToFont();
 }
 
 void MainWindow::FitToFont() {
-    for (QPushButton* button : topButtons_) button->setMinimumHeight(2 * fontMetrics().lineSpacing() + 12);
-    left_->setFixedWidth(
-        std::max(fontMetrics().averageCharWidth() * kLeftColumns, options_->sizeHint().width()));
+    for (QPushButton* button : topButtons_) button->setMinimumHeight(2 * fontMetrics().lineSpacing() + 10);
+    panes_->Fit();
 }
 
 QWidget* MainWindow::MakeLeft() {
@@ -76,24 +69,35 @@ QWidget* MainWindow::MakeLeft() {
     return left;
 }
 
-QWidget* MainWindow::MakeRight() {
-    auto* right = new QWidget(this);
-    auto* layout = new QVBoxLayout(right);
+/// What is said, where one is, and the rows.
+QWidget* MainWindow::MakeWork(QWidget* parent) {
+    auto* work = new QWidget(parent);
+    auto* layout = new QVBoxLayout(work);
     layout->setContentsMargins({});
     layout->setSpacing(6);
-    jump_ = new JumpBar(desk_, appearance_, right);
-    guidance_ = new GuidanceBar(desk_, appearance_, right);
-    pages_ = new QStackedWidget(right);
+    jump_ = new JumpBar(desk_, appearance_, work);
+    guidance_ = new GuidanceBar(desk_, appearance_, work);
+    pages_ = new QStackedWidget(work);
     grid_ = new GridView(desk_, appearance_, pages_);
     List3_ = new SettingsView(pages_);
     List3_->setObjectName(QStringLiteral("List3"));
     welcome_ = MakeWelcome();
     for (QWidget* page : {static_cast<QWidget*>(grid_), static_cast<QWidget*>(List3_), welcome_})
         pages_->addWidget(page);
-    layout->addLayout(MakeButtonRow(right));
     layout->addWidget(guidance_);
     layout->addWidget(jump_);
     layout->addWidget(pages_, 1);
+    return work;
+}
+
+QWidget* MainWindow::MakeRight(QSplitter* beside) {
+    auto* right = new QWidget(this);
+    auto* layout = new QVBoxLayout(right);
+    layout->setContentsMargins({});
+    layout->setSpacing(6);
+    beside->addWidget(MakeWork(beside));
+    layout->addLayout(MakeButtonRow(right));
+    layout->addWidget(beside, 1);
     layout->addLayout(MakeFooter(right));
     return right;
 }
@@ -116,7 +120,6 @@ QLayout* MainWindow::MakeButtonRow(QWidget* parent) {
 QWidget* MainWindow::MakeWelcome() {
     auto* page = new QFrame(pages_);
     page->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    page->setAutoFillBackground(true);
     page->setBackgroundRole(QPalette::Base);
     auto* logo = new QLabel(page);
     logo->setPixmap(QPixmap(QStringLiteral(":/icons/quillmark-128.png")));
@@ -139,7 +142,7 @@ QWidget* MainWindow::MakeWelcome() {
 
 QLayout* MainWindow::MakeFooter(QWidget* parent) {
     auto* row = new QHBoxLayout;
-    row->setSpacing(10);
+    row->setSpacing(6);
     counters_ = new QLabel(parent);
     view_ = new ViewControls(appearance_, parent);
     undo_ = MakeHistoryButton(QStringLiteral("undo"), QStringLiteral("\u21B6"), parent,

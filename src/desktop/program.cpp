@@ -49,6 +49,7 @@ std::vector<std::string> WithFontsOfTheSystem(std::vector<std::string> fonts) {
 
 const QString kPreviewShown = QStringLiteral("preview/shown");
 const QString kPreviewWidth = QStringLiteral("preview/width");
+const QString kDocumentsWidth = QStringLiteral("documents/width");
 const QString kTheme = QStringLiteral("look/theme");
 const QStringList kThemes = {QStringLiteral("system"), QStringLiteral("light"), QStringLiteral("dark")};
 
@@ -160,8 +161,10 @@ void Program::KeepPlacement() {
     Guarded(window_.get(), [this] {
         if (!window_->isMinimized()) WriteWindowPlacement(order_.folder, window_->Placement());
         QSettings own = OwnSettings();
-        own.setValue(kPreviewShown, window_->PreviewShown());
-        own.setValue(kPreviewWidth, window_->PreviewWidth());
+        const Panes& panes = window_->PaneWidths();
+        own.setValue(kPreviewShown, panes.PageWanted());
+        own.setValue(kPreviewWidth, panes.PageWidth());
+        own.setValue(kDocumentsWidth, panes.DocumentsWidth());
         own.setValue(kTheme, kThemes.at(static_cast<int>(window_->Theme())));
     });
     QCoreApplication::quit();
@@ -186,10 +189,11 @@ void Program::TakeOver(const QString& job) {
 
 /// Where there is no word of it yet, a window with room for the page has it.
 void Program::RestorePreview() {
-    constexpr int kRoomy = 1500;
+    constexpr int kRoomy = 1260;
     const QSettings own = OwnSettings();
-    window_->SetPreviewWidth(own.value(kPreviewWidth, 0).toInt());
-    window_->ShowPreview(own.value(kPreviewShown, window_->width() >= kRoomy).toBool());
+    Panes& panes = window_->PaneWidths();
+    panes.SetWidths(own.value(kDocumentsWidth, 0).toInt(), own.value(kPreviewWidth, 0).toInt());
+    panes.WantPage(own.value(kPreviewShown, window_->width() >= kRoomy).toBool());
 }
 
 void Program::Raise() {

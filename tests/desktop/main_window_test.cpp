@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 #include <map>
@@ -402,6 +403,43 @@ TEST_F(MainWindowTest, EveryStateIsUsableAtTheKeyboardAndByEar) {
     screen->EnterName();
     window->ShowState();
     check("settings");
+}
+
+TEST_F(MainWindowTest, ThePageLeavesANarrowWindowFirstAndItsWidthIsKept) {
+    OpenWindow({1500, 700});
+    screen->TypeName("Lane");
+    screen->PickDocument("Deed / Warranty");
+    window->ShowState();
+    const QWidget& page = Control("previewPane");
+    const QWidget& documents = Control("List1");
+    const auto resize = [&](int width) {
+        window->resize(width, 700);
+        QTest::qWait(20);
+        for (const auto* button : window->findChildren<QAbstractButton*>(
+                 QRegularExpression(QStringLiteral("^(lblJump|cmd|optConf)")))) {
+            if (!button->isVisible()) continue;
+            EXPECT_GE(button->width(), button->sizeHint().width())
+                << button->text().toStdString() << " at " << width;
+        }
+    };
+    window->PaneWidths().SetWidths(340, 460);
+    window->PaneWidths().WantPage(true);
+    resize(1500);
+    EXPECT_EQ(page.width(), 460);
+    resize(1240);
+    EXPECT_TRUE(page.isVisible() && documents.isVisible());
+    EXPECT_LT(page.width(), 460);
+    resize(1024);
+    EXPECT_FALSE(page.isVisible());
+    EXPECT_LE(window->minimumSizeHint().width(), 1024);
+    Press(Qt::Key_F6);
+    EXPECT_TRUE(page.isVisible() && !documents.isVisible()) << "asked for, it takes the documents' place";
+    resize(1500);
+    EXPECT_TRUE(documents.isVisible());
+    EXPECT_EQ(page.width(), 460);
+    resize(1024);
+    Press(Qt::Key_F6);
+    EXPECT_TRUE(documents.isVisible() && !page.isVisible());
 }
 
 TEST_F(MainWindowTest, ScalesInStepsAndComesBackWhereItWas) {

@@ -19,6 +19,11 @@ namespace {
 constexpr int kWhole = 11625;
 constexpr int kLabelPart = 3105;
 constexpr int kNotePart = 1110;
+// And their bounds in characters: names stay whole in a narrow grid, and values near to them in a wide one.
+constexpr int kNarrowLabel = 26;
+constexpr int kWideLabel = 34;
+constexpr int kNarrowNote = 7;
+constexpr int kWideNote = 12;
 
 }  // namespace
 
@@ -221,8 +226,9 @@ void GridView::FitRows() {
 
 void GridView::FitColumns() {
     const int whole = viewport()->width();
-    const int label = whole * kLabelPart / kWhole;
-    const int note = whole * kNotePart / kWhole;
+    const int column = fontMetrics().averageCharWidth();
+    const int label = std::clamp(whole * kLabelPart / kWhole, kNarrowLabel * column, kWideLabel * column);
+    const int note = std::clamp(whole * kNotePart / kWhole, kNarrowNote * column, kWideNote * column);
     setColumnWidth(GridModel::kLabel, label);
     setColumnWidth(GridModel::kFirstNote, note);
     setColumnWidth(GridModel::kSecondNote, note);

@@ -26,7 +26,6 @@ GuidanceBar::GuidanceBar(Desk& desk, const Appearance& appearance, QWidget* pare
     setWordWrap(true);
     setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
-    setAutoFillBackground(true);
     setBackgroundRole(QPalette::Base);
     Describe(this, tr("Guidance"));
     FitTwoLines();

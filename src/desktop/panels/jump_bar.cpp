@@ -31,16 +31,16 @@ JumpBar::JumpBar(Desk& desk, const Appearance& appearance, QWidget* parent)
         auto* label = new CompactButton(QLatin1String(kCaptions[g]), this);
         label->setObjectName(QStringLiteral("lblJump%1").arg(g));
         label->setAutoDefault(false);
-        label->KeepRoomFor(label->text() + kComplete);
         label->setShortcut(QKeySequence(Qt::ALT | (Qt::Key_0 + g)));
         label->setToolTip(tr("go to this group (Alt+%1)").arg(g));
         Describe(label, tr("Go to %1").arg(label->text()), label->toolTip());
         connect(label, &QPushButton::clicked, this,
                 [this, g] { desk_.Do([g](MainScreen& screen) { screen.ClickJumpLabel(g); }); });
         lblJump_[static_cast<std::size_t>(g)] = label;
-        label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Minimum);
         layout->addWidget(label);
     }
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     FitFont();
 }
 
@@ -48,6 +48,37 @@ void JumpBar::FitFont() {
     QFont smaller = font();
     smaller.setPointSizeF(smaller.pointSizeF() * kFont);
     for (std::size_t g = 1; g < lblJump_.size(); ++g) lblJump_[g]->setFont(smaller);
+    FitCaptions();
+}
+
+QString JumpBar::CaptionOf(std::size_t g, bool complete, bool narrow) const {
+    QString caption = QLatin1String(kCaptions[g]);
+    if (narrow) caption.replace(QLatin1Char('/'), QLatin1String("/\n"));
+    return complete ? caption + kComplete : caption;
+}
+
+int JumpBar::WidthNeeded(bool narrow) const {
+    int width = (kLabels - 1) * layout()->spacing();
+    for (std::size_t g = 1; g < lblJump_.size(); ++g)
+        width += lblJump_[g]->WidthOf(CaptionOf(g, true, narrow));
+    return width;
+}
+
+QSize JumpBar::minimumSizeHint() const {
+    return {WidthNeeded(true), QWidget::minimumSizeHint().height()};
+}
+
+void JumpBar::FitCaptions() {
+    narrow_ = width() < WidthNeeded(false);
+    for (std::size_t g = 1; g < lblJump_.size(); ++g) lblJump_[g]->KeepRoomFor(CaptionOf(g, true, narrow_));
+    Show();
+    layout()->invalidate();
+    layout()->activate();
+}
+
+void JumpBar::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    FitCaptions();
 }
 
 void JumpBar::changeEvent(QEvent* event) {
@@ -60,8 +91,7 @@ void JumpBar::Show() {
         const JumpLabel& state = desk_.State().lblJump(g);
         CompactButton* label = lblJump_[g];
         label->setEnabled(state.enabled);
-        const QString caption =
-            QLatin1String(kCaptions[g]) + (state.complete && state.enabled ? kComplete : QString());
+        const QString caption = CaptionOf(g, state.complete && state.enabled, narrow_);
         if (label->text() != caption) {
             const QKeySequence key = label->shortcut();
             label->setText(caption);

@@ -64,7 +64,8 @@ QWidget* OptionPanel::MakeGroup(std::size_t index) {
     frame->setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     frame->setAccessibleName(tr(group.title));
     auto* layout = new QHBoxLayout(frame);
-    layout->setContentsMargins(6, 3, 6, 3);
+    layout->setContentsMargins(5, 3, 4, 3);
+    layout->setSpacing(4);
     for (const auto& [n, caption] : group.options) {
         OptionRadio* option = MakeOption(n, frame);
         option->setText(tr(caption));

@@ -25,7 +25,7 @@ ViewControls::ViewControls(Appearance& appearance, QWidget* parent)
     Slider1_->setObjectName(QStringLiteral("Slider1"));
     Slider1_->setRange(0, Appearance::kDarkest);
     Slider1_->setPageStep(2);
-    Slider1_->setFixedWidth(90);
+    Slider1_->setFixedWidth(60);
     Slider1_->setToolTip(tr("dims the windows"));
     Describe(Slider1_, tr("Dimming"), tr("dims the windows"));
     layout->addWidget(Slider1_);

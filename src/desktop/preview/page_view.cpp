@@ -10,18 +10,24 @@ namespace quillmark::desktop {
 
 namespace {
 
-constexpr QColor kLit(255, 214, 0, 110);
-constexpr QColor kOpen(255, 96, 64, 80);
-constexpr QColor kOpenEdge(200, 40, 20);
+// Over white paper in every theme.
+constexpr QColor kLit(255, 221, 0, 120);
+constexpr QColor kLitEdge(122, 92, 0);
+constexpr QColor kOpen(255, 96, 64, 70);
+constexpr QColor kOpenEdge(179, 38, 30);
+constexpr int kHoverDelay = 50;  ///< milliseconds
 
 }  // namespace
 
-PageView::PageView(QWidget* parent) : QAbstractScrollArea(parent) {
+PageView::PageView(const Appearance& appearance, QWidget* parent)
+    : QAbstractScrollArea(parent), appearance_(appearance) {
     setObjectName(QStringLiteral("pageView"));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
-    viewport()->setBackgroundRole(QPalette::Mid);
+    viewport()->setMouseTracking(true);
+    hover_.setSingleShot(true);
+    connect(&hover_, &QTimer::timeout, this, &PageView::ShowWhetherValue);
     setFocusPolicy(Qt::ClickFocus);
     Describe(this, tr("Pages"),
              tr("the document as it would be made now; a click on a value goes to its row"));
@@ -41,12 +47,14 @@ void PageView::Show(std::shared_ptr<const Pages> pages) {
     marks_.clear();
     pictures_.removeIf([this](const auto& picture) { return !pages_ || picture.key() >= pages_->Count(); });
     FitScrollBar();
+    if (comes_) ShowPageOf(lit_);
     viewport()->update();
 }
 
 void PageView::Light(int n) {
     if (n == lit_) return;
     lit_ = n;
+    comes_ = n > 0;
     ShowPageOf(n);
     viewport()->update();
 }
@@ -57,6 +65,19 @@ void PageView::ShowPageOf(int n) {
     const auto [first, last] = PagesInSight();
     if (page < first || page > last)
         verticalScrollBar()->setValue(TopOf(page) + verticalScrollBar()->value());
+}
+
+void PageView::ComeTo(int page, const QRectF& place) {
+    comes_ = false;
+    const double scale = PageWidth() / pages_->SizeOf(page).width();
+    const int top = TopOf(page) + qRound(place.top() * scale);
+    const int bottom = TopOf(page) + qRound(place.bottom() * scale);
+    const int room = viewport()->height() / 6;
+    QScrollBar& bar = *verticalScrollBar();
+    if (bottom > viewport()->height() - room)
+        bar.setValue(bar.value() + bottom - viewport()->height() + 2 * room);
+    else if (top < room)
+        bar.setValue(bar.value() + top - 2 * room);
 }
 
 bool PageView::IsDrawn() const {
@@ -146,6 +167,7 @@ void PageView::FindMarks(int page) {
             Marks& marks = marks_[page];
             if (needsOpen) marks.open = open;
             if (marks.litField == field) marks.lit = lit;
+            if (comes_ && field == lit_ && !lit.isEmpty()) ComeTo(page, lit.first());
             viewport()->update();
         });
     });
@@ -162,7 +184,8 @@ void PageView::Want(int page) {
 }
 
 void PageView::PaintPage(QPainter& painter, int page) {
-    const QRect paper(kGap, TopOf(page), PageWidth(), PageHeight(page));
+    const QRect paper = PaperOf(page);
+    painter.fillRect(paper.adjusted(-1, -1, 1, 1), palette().mid());
     painter.fillRect(paper, Qt::white);
     const auto picture = pictures_.constFind(page);
     if (picture != pictures_.constEnd()) painter.drawImage(paper, picture->image);
@@ -175,12 +198,19 @@ void PageView::PaintPage(QPainter& painter, int page) {
         painter.fillRect(place(rect), kOpen);
         painter.fillRect(QRectF(place(rect).bottomLeft(), QSizeF(place(rect).width(), 1)), kOpenEdge);
     }
-    for (const QRectF& rect : marks.lit) painter.fillRect(place(rect), kLit);
+    painter.setPen(kLitEdge);
+    painter.setBrush(kLit);
+    for (const QRectF& rect : marks.lit) painter.drawRect(place(rect));
+    painter.fillRect(paper, appearance_.Colours().shade);
+}
+
+QRect PageView::PaperOf(int page) const {
+    return {kGap, TopOf(page), PageWidth(), PageHeight(page)};
 }
 
 void PageView::paintEvent(QPaintEvent*) {
     QPainter painter(viewport());
-    painter.fillRect(viewport()->rect(), palette().mid());
+    painter.fillRect(viewport()->rect(), appearance_.Colours().desk);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const auto [first, last] = PagesInSight();
     for (int page = first; page >= 0 && page <= last; ++page) {
@@ -194,16 +224,37 @@ void PageView::paintEvent(QPaintEvent*) {
     });
 }
 
-void PageView::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::LeftButton || !pages_) return;
-    for (int page = 0; page < pages_->Count(); ++page) {
-        const QRect paper(kGap, TopOf(page), PageWidth(), PageHeight(page));
-        if (!paper.contains(event->position().toPoint())) continue;
+std::pair<int, QPointF> PageView::PointAt(const QPoint& place) const {
+    for (int page = 0; pages_ && page < pages_->Count(); ++page) {
+        const QRect paper = PaperOf(page);
+        if (!paper.contains(place)) continue;
         const double scale = paper.width() / pages_->SizeOf(page).width();
-        const QPointF point = (event->position() - paper.topLeft()) / scale;
-        if (const ValuePlace* value = pages_->ValueAt(page, point)) Q_EMIT ValueClicked(value->n);
-        return;
+        return {page, QPointF(place - paper.topLeft()) / scale};
     }
+    return {-1, {}};
+}
+
+void PageView::mousePressEvent(QMouseEvent* event) {
+    const auto [page, point] = PointAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || page < 0) return;
+    if (const ValuePlace* value = pages_->ValueAt(page, point)) Q_EMIT ValueClicked(value->n);
+}
+
+void PageView::mouseMoveEvent(QMouseEvent*) {
+    if (!hover_.isActive()) hover_.start(kHoverDelay);
+}
+
+/// The pointer becomes a hand over a value, found in the background like all that is read from pages.
+void PageView::ShowWhetherValue() {
+    const auto [page, point] = PointAt(viewport()->mapFromGlobal(QCursor::pos()));
+    if (page < 0) return viewport()->unsetCursor();
+    worker_.start([this, of = std::weak_ptr<const Pages>(pages_), page = page, point = point] {
+        const auto pages = of.lock();
+        const bool isValue = pages && pages->ValueAt(page, point);
+        QMetaObject::invokeMethod(this, [this, isValue] {
+            viewport()->setCursor(isValue ? Qt::PointingHandCursor : Qt::ArrowCursor);
+        });
+    });
 }
 
 }  // namespace quillmark::desktop

@@ -4,8 +4,10 @@
 #include <QHash>
 #include <QSet>
 #include <QThreadPool>
+#include <QTimer>
 
 #include "desktop/preview/pages.h"
+#include "desktop/toolkit/appearance.h"
 
 namespace quillmark::desktop {
 
@@ -15,12 +17,12 @@ class PageView final : public QAbstractScrollArea {
     Q_OBJECT
 
  public:
-    explicit PageView(QWidget* parent);
+    PageView(const Appearance& appearance, QWidget* parent);
     ~PageView() override;
 
     /// The scroll position stays. Null shows nothing.
     void Show(std::shared_ptr<const Pages> pages);
-    /// Lights the values of this field; 0 for none. A page with one comes into view.
+    /// Lights the values of this field; 0 for none. The first of them comes into view.
     void Light(int n);
     /// Whether the first page in sight is drawn as it is now.
     bool IsDrawn() const;
@@ -34,6 +36,7 @@ class PageView final : public QAbstractScrollArea {
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
     /// What is drawn over a page, in points.
@@ -58,14 +61,22 @@ class PageView final : public QAbstractScrollArea {
     void DrawPicture(int page);
     void FindMarks(int page);
     void PaintPage(QPainter& painter, int page);
+    void ComeTo(int page, const QRectF& place);
+    QRect PaperOf(int page) const;
+    /// The page there and the point on it, in points; -1 beside the pages.
+    std::pair<int, QPointF> PointAt(const QPoint& place) const;
+    void ShowWhetherValue();
 
-    static constexpr int kGap = 10;
+    static constexpr int kGap = 12;
 
+    const Appearance& appearance_;
     std::shared_ptr<const Pages> pages_;
     QHash<int, Picture> pictures_;
     QHash<int, Marks> marks_;
     QSet<int> drawing_;
     int lit_ = 0;
+    bool comes_ = false;  ///< what is lit has not come into view yet
+    QTimer hover_;
     QThreadPool worker_;
 };
 

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QStandardPaths>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <functional>
 
@@ -35,27 +36,31 @@ QString PreviewPane::RendererProgram() {
     return QCoreApplication::applicationDirPath() + QStringLiteral("/quillmark-preview");
 }
 
-PreviewPane::PreviewPane(Desk& desk, const QString& renderer, QWidget* parent)
+PreviewPane::PreviewPane(Desk& desk, const Appearance& appearance, const QString& renderer, QWidget* parent)
     : QWidget(parent), desk_(desk), renderer_(renderer, ProfileFolder(), this) {
     setObjectName(QStringLiteral("previewPane"));
-    list_ = new QComboBox(this);
-    list_->setObjectName(QStringLiteral("previewList"));
-    list_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    list_->setMinimumContentsLength(12);
-    list_->setFocusPolicy(Qt::TabFocus);
-    Describe(list_, tr("Document shown"));
     note_ = new QLabel(this);
     note_->setWordWrap(true);
+    note_->setFrameStyle(QFrame::StyledPanel);
+    note_->setBackgroundRole(QPalette::Base);
+    note_->setMargin(6);
     note_->setVisible(false);
     views_ = new QStackedWidget(this);
-    pages_ = new PageView(views_);
+    pages_ = new PageView(appearance, views_);
     text_ = new TextView(views_);
-    views_->addWidget(text_);
-    views_->addWidget(pages_);
+    empty_ = new QLabel(views_);
+    empty_->setAlignment(Qt::AlignCenter);
+    empty_->setWordWrap(true);
+    empty_->setForegroundRole(QPalette::PlaceholderText);
+    empty_->setFrameStyle(QFrame::StyledPanel);
+    empty_->setMargin(20);
+    for (QWidget* view :
+         {static_cast<QWidget*>(text_), static_cast<QWidget*>(pages_), static_cast<QWidget*>(empty_)})
+        views_->addWidget(view);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(6);
-    layout->addWidget(list_);
+    layout->addLayout(MakeHead());
     layout->addWidget(note_);
     layout->addWidget(views_, 1);
     worker_.setMaxThreadCount(1);
@@ -77,11 +82,35 @@ PreviewPane::PreviewPane(Desk& desk, const QString& renderer, QWidget* parent)
     });
     connect(&renderer_, &RendererProcess::GivenUp, this, [this](const QString& why) {
         hasPages_ = false;
-        Say(tr("Text only: pages need LibreOffice Writer (on Debian and Ubuntu the package "
-               "libreoffice-writer). %1")
-                .arg(why));
+        textOnly_ = tr("Text only: pages need LibreOffice Writer (on Debian and Ubuntu the package "
+                       "libreoffice-writer). %1")
+                        .arg(why);
+        Say(textOnly_);
         ShowText();
     });
+}
+
+/// Which document, and the way to close.
+QLayout* PreviewPane::MakeHead() {
+    list_ = new QComboBox(this);
+    list_->setObjectName(QStringLiteral("previewList"));
+    list_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    list_->setMinimumContentsLength(12);
+    list_->setFocusPolicy(Qt::TabFocus);
+    list_->setToolTip(tr("the document whose pages are shown"));
+    Describe(list_, tr("Document shown"));
+    auto* close = new QToolButton(this);
+    close->setText(QStringLiteral("\u2715"));
+    close->setAutoRaise(true);
+    close->setFocusPolicy(Qt::TabFocus);
+    close->setToolTip(tr("closes the live page (F6)"));
+    Describe(close, tr("Close the live page"), close->toolTip());
+    connect(close, &QToolButton::clicked, this, &PreviewPane::CloseWanted);
+    auto* head = new QHBoxLayout;
+    head->setSpacing(4);
+    head->addWidget(list_, 1);
+    head->addWidget(close);
+    return head;
 }
 
 PreviewPane::~PreviewPane() {
@@ -125,8 +154,9 @@ void PreviewPane::NothingToShow(const QString& why) {
     pages_->Show(nullptr);
     hasPages_ = false;
     text_->clear();
-    views_->setCurrentWidget(text_);
-    Say(why);
+    empty_->setText(why);
+    views_->setCurrentWidget(empty_);
+    Say({});
 }
 
 void PreviewPane::FillList() {
@@ -223,8 +253,9 @@ void PreviewPane::Make() {
 
 void PreviewPane::TakeText(std::shared_ptr<const Preview> made, const QString& file) {
     made_ = std::move(made);
-    if (!renderer_.IsGivenUp()) Say({});
-    if (!made_->missing.empty()) Say(tr("Not shown: %1").arg(Shown(made_->missing.front())));
+    QStringList notes(textOnly_);
+    if (!made_->missing.empty()) notes += tr("Not shown: %1").arg(Shown(made_->missing.front()));
+    Say(notes.join(QLatin1Char('\n')).trimmed());
     if (!hasPages_) ShowText();
     rendering_ = made_;
     renderer_.Render(file);

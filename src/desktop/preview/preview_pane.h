@@ -26,7 +26,7 @@ class PreviewPane final : public QWidget {
     /// The program quillmark-preview: beside this one, or where the variable QUILLMARK_PREVIEW says.
     static QString RendererProgram();
 
-    PreviewPane(Desk& desk, const QString& renderer, QWidget* parent);
+    PreviewPane(Desk& desk, const Appearance& appearance, const QString& renderer, QWidget* parent);
     ~PreviewPane() override;
 
     /// As the state has it now: lights the current row's value, and makes the pages anew if it takes that.
@@ -37,6 +37,8 @@ class PreviewPane final : public QWidget {
     qint64 LastDelay() const { return lastDelay_; }
 
  Q_SIGNALS:
+    /// The person wants no page.
+    void CloseWanted();
     /// The person wants this field's row.
     void RowWanted(int n);
     /// What the job is now is on the screen.
@@ -60,6 +62,7 @@ class PreviewPane final : public QWidget {
     void ShowText();
     void Say(const QString& text);
     void NothingToShow(const QString& why);
+    QLayout* MakeHead();
 
     static constexpr int kAll = 1;        ///< line of the list
     static constexpr int kFirstName = 2;  ///< the job list's first entry
@@ -68,6 +71,7 @@ class PreviewPane final : public QWidget {
     RendererProcess renderer_;
     QComboBox* list_;
     QLabel* note_;
+    QLabel* empty_;
     QStackedWidget* views_;
     PageView* pages_;
     TextView* text_;
@@ -81,6 +85,7 @@ class PreviewPane final : public QWidget {
     quint64 run_ = 0;                   ///< of the newest making; what older ones bring is dropped
     std::shared_ptr<const Preview> made_;
     std::shared_ptr<const Preview> rendering_;
+    QString textOnly_;  ///< why, once there is no renderer
     bool hasPages_ = false;
     qint64 lastDelay_ = 0;
 };

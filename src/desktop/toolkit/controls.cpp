@@ -61,12 +61,19 @@ void MarkUnusual(QAbstractButton* widget, bool unusual) {
     widget->setPalette(palette);
 }
 
-QSize CompactButton::sizeHint() const {
+int CompactButton::WidthOf(const QString& caption) const {
     constexpr int kPadding = 5;
-    const auto widthOf = [this](const QString& caption) {
-        return fontMetrics().size(Qt::TextShowMnemonic, caption).width() + 2 * kPadding;
-    };
-    return {std::max(widthOf(text()), widthOf(widest_)), QPushButton::sizeHint().height()};
+    return fontMetrics().size(Qt::TextShowMnemonic, caption).width() + 2 * kPadding;
+}
+
+QSize CompactButton::sizeHint() const {
+    return {std::max(WidthOf(text()), WidthOf(widest_)), QPushButton::sizeHint().height()};
+}
+
+void CompactButton::KeepRoomFor(const QString& caption) {
+    if (caption == widest_) return;
+    widest_ = caption;
+    updateGeometry();
 }
 
 QLabel* NewGuidance(QWidget* window, std::string_view text) {

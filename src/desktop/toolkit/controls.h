@@ -48,7 +48,9 @@ class CompactButton : public QPushButton {
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
     /// Room is kept for this caption as well, so that nothing moves when it comes.
-    void KeepRoomFor(const QString& caption) { widest_ = caption; }
+    void KeepRoomFor(const QString& caption);
+    /// How wide it is with that caption.
+    int WidthOf(const QString& caption) const;
 
  private:
     QString widest_;

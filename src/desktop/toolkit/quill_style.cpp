@@ -17,6 +17,8 @@ namespace {
 
 constexpr char kPrimary[] = "primary";
 constexpr int kScrollBar = 12;
+constexpr QColor kWarning(0x9A, 0x5B, 0x00);
+constexpr QColor kStop(0xB3, 0x26, 0x1E);
 constexpr int kShortestHandle = 28;  ///< of a scroll bar
 
 bool Is(const QStyleOption& option, QStyle::StateFlag flag) {
@@ -112,7 +114,24 @@ QSize QuillStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     if (type == CT_PushButton || type == CT_LineEdit || type == CT_ComboBox) size.rheight() += 2;
     if (type == CT_MenuItem) size.rheight() += 2;
+    if (type == CT_ItemViewItem) size.rheight() += 3;
     return size;
+}
+
+QIcon QuillStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
+    const QPalette palette = option ? option->palette : widget ? widget->palette() : QPalette();
+    switch (icon) {
+        case SP_MessageBoxQuestion:
+            return SignIcon(QLatin1Char('?'), palette.color(QPalette::Highlight));
+        case SP_MessageBoxInformation:
+            return SignIcon(QLatin1Char('i'), palette.color(QPalette::Highlight));
+        case SP_MessageBoxWarning:
+            return SignIcon(QLatin1Char('!'), kWarning);
+        case SP_MessageBoxCritical:
+            return SignIcon(QLatin1Char('!'), kStop);
+        default:
+            return QProxyStyle::standardIcon(icon, option, widget);
+    }
 }
 
 void QuillStyle::polish(QWidget* widget) {

@@ -77,6 +77,27 @@ void DrawBox(QPainter& painter, const QRectF& rect, const QColor& line, double w
     painter.drawRoundedRect(rect.adjusted(half, half, -half, -half), kRound, kRound);
 }
 
+QIcon SignIcon(QChar letter, const QColor& disk) {
+    QIcon icon;
+    for (const int size : {32, 64, 96}) {
+        QPixmap picture(size, size);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(disk);
+        painter.drawEllipse(picture.rect().adjusted(1, 1, -1, -1));
+        QFont font;
+        font.setPixelSize(size * 5 / 8);
+        font.setBold(true);
+        painter.setFont(font);
+        painter.setPen(Qt::white);
+        painter.drawText(picture.rect(), Qt::AlignCenter, letter);
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
+
 void DrawButton(QPainter& painter, const QStyleOption& button, bool isPrimary) {
     const QPalette& palette = button.palette;
     const QColor accent = palette.color(QPalette::Highlight);

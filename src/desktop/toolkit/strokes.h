@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QBrush>
+#include <QIcon>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -9,6 +10,9 @@ namespace quillmark::desktop {
 
 /// A line inside the rectangle's edge, with round corners, around that ground.
 void DrawBox(QPainter& painter, const QRectF& rect, const QColor& line, double width, const QBrush& ground);
+
+/// A white letter on a disk of that colour, for boxes.
+QIcon SignIcon(QChar letter, const QColor& disk);
 
 void DrawButton(QPainter& painter, const QStyleOption& button, bool isPrimary);
 /// Only while it is pressed, on, or under the pointer.
