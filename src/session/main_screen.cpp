@@ -1,5 +1,7 @@
 #include "session/main_screen.h"
 
+#include <algorithm>
+
 #include "core/field_registry.h"
 #include "core/fields.h"
 #include "core/job_file.h"
@@ -13,6 +15,19 @@
 #include "session/upkeep.h"
 
 namespace quillmark {
+
+namespace {
+
+/// Whether anything was typed or chosen that a job's file would keep.
+bool HoldsValues(const Job& job) {
+    for (int n = field::DocumentDate + 1; n <= kFields; ++n) {
+        const FieldHolder& holder = job.txtField(n);
+        if (job.IsFilled(n) && holder.top != 0 && !holder.forShow) return true;
+    }
+    return std::ranges::any_of(job.userFields, [](const auto& row) { return !row.second.empty(); });
+}
+
+}  // namespace
 
 MainScreen::MainScreen(std::filesystem::path programFolder, Machine machine)
     : machine_(std::move(machine)),
@@ -146,7 +161,7 @@ void MainScreen::Click(std::string_view name) {
     // What the editor held is an act of its own; what the buttons do is none.
     bool goesOn = true;
     Act([&] {
-        if (name == "cmdCreate")
+        if (name == "cmdCreate" || (name == "cmdExit" && screen_.exitDoes == ExitDoes::End))
             goesOn = editor_.CommitAll(ScreenFocus::Buttons);
         else
             editor_.LoseFocus(IsInTopBar(name) ? ScreenFocus::Buttons : ScreenFocus::Elsewhere);
@@ -204,13 +219,35 @@ void MainScreen::OpenJobOrSave() {
 }
 
 void MainScreen::Close() {
-    editor_.LoseFocus(ScreenFocus::Elsewhere);
-    End();
+    if (editor_.CommitAll(ScreenFocus::Elsewhere)) End();
 }
 
+/// Nothing that no file holds is dropped unless the person says so: whatever keeps it from being saved keeps
+/// the session, with the reason before the person.
 void MainScreen::End() {
-    if (AsksToSave()) Save();
+    if (AsksToSave()) {
+        Save();
+        if (screen_.HasUnsavedChanges()) return;
+    } else if (HoldsNamelessWork() && !LeavesNamelessWork()) {
+        return;
+    }
     screen_.ended = true;
+}
+
+bool MainScreen::HoldsNamelessWork() const {
+    const bool changed = changesBeforeHistory_ + history_.Done() > 0;
+    return changed && !screen_.testMode && !screen_.txtJobName.IsSaveable() && HoldsValues(screen_.job);
+}
+
+bool MainScreen::LeavesNamelessWork() {
+    if (machine_.dialogs.Confirm("  ALERT",
+                                 "This job has no name, so it was never saved.\nLeave without saving ???",
+                                 DialogButton::No, DialogIcon::Warning))
+        return true;
+    ShowOpen(OpenDoes::SaveFields, false, screen_);
+    screen_.txtJobName.enabled = true;
+    nameBox_.Focus();
+    return false;
 }
 
 bool MainScreen::AsksToSave() {

@@ -172,7 +172,8 @@ class MainScreen {
 
     /// A click on a button of the main screen by its control name, such as "cmdCreate".
     void Click(std::string_view button);
-    /// The lines that the window's close box runs: as EXIT.
+    /// The lines that the window's close box runs: as EXIT. The session goes on where something is left that
+    /// could not be saved, or that a refused overwrite or value holds back.
     void Close();
 
     // The browser's results (tools/browser): OPEN and TEMPLATES show it, these take what it chose.
@@ -282,6 +283,8 @@ class MainScreen {
     void End();
     void Save();
     bool AsksToSave();
+    bool HoldsNamelessWork() const;
+    bool LeavesNamelessWork();
     void FieldChanged(int n);
     void OpenJobOrSave();
     void Mail();

@@ -322,5 +322,40 @@ TEST_F(OfficeTest, TheBuyersAttorneyGetsMail) {
     EXPECT_NE(std::string::npos, shell.opened[0].find("&Body=Greetings Attorney Okafor,%0D%0A"));
 }
 
+TEST_F(OfficeTest, ExitKeepsWhatNoFileHoldsUnlessToldOtherwise) {
+    Start();
+    MakeSmallJob("Abbott");
+    test::WriteBytes(JobFile("Abbott"), JobFileRecords(Job()));
+    Answer({"Yes", "Cancel"});
+    screen->Click("cmdExit");
+    EXPECT_FALSE(State().ended) << "another's job is not overwritten for the sake of leaving";
+    EXPECT_TRUE(State().HasUnsavedChanges());
+    EXPECT_TRUE(State().picInfo.starts_with(" Choose a different name"));
+
+    std::filesystem::remove(JobFile("Abbott"));
+    std::filesystem::create_directory(JobFile("Abbott"));
+    Answer({"Yes", "OK"});
+    EXPECT_THROW(screen->Click("cmdExit"), FileError);
+    EXPECT_FALSE(State().ended);
+    EXPECT_TRUE(State().HasUnsavedChanges());
+    Answer({"No"});
+    screen->Click("cmdExit");
+    EXPECT_TRUE(State().ended);
+}
+
+TEST_F(OfficeTest, AJobWithoutANameCanStillBeNamedWhenLeaving) {
+    Start();
+    screen->PickDocument("Deed / Warranty");
+    screen->EnterField(21, "Anna Abbott", EntryWay::Type);
+    screen->Close();
+    EXPECT_EQ("This job has no name, so it was never saved.\nLeave without saving ???", LastBox());
+    ASSERT_FALSE(State().ended);
+    screen->TypeName("Abbott");
+    Answer({"Yes"});
+    screen->Close();
+    EXPECT_TRUE(State().ended);
+    EXPECT_NE(std::string::npos, test::ReadBytes(JobFile("Abbott")).find("Anna Abbott"));
+}
+
 }  // namespace
 }  // namespace quillmark
