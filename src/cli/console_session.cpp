@@ -61,7 +61,7 @@ ConsoleSession::ConsoleSession(const ConsoleOrder& order, std::ostream& err)
                 .startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
                 .handOver = {},
                 .programFile = order.programFile,
-                .waitForBooks = [](const BooksInUse& use) { return use.waited < kPatience; },
+                .waitForFiles = [](const FileInUse& use) { return use.waited < kPatience; },
                 .drives = DrivesFor(order)});
 }
 

@@ -4,23 +4,18 @@
 
 #include <algorithm>
 #include <charconv>
-#include <map>
 
 #include "core/fields.h"
 #include "core/options.h"
-#include "platform/atomic_file.h"
 #include "platform/code_page.h"
 #include "platform/file_names.h"
-#include "platform/paths.h"
 #include "platform/record_file.h"
 
 namespace quillmark {
-namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kDocumentKey = "000";
 constexpr int kFirstSavedField = 2;  // a reopened job takes the date of the day
-constexpr std::size_t kPictureLimit = 256 * 1024 * 1024;
 
 constexpr std::array<std::array<int, 3>, 7> kOptionGroups = {{
     {OneSeller, TwoSellers},
@@ -61,6 +56,8 @@ void ReadOption(const RecordReader& reader, std::string_view key, JobFileContent
 void ReadField(const RecordReader& reader, const std::string& key, JobFileContents& contents) {
     const int n = key.size() <= 3 ? WholeNumber(key) : -1;
     const std::string& value = reader.Text(1);
+    if (value.size() > kLongestValue)
+        reader.Fail(fmt::format("the value of field {} is longer than {} KB", key, kLongestValue / 1024));
     if (n > kFields)
         reader.Fail(
             fmt::format("there is no field {} yet: the job was saved by a newer version of Quillmark", n));
@@ -72,17 +69,22 @@ void ReadField(const RecordReader& reader, const std::string& key, JobFileConten
 
 void ReadUserField(const RecordReader& reader, const std::string& key, JobFileContents& contents) {
     if (reader.Text(1).empty()) return;
+    if (key.size() + reader.Text(1).size() > kLongestValue)
+        reader.Fail(fmt::format("a value is longer than {} KB", kLongestValue / 1024));
     if (contents.userFields.size() == kUserFields) {
         reader.Fail(fmt::format("{} is more than the {} user-defined fields of a job", key, kUserFields));
     }
     contents.userFields.emplace_back(key, reader.Text(1));
 }
 
-void ReadRecord(const RecordReader& reader, JobFileContents& contents) {
+/// `documents` counts those of the file.
+void ReadRecord(const RecordReader& reader, JobFileContents& contents, std::size_t& documents) {
     const std::string& key = reader.Text(0);
     if (reader.Items() != 2)
         reader.Fail(fmt::format("\"{}\" has {} items instead of two", key, reader.Items()));
     if (key == kDocumentKey) {
+        if (++documents > kMostDocuments)
+            reader.Fail(fmt::format("more than the {} documents of a job", kMostDocuments));
         contents.documents += reader.Text(1) + ':';
     } else if (key.starts_with('C')) {
         ReadOption(reader, key, contents);
@@ -130,6 +132,9 @@ void PutInto(Job& job, const JobFileContents& contents, bool asTemplate) {
 
 /// `what` is the value's name in messages.
 void Write(RecordWriter& writer, std::string_view key, std::string_view value, std::string_view what) {
+    if (key.size() + value.size() > kLongestValue)
+        throw JobFileError(fmt::format("{} is longer than the {} KB that a job's file can hold",
+                                       what.substr(0, 100), kLongestValue / 1024));
     try {
         writer.Write({key, value});
     } catch (const UnencodableError& error) {
@@ -138,23 +143,13 @@ void Write(RecordWriter& writer, std::string_view key, std::string_view value, s
 }
 
 void WriteDocuments(RecordWriter& writer, std::string_view documents) {
+    if (static_cast<std::size_t>(std::ranges::count(documents, ':')) > kMostDocuments)
+        throw JobFileError(fmt::format("the job lists more than {} documents", kMostDocuments));
     while (!documents.empty()) {
         const auto end = std::min(documents.find(':'), documents.size());
         Write(writer, kDocumentKey, documents.substr(0, end), "name of a document");
         documents.remove_prefix(std::min(end + 1, documents.size()));
     }
-}
-
-/// A template's name may hold the braces that make it one.
-void CheckName(std::string_view name) {
-    std::string_view inside = name;
-    if (IsTemplateName(name) && name.ends_with('}') && name.size() > 1)
-        inside = name.substr(1, name.size() - 2);
-    if (inside.empty() || HoldsIllegalNameCharacter(inside))
-        throw JobFileError(fmt::format("\"{}\" is no name for a job", name));
-    const std::string fault = FaultOfFileName(std::string(name) + ".dat");
-    if (!fault.empty())
-        throw JobFileError(fmt::format("\"{}\" is no name for a job: its file's name {}", name, fault));
 }
 
 /// The records of a file that some other program has written as UTF-8; nothing for windows-1252. Text in that
@@ -174,51 +169,6 @@ std::optional<std::string> RecordsOfUtf8(const std::string& file, std::string_vi
     }
 }
 
-fs::path PicturePath(const Folders& folders, std::string_view name, int n) {
-    return folders.ImagesFolder / PathOf(fmt::format("{}_{}.bmp", name, n));
-}
-
-/// The picture files that a job of this name has on disk, by field.
-std::map<int, fs::path> PicturesOnDisk(const Folders& folders, std::string_view name) {
-    std::map<int, fs::path> pictures;
-    const std::string prefix = UpperCase(name) + '_';
-    constexpr std::string_view kSuffix = ".BMP";
-    std::error_code error;
-    for (fs::directory_iterator it(folders.ImagesFolder, error), end; !error && it != end;
-         it.increment(error)) {
-        const std::string entry = UpperCase(TextOf(it->path().filename()));
-        if (!entry.starts_with(prefix) || !entry.ends_with(kSuffix)) continue;
-        if (entry.size() <= prefix.size() + kSuffix.size()) continue;
-        const std::string digits = entry.substr(prefix.size(), entry.size() - prefix.size() - kSuffix.size());
-        const int n = WholeNumber(digits);
-        if (n >= 1 && n <= kFields && digits == std::to_string(n)) pictures.emplace(n, it->path());
-    }
-    return pictures;
-}
-
-bool Exists(const fs::path& file) {
-    std::error_code error;
-    return fs::exists(file, error);
-}
-
-void CreateFolder(const fs::path& folder) {
-    std::error_code error;
-    fs::create_directories(folder, error);
-    if (error) throw FileError(folder, error);
-}
-
-void Remove(const fs::path& file) {
-    std::error_code error;
-    fs::remove(file, error);
-    if (error) throw FileError(file, error);
-}
-
-void Rename(const fs::path& file, const fs::path& newFile) {
-    std::error_code error;
-    fs::rename(file, newFile, error);
-    if (error) throw FileError(file, error);
-}
-
 }  // namespace
 
 bool HoldsIllegalNameCharacter(std::string_view name) {
@@ -235,15 +185,23 @@ bool IsTemplateName(std::string_view name) {
     return name.starts_with('{');
 }
 
-fs::path JobFilePath(const Folders& folders, std::string_view name) {
-    return FindExisting(folders.JobFolder / PathOf(std::string(name) + ".dat"));
+void RequireJobName(std::string_view name) {
+    std::string_view inside = name;  // a template's may hold the braces that make it one
+    if (IsTemplateName(name) && name.ends_with('}') && name.size() > 1)
+        inside = name.substr(1, name.size() - 2);
+    if (inside.empty() || HoldsIllegalNameCharacter(inside))
+        throw JobFileError(fmt::format("\"{}\" is no name for a job", name));
+    const std::string fault = FaultOfFileName(std::string(name) + ".dat");
+    if (!fault.empty())
+        throw JobFileError(fmt::format("\"{}\" is no name for a job: its file's name {}", name, fault));
 }
 
 JobFileContents JobFileContentsOf(const std::string& file, std::string_view bytes) {
     JobFileContents contents;
     const std::optional<std::string> fromUtf8 = RecordsOfUtf8(file, bytes);
     RecordReader reader(file, fromUtf8 ? *fromUtf8 : bytes);
-    while (reader.Next()) ReadRecord(reader, contents);
+    std::size_t documents = 0;
+    while (reader.Next()) ReadRecord(reader, contents, documents);
     RequireAgreement(file, contents);
     if (fromUtf8)
         contents.notices.push_back(file + " is UTF-8 text and was read as such; job files are windows-1252.");
@@ -255,6 +213,8 @@ JobFileContents JobFileContentsOf(const std::string& file, std::string_view byte
 }
 
 std::string JobFileRecords(const Job& job) {
+    if (job.userFields.size() > kUserFields)
+        throw JobFileError(fmt::format("the job has more than {} user-defined fields", kUserFields));
     RecordWriter writer;
     WriteDocuments(writer, job.JobDocuments);
     for (int n = 1; n <= kOptions; ++n) writer.Write({fmt::format("C{:02}", n), job.optConf(n)});
@@ -268,6 +228,9 @@ std::string JobFileRecords(const Job& job) {
         }
         Write(writer, row->first, row->second, row->first);
     }
+    if (writer.Bytes().size() > kJobFileLimit)
+        throw JobFileError(fmt::format("the job is larger than the {} MB that its file can hold",
+                                       kJobFileLimit / 1024 / 1024));
     return writer.Bytes();
 }
 
@@ -282,61 +245,6 @@ void ApplyJobFile(const JobFileContents& contents, Job& job, bool asTemplate) {
         job = std::move(before);
         throw;
     }
-}
-
-JobFileRead ReadJobFile(const Folders& folders, const fs::path& file, Job& job, bool asTemplate) {
-    const std::string fileName = TextOf(file.filename());
-    JobFileRead read{ReadFile(file, kJobFileLimit), {}};
-    JobFileContents contents = JobFileContentsOf(fileName, read.bytes);
-    std::map<int, std::string> pictures;
-    for (const auto& [n, value] : contents.fields) {
-        if (value != kImageLiteral) continue;
-        const fs::path picture = FindExisting(PicturePath(folders, TextOf(file.stem()), n));
-        if (Exists(picture)) pictures[n] = ReadFile(picture, kPictureLimit);
-    }
-    ApplyJobFile(contents, job, asTemplate);
-    for (auto& [n, picture] : pictures) job.FieldPictures[static_cast<std::size_t>(n)] = std::move(picture);
-    read.notices = std::move(contents.notices);
-    return read;
-}
-
-void SaveJobFiles(const Folders& folders, const Job& job) {
-    CheckName(job.name);
-    const std::string records = JobFileRecords(job);
-    auto onDisk = PicturesOnDisk(folders, job.name);
-    for (int n = kFirstSavedField; n <= kFields; ++n) {
-        const std::string& picture = job.FieldPictures[static_cast<std::size_t>(n)];
-        if (picture.empty()) continue;
-        CreateFolder(folders.ImagesFolder);
-        const auto found = onDisk.find(n);
-        ReplaceFile(found == onDisk.end() ? PicturePath(folders, job.name, n) : found->second, picture);
-        onDisk.erase(n);
-    }
-    ReplaceFile(JobFilePath(folders, job.name), records);
-    for (const auto& [n, file] : onDisk) {
-        if (n >= kFirstSavedField) Remove(file);
-    }
-}
-
-bool RenameJobFiles(const Folders& folders, std::string_view name, std::string_view newName) {
-    CheckName(newName);
-    const fs::path file = JobFilePath(folders, name);
-    const fs::path taken = JobFilePath(folders, newName);
-    const fs::path newFile = folders.JobFolder / PathOf(std::string(newName) + ".dat");
-    std::error_code missing;
-    if (fs::equivalent(taken, file, missing))
-        Rename(file, newFile);  // the same name in another case
-    else if (Exists(taken) || !RenameUnlessTaken(file, newFile))
-        return false;
-    for (const auto& [n, picture] : PicturesOnDisk(folders, name)) {
-        Rename(picture, PicturePath(folders, newName, n));
-    }
-    return true;
-}
-
-void DeleteJobFiles(const Folders& folders, std::string_view name) {
-    Remove(JobFilePath(folders, name));
-    for (const auto& [n, picture] : PicturesOnDisk(folders, name)) Remove(picture);
 }
 
 }  // namespace quillmark

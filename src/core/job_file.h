@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <filesystem>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -9,7 +8,6 @@
 #include <utility>
 #include <vector>
 
-#include "core/folders.h"
 #include "core/job.h"
 
 namespace quillmark {
@@ -23,9 +21,6 @@ bool HoldsIllegalNameCharacter(std::string_view name);
 std::string TemplateName(std::string_view name);
 /// A file name that begins with "{" is a template's.
 bool IsTemplateName(std::string_view name);
-
-/// The job file of that name: `JobFolder` + name + ".dat". An existing file is found whatever its case.
-std::filesystem::path JobFilePath(const Folders& folders, std::string_view name);
 
 /// A job that cannot be kept as it is. what() names the field and what is wrong with its value.
 class JobFileError : public std::runtime_error {
@@ -43,7 +38,13 @@ struct JobFileContents {
     std::vector<std::string> notices;  ///< what the user should know about the file
 };
 
+// What a job may hold is bounded alike where it is entered, written and read.
 inline constexpr std::size_t kJobFileLimit = 16 * 1024 * 1024;  ///< bytes of the largest job file
+inline constexpr std::size_t kLongestValue = 256 * 1024;        ///< bytes of a value
+inline constexpr std::size_t kMostDocuments = 1000;             ///< records of documents
+
+/// Throws JobFileError where a job or template cannot have that name.
+void RequireJobName(std::string_view name);
 
 /// The content of a job file's bytes. Throws RecordError with the record's number, key and what is wrong
 /// (`file` is its name for the message), JobFileError for options of one group that are both set and for
@@ -52,33 +53,13 @@ inline constexpr std::size_t kJobFileLimit = 16 * 1024 * 1024;  ///< bytes of th
 JobFileContents JobFileContentsOf(const std::string& file, std::string_view bytes);
 
 /// The bytes of the job's file. `D(1)`, fields without a value and fields filled from a single firm default
-/// are left out; user-defined values stand in reverse order. Throws JobFileError.
+/// are left out; user-defined values stand in reverse order. Throws
+/// JobFileError where a value cannot be written, or where they would be more than a reader takes.
 std::string JobFileRecords(const Job& job);
 
 /// Puts a file's content into the job: documents are appended to `JobDocuments`, fields go through the change
 /// rule and, except in a template, are locked. Throws JobFileError, with the job unchanged, where it cannot
 /// hold so many user-defined values.
 void ApplyJobFile(const JobFileContents& contents, Job& job, bool asTemplate);
-
-struct JobFileRead {
-    std::string bytes;                 ///< of the file
-    std::vector<std::string> notices;  ///< what the user should know about it
-};
-
-/// Reads a job file, wherever it stands, and the pictures of its name in `ImagesFolder` into the job. Throws
-/// FileError, RecordError and JobFileError, all before anything in the job is changed. The job's own name is
-/// left to the caller.
-JobFileRead ReadJobFile(const Folders& folders, const std::filesystem::path& file, Job& job, bool asTemplate);
-
-/// Writes the job's file and pictures under the job's name, and removes pictures that it no longer has. The
-/// file is written after its pictures and before any is removed. Throws FileError and JobFileError.
-void SaveJobFiles(const Folders& folders, const Job& job);
-
-/// Gives a job's file and pictures another name. False, with nothing changed, if that name is taken. Throws
-/// FileError and JobFileError.
-bool RenameJobFiles(const Folders& folders, std::string_view name, std::string_view newName);
-
-/// Removes a job's file and pictures. Throws FileError.
-void DeleteJobFiles(const Folders& folders, std::string_view name);
 
 }  // namespace quillmark

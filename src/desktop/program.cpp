@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "desktop/guide/first_run_window.h"
-#include "desktop/side_windows/book_wait.h"
+#include "desktop/side_windows/file_wait.h"
 #include "desktop/toolkit/guard.h"
 #include "desktop/toolkit/text.h"
 #include "platform/paths.h"
@@ -105,8 +105,8 @@ Machine Program::MachineAround() {
     machine.sheets = &sheets_;
     machine.fonts = WithFontsOfTheSystem(std::move(machine.fonts));
     machine.programFile = ProgramFile();
-    machine.waitForBooks = [this, wait = WaitForBooks()](const BooksInUse& use) mutable {
-        if (!wait) wait = WaitingForBooks(window_.get());
+    machine.waitForFiles = [this, wait = WaitForFile()](const FileInUse& use) mutable {
+        if (!wait) wait = WaitingForFiles(window_.get());
         return wait(use);
     };
     machine.onProgress = [this] { window_->ShowProgress(); };

@@ -26,7 +26,7 @@ void TakeUpReplacement(const fs::path& list) {
 
 }  // namespace
 
-AddressBooks::AddressBooks(fs::path folder, const Clock& clock, WaitForBooks wait)
+AddressBooks::AddressBooks(fs::path folder, const Clock& clock, WaitForFile wait)
     : folder_(std::move(folder)), clock_(clock), wait_(std::move(wait)) {}
 
 fs::path AddressBooks::FileOf(AddressBook book) const {

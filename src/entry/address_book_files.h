@@ -28,7 +28,7 @@ struct BookEntry {
 class AddressBooks {
  public:
     /// `clock` must outlive the object. For `wait` see AddressBookLock.
-    AddressBooks(std::filesystem::path folder, const Clock& clock, WaitForBooks wait = {});
+    AddressBooks(std::filesystem::path folder, const Clock& clock, WaitForFile wait = {});
 
     AddressList Read(AddressBook book) const;
 
@@ -53,7 +53,7 @@ class AddressBooks {
 
     std::filesystem::path folder_;
     const Clock& clock_;
-    WaitForBooks wait_;
+    WaitForFile wait_;
 };
 
 }  // namespace quillmark

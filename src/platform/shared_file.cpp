@@ -1,6 +1,7 @@
 #include "platform/shared_file.h"
 
 #include "platform/atomic_file.h"
+#include "platform/shared_lock.h"
 
 namespace quillmark {
 
@@ -28,13 +29,13 @@ std::filesystem::path LockOf(const std::filesystem::path& file) {
 void ChangeSharedFile(
     const std::filesystem::path& file, std::size_t limit,
     const std::function<std::optional<std::string>(const std::optional<std::string>&)>& change,
-    const FileLock::KeepWaiting& keepWaiting) {
-    const FileLock lock(LockOf(file), keepWaiting);
+    const WaitForFile& wait) {
+    const SharedLock lock(LockOf(file), wait);
     const std::optional<std::string> content = change(Present(file, limit));
     if (!content) return;
     if (content->size() > limit)
         throw FileError(file, FileError::Kind::TooLarge, "would be larger than any file of this kind");
-    ReplaceFile(file, *content);
+    RetriedWhileInUse(wait, [&] { ReplaceFile(file, *content); });
 }
 
 }  // namespace quillmark

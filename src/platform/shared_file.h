@@ -1,13 +1,12 @@
 #pragma once
 
-#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
 
-#include "platform/file_lock.h"
+#include "platform/file_holder.h"
 
 namespace quillmark {
 
@@ -17,11 +16,11 @@ namespace quillmark {
 ///
 /// `change` gets the present content, nothing where there is no file, and gives the new one; nothing leaves
 /// the file as it is. It may be called again only by another call. What it throws ends the change. Waits for
-/// others as FileLock does. Throws FileError; above `limit` bytes, read or to be written, of the kind
+/// others as SharedLock does. Throws FileError; above `limit` bytes, read or to be written, of the kind
 /// TooLarge.
 void ChangeSharedFile(
     const std::filesystem::path& file, std::size_t limit,
     const std::function<std::optional<std::string>(const std::optional<std::string>&)>& change,
-    const FileLock::KeepWaiting& keepWaiting = {});
+    const WaitForFile& wait = {});
 
 }  // namespace quillmark

@@ -6,6 +6,7 @@
 
 #include "core/fields.h"
 #include "platform/atomic_file.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 #include "production/run/create_checks.h"
 #include "production/run/create_notices.h"
@@ -25,7 +26,9 @@ namespace fs = std::filesystem;
 namespace {
 
 fs::path DocumentPath(const CreateTarget& target, const std::string& name, Shell& shell) {
-    const auto unused = [&](const fs::path& wanted) { return target.replaces ? wanted : FreeName(wanted); };
+    const auto unused = [&](const fs::path& wanted) {
+        return target.replaces ? wanted : ClaimedName(wanted);
+    };
     if (target.to.extension() == ".docx") return unused(target.to);
     const fs::path folder = target.to.empty() ? shell.FolderOf(SpecialFolder::Documents) : target.to;
     std::error_code error;
@@ -182,6 +185,7 @@ fs::path CreateCommand::SaveDocument(CreateRun& run) {
     try {
         run.session().WordDoc.SaveAs(TextOf(file));
     } catch (const word::AutomationError& failure) {
+        GiveUpClaim(file);
         // The user has that file open, and the new document on the screen.
         if (run.IsEmbedded() || failure.number() != word::error::kPermissionDenied) throw;
         return {};
@@ -196,12 +200,12 @@ void CreateCommand::KeepMadeJob() {
     for (const JobListLine& line : screen_.List2)
         if (history.find(line.name) == history.npos) history += line.name + ":";
     try {
-        files_.Write();
+        if (files_.Write()) return files_.CountAsSaved();
+        history = former;
     } catch (...) {
         history = former;
         throw;
     }
-    files_.CountAsSaved();
 }
 
 void CreateCommand::ShowNotices(const std::string& letters) {

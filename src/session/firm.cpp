@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
+#include "core/job_folder.h"
 #include "core/text_conversions.h"
 #include "platform/atomic_file.h"
 #include "platform/file_names.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/record_file.h"
 #include "platform/shared_file.h"
@@ -131,11 +133,18 @@ void Firm::Serve(std::string_view client) {
 }
 
 void Firm::MakeFolders() const {
-    fs::create_directories(folders_.ImagesFolder);
+    try {
+        if (IsLocal(ReachableSettings().databasePath)) MakeFolder(folders_.DatabasePath);
+        MakeFolder(folders_.ImagesFolder);
+        MendJobFolder(folders_, machine_.waitForFiles);
+    } catch (const FileError& failure) {
+        // A folder that may only be read can still be worked from.
+        if (failure.kind != FileError::Kind::Denied) throw;
+    }
 }
 
 AddressBooks Firm::Books() const {
-    return {folders_.DatabasePath, machine_.clock, machine_.waitForBooks};
+    return {folders_.DatabasePath, machine_.clock, machine_.waitForFiles};
 }
 
 void Firm::ChangeDatabasePath(const std::string& path) {

@@ -2,16 +2,17 @@
 
 #include <fmt/format.h>
 
-#include <thread>
 #include <utility>
 
 #include "core/fields.h"
 #include "core/job_file.h"
+#include "core/job_saves.h"
 #include "core/text_conversions.h"
 #include "entry/address_book_fields.h"
 #include "entry/field_listing.h"
 #include "platform/atomic_file.h"
 #include "platform/paths.h"
+#include "platform/shared_lock.h"
 #include "selection/document_catalogue.h"
 #include "session/grid/refresh.h"
 #include "session/state/buttons.h"
@@ -24,19 +25,6 @@ namespace quillmark {
 namespace fs = std::filesystem;
 
 namespace {
-
-/// Another computer holds a file for a moment only.
-template <class Step>
-auto RetriedWhileInUse(Step step) {
-    for (;;) {
-        try {
-            return step();
-        } catch (const FileError& failure) {
-            if (failure.kind != FileError::Kind::InUse) throw;
-        }
-        std::this_thread::sleep_for(FileLock::kPause);
-    }
-}
 
 bool IsDataFile(const fs::path& path) {
     return Lowered(TextOf(path.extension())) == ".dat";
@@ -69,29 +57,36 @@ JobSource JobInFolder(std::string_view name, const Folders& folders) {
     return {JobFilePath(folders, name), std::string(name), folders.ImagesFolder};
 }
 
-bool JobFiles::Exists(std::string_view name) const {
-    if (screen_.txtJobName.locked || screen_.createDoes == CreateDoes::ReMake) return false;
-    return fs::exists(JobFilePath(firm_.folders(), name));
+/// What may be replaced without a question: the file that this session last read or wrote.
+bool JobFiles::IsOwn(const JobOnDisk& present) const {
+    return !present.bytes || (knownName_ == screen_.txtJobName.text && known_ == present);
 }
 
-/// Another computer has saved the job since it was opened here.
-bool JobFiles::ChangedByOthers() const {
-    const fs::path file = JobFilePath(firm_.folders(), screen_.txtJobName.text);
-    if (!screen_.txtJobName.locked || knownFile_.empty() || !fs::exists(file)) return false;
-    return RetriedWhileInUse([&] { return ReadFile(file, kJobFileLimit); }) != knownFile_;
+JobOnDisk JobFiles::Present() const {
+    return RetriedWhileInUse(machine_.waitForFiles,
+                             [&] { return LookAtJob(firm_.folders(), screen_.txtJobName.text); });
 }
 
 bool JobFiles::MayOverwrite() {
+    allowed_ = Present();
+    if (IsOwn(allowed_)) return true;
+    const bool changedByOthers = screen_.txtJobName.locked;
+    return ConfirmOverwrite(changedByOthers);
+}
+
+/// `tellsWho`: the file is not as the person last saw it.
+bool JobFiles::ConfirmOverwrite(bool tellsWho) {
     NameBox& box = screen_.txtJobName;
-    if (!Exists(box.text) && !ChangedByOthers()) return true;
     const InfoColour name = screen_.creating ? InfoColour::Red : InfoColour::Black;
     const InfoColour rest = screen_.creating ? InfoColour::Black : InfoColour::Red;
     ShowInfo({{" WARNING:  A file by the name  ", rest},
               {box.text, name},
               {"  already exists in the database!", rest}},
              screen_);
+    std::string text = "About to overwrite an existing file, data will be lost.";
+    if (tellsWho) text += "\n\nIt was " + LastSaveOf(firm_.folders(), box.text) + ".";
     const auto answer = machine_.dialogs.Show({"  ALERT",
-                                               "About to overwrite an existing file, data will be lost.",
+                                               text,
                                                {DialogButton::OK, DialogButton::Cancel},
                                                DialogButton::Cancel,
                                                DialogIcon::Warning});
@@ -129,19 +124,25 @@ void JobFiles::Save() {
     screen_.job.name = box.text;
     if (!MayOverwrite()) return;
     const std::string notFed = FeedBooks();
-    Write();
+    if (!Write()) return;
     CountAsSaved();
     TellOfBooks(notFed);
 }
 
-void JobFiles::Write() {
+bool JobFiles::Write() {
     Job& job = screen_.job;
     const std::string& attorney = job.D(field::SellerAtty);
     const std::string& juris = job.D(field::Part(1, field::SellerAtty));
     if (attorney.find('/') == std::string::npos && !juris.empty())
         job.SetValue(field::SellerAtty, attorney + "/" + juris);
-    RetriedWhileInUse([&] { SaveJobFiles(firm_.folders(), job); });
-    knownFile_ = JobFileRecords(job);
+    const auto save = [&] { return SaveJobFiles(firm_.folders(), job, {&allowed_, machine_.waitForFiles}); };
+    while (!RetriedWhileInUse(machine_.waitForFiles, save)) {
+        allowed_ = Present();  // another has saved it since the person was asked
+        if (!IsOwn(allowed_) && !ConfirmOverwrite(true)) return false;
+    }
+    known_ = allowed_;
+    knownName_ = job.name;
+    return true;
 }
 
 void JobFiles::CountAsSaved() {
@@ -178,12 +179,15 @@ void JobFiles::LoadFrom(const JobSource& source, bool asTemplate) {
     try {
         Folders folders = firm_.folders();
         folders.ImagesFolder = source.ImagesFolder;
-        read = RetriedWhileInUse([&] { return ReadJobFile(folders, source.file, job, asTemplate); });
+        Mend();
+        read = RetriedWhileInUse(machine_.waitForFiles,
+                                 [&] { return ReadJobFile(folders, source.file, job, asTemplate); });
     } catch (...) {
         job.name = former;
         throw;
     }
-    knownFile_ = std::move(read.bytes);
+    known_ = std::move(read.onDisk);
+    knownName_ = source.file == JobFilePath(firm_.folders(), source.name) ? source.name : std::string();
     notices_ = std::move(read.notices);
     NameBox& box = screen_.txtJobName;
     box.locked = true;
@@ -204,6 +208,15 @@ void JobFiles::LoadFrom(const JobSource& source, bool asTemplate) {
     screen_.cmdCreate.enabled = !screen_.List2.empty();
     nameBox_.ShowGuidance();
     TellOfFile();
+}
+
+/// A folder that may only be read is read as it is.
+void JobFiles::Mend() const {
+    try {
+        MendJobFolder(firm_.folders(), machine_.waitForFiles);
+    } catch (const FileError& failure) {
+        if (failure.kind != FileError::Kind::Denied) throw;
+    }
 }
 
 void JobFiles::TellOfFile() {
@@ -286,11 +299,15 @@ void JobFiles::NameJob() {
 
 bool JobFiles::Rename(const std::string& name) {
     NameBox& box = screen_.txtJobName;
-    if (!RetriedWhileInUse([&] { return RenameJobFiles(firm_.folders(), box.text, name); })) {
+    const auto rename = [&] {
+        return RenameJobFiles(firm_.folders(), box.text, name, machine_.waitForFiles);
+    };
+    if (!RetriedWhileInUse(machine_.waitForFiles, rename)) {
         machine_.dialogs.Tell("", "A file with this name already exists,\nplease try again.",
                               DialogIcon::Warning);
         return false;
     }
+    if (knownName_ == box.text) knownName_ = name;
     box.text = name;
     screen_.job.name = name;
     return true;

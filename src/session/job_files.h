@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/job_folder.h"
 #include "session/firm.h"
 #include "session/grid/grid_editor.h"
 #include "session/name_box.h"
@@ -51,7 +52,9 @@ class JobFiles {
     // What CREATE does with the file.
     /// Asks before another file is replaced. False if the user would rather not.
     bool MayOverwrite();
-    void Write();
+    /// Writes the file if what stands there is still what MayOverwrite saw, and asks again otherwise. False
+    /// if the user would rather not.
+    bool Write();
     /// After a save there is nothing more to save, and the name belongs to a file.
     void CountAsSaved();
     /// Adds the job's addresses to the books. Gives what kept any of them out, a line each: the books are a
@@ -60,7 +63,8 @@ class JobFiles {
     void TellOfBooks(const std::string& notFed);
 
     void Forget() {
-        knownFile_.clear();
+        known_ = {};
+        knownName_.clear();
         doubts_.clear();
     }
 
@@ -71,8 +75,10 @@ class JobFiles {
     void NoteDoubt(std::string doubt) { doubts_.push_back(std::move(doubt)); }
 
  private:
-    bool Exists(std::string_view name) const;
-    bool ChangedByOthers() const;
+    bool IsOwn(const JobOnDisk& present) const;
+    JobOnDisk Present() const;
+    bool ConfirmOverwrite(bool tellsWho);
+    void Mend() const;
     std::optional<std::string> AskForName(bool rename);
     bool Rename(const std::string& name);
     void FillList2FromHistory();
@@ -84,7 +90,9 @@ class JobFiles {
     NameCommands& nameBox_;
     Firm& firm_;
     Machine& machine_;
-    std::string knownFile_;  ///< the job's file as this session last read or wrote it
+    JobOnDisk known_;        ///< the job's file and pictures as this session last read or wrote them
+    std::string knownName_;  ///< the name that they had; empty for a file that stands elsewhere
+    JobOnDisk allowed_;      ///< what the next writing may replace
     std::vector<std::string> doubts_;
     std::vector<std::string> notices_;
 };

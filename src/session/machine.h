@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "entry/address_book_files.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/drives.h"
+#include "platform/file_holder.h"
 #include "platform/machine.h"
 #include "word/start.h"
 
@@ -31,9 +31,8 @@ struct Machine {
     /// where several may run.
     std::function<bool()> handOver = {};
     std::filesystem::path programFile = {};  ///< whose date upgrades are measured by; empty for none
-    /// While another user holds the address books: shows the wait and gives way to Cancel. Null waits for
-    /// ever.
-    WaitForBooks waitForBooks = {};
+    /// While another user holds a shared file: shows the wait and gives way to Cancel. Null waits for ever.
+    WaitForFile waitForFiles = {};
     /// Called at each step of CREATE, so that a window can show the state as it is then. Null where none
     /// shows.
     std::function<void()> onProgress = {};

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "core/job_file.h"
+#include "core/job_folder.h"
 #include "platform/append_file.h"
 #include "platform/atomic_file.h"
 #include "platform/paths.h"

@@ -1,4 +1,5 @@
 #include "core/job_file.h"
+#include "core/job_folder.h"
 
 #include <fmt/format.h>
 #include <gmock/gmock.h>
@@ -265,7 +266,9 @@ TEST_F(JobFileOnDisk, ASavedJobIsReadWithItsPicture) {
     ReadJobFile(folders, JobFilePath(folders, "SMITH - 1 any street"), loaded, false);
     EXPECT_EQ(loaded.FieldPictures[kScheduleA], kBitmap);
 
+    const Job withPicture = job;
     job.FieldPictures[kScheduleA].clear();
+    job.SetField(kScheduleA, "Lot 1");
     WriteBytes(Picture("Smith - 1 Any Street_241.bmp"), "no field's");
     WriteBytes(Picture("Smith - 1 Any Street_0201.bmp"), "no field's");
     WriteBytes(Picture("Smith - 1 Any Street_x_201.bmp"), "another job's");
@@ -276,6 +279,8 @@ TEST_F(JobFileOnDisk, ASavedJobIsReadWithItsPicture) {
     EXPECT_TRUE(fs::exists(Picture("Smith - 1 Any Street_x_201.bmp")));
 
     Job without;
+    SaveJobFiles(folders, withPicture);
+    fs::remove(Picture("Smith - 1 Any Street_201.bmp"));
     ReadJobFile(folders, JobFilePath(folders, job.name), without, false);
     EXPECT_EQ(without.D(kScheduleA), kImageLiteral);
     EXPECT_EQ(without.FieldPictures[kScheduleA], "");

@@ -4,7 +4,7 @@
 #include <QProgressDialog>
 #include <QPushButton>
 
-#include "desktop/side_windows/book_wait.h"
+#include "desktop/side_windows/file_wait.h"
 #include "desktop/side_windows_support.h"
 #include "desktop/toolkit/dialogs.h"
 #include "desktop/toolkit/guard.h"
@@ -116,19 +116,19 @@ TEST_F(DialogsTest, AFaultInAHandlerIsToldAndARefusalIsNot) {
 
 TEST_F(DialogsTest, AWaitForTheAddressBooksShowsTheHolderAndGivesWay) {
     const auto window = [&] { return parent.findChild<QProgressDialog*>(); };
-    const WaitForBooks wait = WaitingForBooks(&parent);
-    const BookHolder jane{"jane", "FRONTDESK", "2026-03-05 10:16:04"};
-    EXPECT_TRUE(wait({jane, 50ms}));
+    const WaitForFile wait = WaitingForFiles(&parent);
+    const FileHolder jane{"jane", "FRONTDESK", "2026-03-05 10:16:04"};
+    EXPECT_TRUE(wait({"Access.lok", jane, 50ms}));
     EXPECT_EQ(window(), nullptr);
-    EXPECT_TRUE(wait({jane, 5s}));
+    EXPECT_TRUE(wait({"Access.lok", jane, 5s}));
     ASSERT_NE(window(), nullptr);
     EXPECT_TRUE(window()->labelText().contains(QStringLiteral("jane at FRONTDESK")));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !window(); }));  // the books came free
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 
-    EXPECT_TRUE(wait({std::nullopt, 5s}));
+    EXPECT_TRUE(wait({"Access.lok", std::nullopt, 5s}));
     QTest::keyClick(window(), Qt::Key_Escape);
-    EXPECT_FALSE(wait({std::nullopt, 5s}));
+    EXPECT_FALSE(wait({"Access.lok", std::nullopt, 5s}));
     EXPECT_EQ(window(), nullptr);
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core/job_file.h"
+#include "core/job_folder.h"
 #include "platform/atomic_file.h"
 #include "session/main_screen.h"
 #include "support/scratch.h"
@@ -55,7 +56,7 @@ class OfficeTest : public ::testing::Test {
                     .http = http,
                     .printer = printer,
                     .startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
-                    .waitForBooks = waitForBooks});
+                    .waitForFiles = waitForFiles});
         screen->Start();
         return *screen;
     }
@@ -80,7 +81,7 @@ class OfficeTest : public ::testing::Test {
     QuietShell shell{scratch.path()};
     HttpClient* http = nullptr;
     Printer* printer = nullptr;
-    WaitForBooks waitForBooks;
+    WaitForFile waitForFiles;
     std::unique_ptr<MainScreen> screen;
 };
 

@@ -45,7 +45,7 @@ TEST_F(SideWindows, ASaveFeedsTheAddressBooksOnce) {
 
 TEST_F(SideWindows, WhatKeepsAddressesOutOfTheBooksDoesNotKeepTheJobFromBeingSaved) {
     std::vector<std::string> told;
-    waitForBooks = [&](const BooksInUse& use) {
+    waitForFiles = [&](const FileInUse& use) {
         told.push_back(DescriptionOf(use.holder));
         return told.size() < 3;
     };

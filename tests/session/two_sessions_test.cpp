@@ -26,8 +26,9 @@ constexpr int kSeller = 21;
 class Person final : public Dialogs {
  public:
     DialogButton Show(const MessageDialog& box) override {
-        const bool warned = box.text == kOverwrites;
+        const bool warned = box.text.starts_with(kOverwrites);
         const DialogButton answer = warned && goesOn ? DialogButton::OK : DialogButton::Cancel;
+        if (warned) warning = box.text;
         if (warned && goesOn) overwritten = true;
         const auto& buttons = box.buttons;
         if (std::find(buttons.begin(), buttons.end(), answer) != buttons.end()) return answer;
@@ -39,6 +40,7 @@ class Person final : public Dialogs {
 
     bool goesOn = false;       ///< in spite of the warning
     bool overwritten = false;  ///< it was warned and went on
+    std::string warning;       ///< the last one
     std::string name;          ///< to the next question for a name
 };
 
@@ -178,6 +180,7 @@ TEST_F(TwoSessions, AJobThatAnotherChangedMeanwhileIsOverwrittenOnlyWithAWarning
     second.Open("Abbott", "Annie Abbott");
     second.Save();
     first.Save();
+    EXPECT_NE(first.person.warning.find("It was saved by "), std::string::npos) << first.person.warning;
     EXPECT_EQ("Annie Abbott", Sellers()["Abbott"]);
     EXPECT_TRUE(first.CanSave()) << "nothing of the entry is lost either";
     first.person.goesOn = true;

@@ -11,6 +11,8 @@
 #include <cstdio>
 #include <utility>
 
+#include "platform/file_step.h"
+#include "platform/files.h"
 #include "platform/posix/shared_folder.h"
 #include "platform/temporary_name.h"
 
@@ -51,9 +53,7 @@ class TemporaryFile {
  public:
     /// `target` is the file that it is meant to replace.
     explicit TemporaryFile(const fs::path& target)
-        : target_(target),
-          path_(target.parent_path() / TemporaryName()),
-          file_(path_, O_WRONLY | O_CREAT | O_EXCL, 0666) {
+        : target_(target), path_(NameFor(target)), file_(path_, O_WRONLY | O_CREAT | O_EXCL, 0666) {
         if (!file_.IsOpen()) Fail();
         // Tells others that a living writer has it; a file system without locks does without.
         struct flock mine = WholeFile(F_WRLCK);
@@ -75,6 +75,7 @@ class TemporaryFile {
     void Share() { ShareWithGroup(file_.Descriptor(), target_.parent_path()); }
 
     void Write(std::string_view bytes) {
+        BeforeStep(FileStep::Write, target_);
         while (!bytes.empty()) {
             const ssize_t written = ::write(file_.Descriptor(), bytes.data(), bytes.size());
             if (written < 0 && errno == EINTR) continue;
@@ -84,13 +85,19 @@ class TemporaryFile {
     }
 
     void Replace() {
+        BeforeStep(FileStep::Flush, target_);
         if (::fsync(file_.Descriptor()) != 0) Fail();
         SweepLeftovers(path_);
+        BeforeStep(FileStep::Rename, target_);
         if (::rename(path_.c_str(), target_.c_str()) != 0) Fail();
         path_.clear();
     }
 
  private:
+    static fs::path NameFor(const fs::path& target) {
+        BeforeStep(FileStep::Create, target);
+        return target.parent_path() / TemporaryName();
+    }
     [[noreturn]] void Fail() const { throw FileError(target_, LastError()); }
 
     const fs::path target_;
@@ -104,13 +111,6 @@ fs::path TargetOf(const fs::path& file) {
     if (!fs::is_symlink(file, error)) return file;
     const fs::path target = fs::canonical(file, error);
     return error ? file : target;
-}
-
-/// Makes the new name last through a power cut. The file itself is already safe, and not every file system
-/// can flush a folder, so a failure is none of the caller's.
-void FlushFolder(const fs::path& folder) {
-    const File file(folder.empty() ? fs::path(".") : folder, O_RDONLY | O_DIRECTORY);
-    if (file.IsOpen()) ::fsync(file.Descriptor());
 }
 
 /// 0 or the system's error number. Not every file system can do it.
@@ -153,6 +153,7 @@ void ReplaceFile(const fs::path& file, std::string_view bytes) {
 }
 
 bool RenameUnlessTaken(const fs::path& file, const fs::path& newFile) {
+    BeforeStep(FileStep::Rename, file);
     int error = RenameInOneStep(file, newFile);
     if (error == EINVAL || error == ENOSYS || error == EOPNOTSUPP || error == EPERM) {
         error = EEXIST;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/atomic_file.h"
+#include "platform/file_step.h"
 #include "platform/temporary_name.h"
 
 namespace quillmark {
@@ -120,6 +121,7 @@ void ReplaceFile(const fs::path& file, std::string_view bytes) {
     if (IsFolder(file)) throw FileError(file, FileError::Kind::Other, "is no ordinary file");
     const bool hadFormer = Exists(file);
     const fs::path temporary = file.parent_path() / TemporaryName();
+    BeforeStep(FileStep::Create, file);
     File out(temporary, GENERIC_WRITE, 0, CREATE_NEW);
     if (!out.IsOpen()) throw FileError(file, LastError());
     bool done = WriteAll(out, bytes);
@@ -137,6 +139,7 @@ void ReplaceFile(const fs::path& file, std::string_view bytes) {
 }
 
 bool RenameUnlessTaken(const fs::path& file, const fs::path& newFile) {
+    BeforeStep(FileStep::Rename, file);
     if (MoveFileExW(file.c_str(), newFile.c_str(), MOVEFILE_WRITE_THROUGH)) return true;
     const DWORD error = GetLastError();
     if (error == ERROR_ALREADY_EXISTS || error == ERROR_FILE_EXISTS) return false;

@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "core/job_file.h"
+#include "core/job_folder.h"
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
 #include "platform/paths.h"

@@ -52,8 +52,8 @@ class Holder {
 TEST(AddressBooks, TellWhoHoldsThemAndGiveWayToCancel) {
     const ScratchFolder folder;
     Holder holder(folder.path());
-    std::vector<BookHolder> told;
-    const auto cancel = [&](const BooksInUse& use) {
+    std::vector<FileHolder> told;
+    const auto cancel = [&](const FileInUse& use) {
         if (use.holder) told.push_back(*use.holder);
         return told.size() < 3;
     };
@@ -72,7 +72,7 @@ TEST(AddressBooks, TellWhoHoldsThemAndGiveWayToCancel) {
     EXPECT_FALSE(std::filesystem::exists(folder / "Servicers.lst"));
 
     holder.Kill();
-    const auto never = [](const BooksInUse&) { return false; };
+    const auto never = [](const FileInUse&) { return false; };
     EXPECT_TRUE(AddressBooks(folder.path(), kClock, never).Add(AddressBook::Servicers, kBank).made)
         << "a holder that died still holds the books";
 }
@@ -81,7 +81,7 @@ TEST(AddressBooks, WaitUntilTheHolderIsDone) {
     const ScratchFolder folder;
     Holder holder(folder.path());
     int asked = 0;
-    const auto patient = [&](const BooksInUse&) {
+    const auto patient = [&](const FileInUse&) {
         if (++asked == 4) holder.Kill();
         return asked < 20;
     };

@@ -1,4 +1,4 @@
-#include "desktop/side_windows/book_wait.h"
+#include "desktop/side_windows/file_wait.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -8,6 +8,7 @@
 
 #include "desktop/toolkit/controls.h"
 #include "desktop/toolkit/text.h"
+#include "platform/paths.h"
 
 namespace quillmark::desktop {
 
@@ -18,18 +19,18 @@ using namespace std::chrono_literals;
 constexpr auto kSilent = 1500ms;  ///< how long the wait shows as a pointer alone
 constexpr auto kGap = 300ms;      ///< without being called for so long, the wait is over
 
-class BookWait {
+class FileWait {
  public:
-    explicit BookWait(QWidget* parent) : parent_(parent) {
+    explicit FileWait(QWidget* parent) : parent_(parent) {
         over_.setSingleShot(true);
         over_.setInterval(kGap);
         QObject::connect(&over_, &QTimer::timeout, &over_, [this] { End(); });
     }
-    ~BookWait() { End(); }
-    BookWait(const BookWait&) = delete;
-    BookWait& operator=(const BookWait&) = delete;
+    ~FileWait() { End(); }
+    FileWait(const FileWait&) = delete;
+    FileWait& operator=(const FileWait&) = delete;
 
-    bool GoOn(const BooksInUse& use) {
+    bool GoOn(const FileInUse& use) {
         Begin();
         over_.start();
         if (use.waited >= kSilent) ShowHolder(use);
@@ -46,7 +47,7 @@ class BookWait {
         QApplication::setOverrideCursor(Qt::WaitCursor);
     }
 
-    void ShowHolder(const BooksInUse& use) {
+    void ShowHolder(const FileInUse& use) {
         if (!window_) {
             QWidget* inUse = QApplication::activeModalWidget();
             window_ = new QProgressDialog(inUse ? inUse : parent_.data());
@@ -54,10 +55,10 @@ class BookWait {
             window_->setWindowModality(Qt::ApplicationModal);
             window_->setRange(0, 0);
             window_->setMinimumDuration(0);
-            window_->setWindowTitle(QStringLiteral("Address books"));
+            window_->setWindowTitle(QStringLiteral("Waiting for a shared file"));
             window_->setCancelButtonText(QStringLiteral("&Cancel"));
         }
-        window_->setLabelText(Shown(DescriptionOf(use.holder)));
+        window_->setLabelText(Shown(TextOf(use.file.filename()) + "\n" + DescriptionOf(use.holder)));
         Describe(window_, window_->windowTitle(), window_->labelText());
         window_->show();
     }
@@ -77,8 +78,8 @@ class BookWait {
 
 }  // namespace
 
-WaitForBooks WaitingForBooks(QWidget* parent) {
-    return [wait = std::make_shared<BookWait>(parent)](const BooksInUse& use) { return wait->GoOn(use); };
+WaitForFile WaitingForFiles(QWidget* parent) {
+    return [wait = std::make_shared<FileWait>(parent)](const FileInUse& use) { return wait->GoOn(use); };
 }
 
 }  // namespace quillmark::desktop
