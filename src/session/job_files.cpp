@@ -74,6 +74,17 @@ bool JobFiles::MayOverwrite() {
     return ConfirmOverwrite(changedByOthers);
 }
 
+/// A file that is older than that session's last change is the one that it had read.
+void JobFiles::Resume(const fs::path& since) {
+    Forget();
+    if (!screen_.txtJobName.locked) return;
+    std::error_code error;
+    const auto changed = fs::last_write_time(JobFilePath(firm_.folders(), screen_.txtJobName.text), error);
+    if (error || changed > fs::last_write_time(since, error) || error) return;
+    known_ = Present();
+    knownName_ = screen_.txtJobName.text;
+}
+
 /// `tellsWho`: the file is not as the person last saw it.
 bool JobFiles::ConfirmOverwrite(bool tellsWho) {
     NameBox& box = screen_.txtJobName;

@@ -62,6 +62,9 @@ class JobFiles {
     std::string FeedBooks() const;
     void TellOfBooks(const std::string& notFed);
 
+    /// The job was taken over from a session that did not end cleanly; `since` was written at its last
+    /// change.
+    void Resume(const std::filesystem::path& since);
     void Forget() {
         known_ = {};
         knownName_.clear();

@@ -86,6 +86,7 @@ void MainScreen::OfferWhatWasLeft() {
         screen_.job.name = screen_.txtJobName.IsSaveable() ? screen_.txtJobName.text : std::string();
         history_.BeginAnew();
         changesBeforeHistory_ = left.changes;
+        files_.Resume(left.file);
         journal_->TakeOver(history_.Present(), left);
         return;
     }

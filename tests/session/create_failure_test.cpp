@@ -122,7 +122,7 @@ TEST_F(CreateFailing, AJobThatCannotBeKeptStaysOnTheScreenWhereTheUserWantsItSav
     MakeSmallJob("Abbott");
     fs::remove_all(scratch / "data");
     WriteBytes(scratch / "data", "a file where the data was");
-    EXPECT_THAT(Failure("Yes"), HasSubstr("Abbott.dat"));
+    EXPECT_THAT(Failure("Yes"), HasSubstr((scratch / "data").string()));
     EXPECT_THAT(TitlesShown(), Contains(" FAILED !!!"));
     EXPECT_THAT(State().picInfo, StartsWith(" ERROR:  "));
     EXPECT_EQ(State().job.D(21), "Anna Abbott");

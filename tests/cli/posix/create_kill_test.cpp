@@ -47,6 +47,7 @@ class Killed : public ::testing::Test {
     using Files = std::map<std::string, std::string>;
     /// A file without bytes is not there.
     void Restore() {
+        fs::remove_all(office / "state");  // no one asks whether to continue
         for (const auto& [name, bytes] : old_)
             bytes.empty() ? (void)fs::remove(office / name) : WriteBytes(office / name, bytes);
     }
@@ -67,6 +68,7 @@ class Killed : public ::testing::Test {
         const std::string script = TextOf(office / "script");
         const pid_t child = fork();
         if (child == 0) {
+            setenv("XDG_STATE_HOME", TextOf(office / "state").c_str(), 1);
             dup2(open(script.c_str(), O_RDONLY), STDIN_FILENO);
             dup2(open("/dev/null", O_WRONLY), STDOUT_FILENO);
             dup2(STDOUT_FILENO, STDERR_FILENO);
