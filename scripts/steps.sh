@@ -77,7 +77,7 @@ install_packages() {
         { cat build/packages.log >&2; return 1; }
 }
 
-# configure PRESET PART...: a build directory that holds these parts (TESTS, BENCHMARKS, DESKTOP) beside the command
+# configure PRESET PART...: a build directory that holds these parts (TESTS, BENCHMARKS, DESKTOP, FUZZ) beside the command
 # line. What it holds already it keeps.
 configure() {
     local preset=$1 part cache=build/$1/CMakeCache.txt options=()

@@ -12,6 +12,20 @@ namespace quillmark::cli {
 
 namespace {
 
+/// Longer than any request that could be carried out.
+constexpr std::size_t kLongestLine = 4 * 1024 * 1024;
+
+/// Takes a line, of one that is too long only so much that this shows. False at the end of the input.
+bool ReadLine(std::istream& in, std::string& line) {
+    line.clear();
+    std::streambuf& source = *in.rdbuf();
+    int c = source.sbumpc();
+    if (c == std::char_traits<char>::eof()) return false;
+    for (; c != '\n' && c != std::char_traits<char>::eof(); c = source.sbumpc())
+        if (line.size() <= kLongestLine) line += static_cast<char>(c);
+    return true;
+}
+
 class Console {
  public:
     Console(const ConsoleOrder& order, const Streams& streams)
@@ -22,7 +36,7 @@ class Console {
     int Run(std::istream& in) {
         if (!Start()) return kFailed;
         std::string line;
-        while (!session_.screen().HasEnded() && std::getline(in, line))
+        while (!session_.screen().HasEnded() && ReadLine(in, line))
             if (!Reply(line)) return kFailed;
         return kDone;
     }
@@ -38,6 +52,7 @@ class Console {
 
     bool Reply(const std::string& line) {
         return Send(Attempt([&] {
+            if (line.size() > kLongestLine) throw BadRequest("the line is longer than 4 MB");
             const Request request(line);
             session_.dialogs().Prepare(request.Answers());
             return RunCommand(session_, request);

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "core/job_file.h"
 #include "platform/code_page.h"
 
 namespace quillmark::cli {
@@ -21,6 +22,8 @@ bool CannotBeEntered(char c) {
 
 /// `what` is the value's name in messages.
 void CheckText(const std::string& text, std::string_view what) {
+    if (text.size() > kLongestValue)
+        throw BadRequest(fmt::format("{} is longer than {} KB", what, kLongestValue / 1024));
     if (const auto foreign = FirstUnencodable(text))
         throw BadRequest(fmt::format("{}: {} cannot be kept in a data file", what, foreign->name));
     const auto key = std::find_if(text.begin(), text.end(), CannotBeEntered);

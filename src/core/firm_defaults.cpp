@@ -1,6 +1,7 @@
 #include "core/firm_defaults.h"
 
 #include <algorithm>
+#include <set>
 
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
@@ -11,7 +12,6 @@ namespace quillmark {
 namespace {
 
 constexpr std::size_t kPrefix = 29;
-constexpr std::size_t kLimit = 1024 * 1024;
 
 bool IsValue(std::string_view text) {
     return !text.empty() && text.front() != '[';
@@ -71,15 +71,26 @@ std::string FirmDefaultsRecords(const FirmDefaults& defaults) {
 
 FirmDefaults ReadFirmDefaults(const std::filesystem::path& file) {
     try {
-        return FirmDefaultsOfRecords(TextOf(file.filename()), ReadFile(file, kLimit));
+        return FirmDefaultsOfRecords(TextOf(file.filename()), ReadFile(file, kFirmDefaultsLimit));
     } catch (const FileError& error) {
         if (error.kind != FileError::Kind::NotFound) throw;
         return {};
     }
 }
 
-void WriteFirmDefaults(const std::filesystem::path& file, const FirmDefaults& defaults) {
-    ReplaceFile(file, FirmDefaultsRecords(defaults));
+FirmDefaults MergedDefaults(const FirmDefaults& before, const FirmDefaults& mine, FirmDefaults present,
+                            std::vector<std::string>& contested) {
+    std::set<std::string> markers;
+    for (const FirmDefaults* defaults : {&before, &mine})
+        for (const auto& [marker, value] : defaults->Rows()) markers.insert(marker);
+    for (const std::string& marker : markers) {
+        const std::string changed = mine.ValueOf(marker);
+        const std::string now = present.ValueOf(marker);
+        if (changed == before.ValueOf(marker)) continue;
+        if (now != before.ValueOf(marker) && now != changed) contested.push_back(marker);
+        present.Set(marker, changed);
+    }
+    return present;
 }
 
 }  // namespace quillmark

@@ -39,6 +39,12 @@ std::string FirmDefaultsRecords(const FirmDefaults& defaults);
 
 /// A file that is missing gives no defaults. Throws FileError and RecordError.
 FirmDefaults ReadFirmDefaults(const std::filesystem::path& file);
-void WriteFirmDefaults(const std::filesystem::path& file, const FirmDefaults& defaults);
+inline constexpr std::size_t kFirmDefaultsLimit = 1024 * 1024;  ///< bytes of the largest file
+
+/// What stands after a change from `before` to `mine` of defaults that somebody else has changed to `present`
+/// meanwhile: each value that only one has changed is as changed. `contested` gets the markers of those that
+/// both have changed to different values; they are as in `mine`.
+FirmDefaults MergedDefaults(const FirmDefaults& before, const FirmDefaults& mine, FirmDefaults present,
+                            std::vector<std::string>& contested);
 
 }  // namespace quillmark

@@ -42,6 +42,7 @@ struct JobFileContents {
 inline constexpr std::size_t kJobFileLimit = 16 * 1024 * 1024;  ///< bytes of the largest job file
 inline constexpr std::size_t kLongestValue = 256 * 1024;        ///< bytes of a value
 inline constexpr std::size_t kMostDocuments = 1000;             ///< records of documents
+inline constexpr std::size_t kLongestJobName = 200;  ///< bytes; a template's and a picture's names are longer
 
 /// Throws JobFileError where a job or template cannot have that name.
 void RequireJobName(std::string_view name);

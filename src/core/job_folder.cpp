@@ -171,26 +171,60 @@ JobOnDisk LookAtJob(const Folders& folders, std::string_view name) {
     return state;
 }
 
-JobFileRead ReadJobFile(const Folders& folders, const fs::path& file, Job& job, bool asTemplate) {
-    const std::string fileName = TextOf(file.filename());
-    const std::string bytes = ReadFile(file, kJobFileLimit);
-    JobFileContents contents = JobFileContentsOf(fileName, bytes);
-    JobFileRead read{{bytes, {}}, std::move(contents.notices)};
+namespace {
+
+/// What a job's file and pictures hold, read one after the other.
+struct JobBytes {
+    std::string file;
     std::map<int, std::string> pictures;
-    for (const auto& [n, picture] : PicturesOnDisk(folders, TextOf(file.stem()))) {
-        if (n < kFirstSavedPicture) continue;
-        std::string content = ReadFile(picture, kPictureLimit);
-        read.onDisk.pictures[n] = SumOf(content);
-        const auto holds = [n = n](const auto& field) {
-            return field.first == n && field.second == kImageLiteral;
-        };
-        if (std::ranges::any_of(contents.fields, holds)) pictures[n] = std::move(content);
+};
+
+JobBytes ReadBytes(const Folders& folders, const fs::path& file) {
+    JobBytes bytes{ReadFile(file, kJobFileLimit), {}};
+    for (const auto& [n, picture] : PicturesOnDisk(folders, TextOf(file.stem())))
+        if (n >= kFirstSavedPicture) bytes.pictures[n] = ReadFile(picture, kPictureLimit);
+    return bytes;
+}
+
+/// A folder that may only be read is read as it is.
+void MendIfAllowed(const fs::path& folder, const WaitForFile& wait) {
+    Folders folders;
+    folders.JobFolder = folder;
+    try {
+        MendJobFolder(folders, wait);
+    } catch (const FileError& failure) {
+        if (failure.kind != FileError::Kind::Denied) throw;
     }
-    // Another may have saved the job in between; then the pictures need not be this file's.
-    if (!pictures.empty() && ReadFile(file, kJobFileLimit) != bytes)
-        return ReadJobFile(folders, file, job, asTemplate);
+}
+
+/// File and pictures that belong together: neither before nor after reading is a change under way, and the
+/// file is the same then.
+JobBytes ReadTogether(const Folders& folders, const fs::path& file, const WaitForFile& wait) {
+    constexpr int kMostTries = 20;
+    const fs::path folder = file.parent_path();
+    for (int tries = 1;; ++tries) {
+        MendIfAllowed(folder, wait);
+        JobBytes bytes = ReadBytes(folders, file);
+        const bool isWhole = bytes.pictures.empty() ||
+                             (!HoldsBrokenChange(folder) && ReadFile(file, kJobFileLimit) == bytes.file);
+        if (isWhole || tries == kMostTries) return bytes;
+    }
+}
+
+}  // namespace
+
+JobFileRead ReadJobFile(const Folders& folders, const fs::path& file, Job& job, bool asTemplate,
+                        const WaitForFile& wait) {
+    JobBytes bytes = ReadTogether(folders, file, wait);
+    JobFileContents contents = JobFileContentsOf(TextOf(file.filename()), bytes.file);
+    JobFileRead read{{std::move(bytes.file), {}}, std::move(contents.notices)};
+    for (const auto& [n, picture] : bytes.pictures) read.onDisk.pictures[n] = SumOf(picture);
     ApplyJobFile(contents, job, asTemplate);
-    for (auto& [n, picture] : pictures) job.FieldPictures[static_cast<std::size_t>(n)] = std::move(picture);
+    for (const auto& [n, value] : contents.fields) {
+        const auto picture = bytes.pictures.find(n);
+        if (value == kImageLiteral && picture != bytes.pictures.end())
+            job.FieldPictures[static_cast<std::size_t>(n)] = picture->second;
+    }
     return read;
 }
 
@@ -232,12 +266,14 @@ bool RenameJobFiles(const Folders& folders, std::string_view name, std::string_v
     return changes.Make();
 }
 
-void DeleteJobFiles(const Folders& folders, std::string_view name, const WaitForFile& wait) {
-    const Turn turn(folders, wait);
+bool DeleteJobFiles(const Folders& folders, std::string_view name, const SaveTerms& terms) {
+    const Turn turn(folders, terms.wait);
+    if (terms.onDisk && LookAtJob(folders, name) != *terms.onDisk) return false;
     Changes changes(folders);
     if (const fs::path file = JobFilePath(folders, name); Exists(file)) changes.Remove(file);
     for (const auto& [n, picture] : PicturesOnDisk(folders, name)) changes.Remove(picture);
     changes.Make();
+    return true;
 }
 
 void MendJobFolder(const Folders& folders, const WaitForFile& wait) {

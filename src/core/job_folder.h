@@ -38,11 +38,12 @@ struct JobFileRead {
 /// Reads a job file, wherever it stands, and the pictures of its name in `ImagesFolder` into the job. Throws
 /// FileError, RecordError and JobFileError, all before anything in the job is changed. The job's own name is
 /// left to the caller.
-JobFileRead ReadJobFile(const Folders& folders, const std::filesystem::path& file, Job& job, bool asTemplate);
+JobFileRead ReadJobFile(const Folders& folders, const std::filesystem::path& file, Job& job, bool asTemplate,
+                        const WaitForFile& wait = {});
 
-/// How a job is saved among others who may save it too.
+/// How a job is saved or deleted among others who may save it too.
 struct SaveTerms {
-    /// What may be replaced; null for whatever stands there. After a save, what was written.
+    /// What may be replaced or removed; null for whatever stands there. After a save, what was written.
     JobOnDisk* onDisk = nullptr;
     WaitForFile wait = {};
 };
@@ -57,8 +58,9 @@ bool SaveJobFiles(const Folders& folders, const Job& job, const SaveTerms& terms
 bool RenameJobFiles(const Folders& folders, std::string_view name, std::string_view newName,
                     const WaitForFile& wait = {});
 
-/// Removes a job's file and pictures. Throws FileError.
-void DeleteJobFiles(const Folders& folders, std::string_view name, const WaitForFile& wait = {});
+/// Removes a job's file and pictures. False, with nothing changed, where something else stands there than the
+/// terms allow. Throws FileError.
+bool DeleteJobFiles(const Folders& folders, std::string_view name, const SaveTerms& terms = {});
 
 /// Takes back what a program that ended in the midst of a save, renaming or deletion has left. Throws
 /// FileError.

@@ -12,7 +12,6 @@ namespace quillmark {
 namespace {
 
 constexpr const char* kSettingsFile = "DBasePath.txt";
-constexpr std::size_t kLimit = 64 * 1024;
 constexpr std::size_t kLines = 8;
 
 std::string_view Letter(bool on) {
@@ -73,15 +72,35 @@ std::string SettingsRecords(const Settings& settings) {
 
 Settings ReadSettings(const std::filesystem::path& programFolder) {
     try {
-        return SettingsOfRecords(kSettingsFile, ReadFile(programFolder / kSettingsFile, kLimit));
+        return SettingsOfRecords(kSettingsFile, ReadFile(SettingsFile(programFolder), kSettingsLimit));
     } catch (const FileError& error) {
         if (error.kind != FileError::Kind::NotFound) throw;
         return {};
     }
 }
 
-void WriteSettings(const std::filesystem::path& programFolder, const Settings& settings) {
-    ReplaceFile(programFolder / kSettingsFile, SettingsRecords(settings));
+std::filesystem::path SettingsFile(const std::filesystem::path& programFolder) {
+    return programFolder / kSettingsFile;
+}
+
+Settings MergedSettings(const Settings& before, const Settings& mine, const Settings& present,
+                        std::vector<std::string>& contested) {
+    Settings merged = present;
+    const auto merge = [&](auto Settings::*setting, const char* name) {
+        if (mine.*setting == before.*setting) return;
+        merged.*setting = mine.*setting;
+        if (present.*setting != before.*setting && present.*setting != mine.*setting)
+            contested.emplace_back(name);
+    };
+    merge(&Settings::databasePath, "DATABASE PATH");
+    merge(&Settings::wordAutoSave, "local WORD auto save");
+    merge(&Settings::documentAlerts, "show document alerts");
+    merge(&Settings::bestFitPageView, "use best-fit pg view");
+    merge(&Settings::footers, "show descr footers");
+    merge(&Settings::paraPro, "PARA-PRO MODE");
+    merge(&Settings::properCase, "automatic proper-case");
+    merge(&Settings::leapYears, "prorate for leap yrs");
+    return merged;
 }
 
 }  // namespace quillmark

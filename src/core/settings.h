@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quillmark {
 
@@ -35,7 +36,14 @@ std::string SettingsRecords(const Settings& settings);
 
 /// A file that is missing gives the defaults. Throws FileError and RecordError.
 Settings ReadSettings(const std::filesystem::path& programFolder);
-/// Throws FileError, and UnencodableError for a path that data files cannot hold.
-void WriteSettings(const std::filesystem::path& programFolder, const Settings& settings);
+/// Where the settings of a program folder stand.
+std::filesystem::path SettingsFile(const std::filesystem::path& programFolder);
+inline constexpr std::size_t kSettingsLimit = 64 * 1024;  ///< bytes of the largest settings file
+
+/// What stands after a change from `before` to `mine` of settings that somebody else has changed to `present`
+/// meanwhile: each setting that only one has changed is as changed. `contested` gets the names of those that
+/// both have changed to different values; they are as in `mine`.
+Settings MergedSettings(const Settings& before, const Settings& mine, const Settings& present,
+                        std::vector<std::string>& contested);
 
 }  // namespace quillmark

@@ -62,12 +62,4 @@ fs::path FindExisting(const fs::path& path) {
     return folder / entry.value_or(name);
 }
 
-fs::path FreeName(const fs::path& wanted) {
-    fs::path free = wanted;
-    for (int n = 2; Exists(free); ++n)
-        free.replace_filename(
-            PathOf(TextOf(wanted.stem()) + " (" + std::to_string(n) + ")" + TextOf(wanted.extension())));
-    return free;
-}
-
 }  // namespace quillmark

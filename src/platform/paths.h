@@ -23,7 +23,4 @@ std::string StoredTextOf(const std::filesystem::path& path);
 /// if there are several), as far down as there is one.
 std::filesystem::path FindExisting(const std::filesystem::path& path);
 
-/// The path itself, or with " (2)", " (3)" and so on behind the name where there is a file already.
-std::filesystem::path FreeName(const std::filesystem::path& wanted);
-
 }  // namespace quillmark

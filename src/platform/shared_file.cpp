@@ -1,5 +1,7 @@
 #include "platform/shared_file.h"
 
+#include <fmt/format.h>
+
 #include "platform/atomic_file.h"
 #include "platform/shared_lock.h"
 
@@ -36,6 +38,12 @@ void ChangeSharedFile(
     if (content->size() > limit)
         throw FileError(file, FileError::Kind::TooLarge, "would be larger than any file of this kind");
     RetriedWhileInUse(wait, [&] { ReplaceFile(file, *content); });
+}
+
+std::string LastChangeOf(const std::filesystem::path& file) {
+    const auto by = LastHolderOf(LockOf(file));
+    if (!by) return "changed by another user";
+    return fmt::format("changed by {} at {}, {}", by->user, by->computer, by->since);
 }
 
 }  // namespace quillmark

@@ -23,4 +23,8 @@ void ChangeSharedFile(
     const std::function<std::optional<std::string>(const std::optional<std::string>&)>& change,
     const WaitForFile& wait = {});
 
+/// "changed by jane at FRONTDESK, 2026-03-05 10:16:04", of the last change that went this way;
+/// "changed by another user" where none is known.
+std::string LastChangeOf(const std::filesystem::path& file);
+
 }  // namespace quillmark

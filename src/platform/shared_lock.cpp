@@ -1,6 +1,5 @@
 #include "platform/shared_lock.h"
 
-#include <system_error>
 #include <thread>
 
 namespace quillmark {
@@ -44,13 +43,12 @@ FileLock Take(const fs::path& lock, const WaitForFile& wait, std::chrono::millis
 }  // namespace
 
 SharedLock::SharedLock(const fs::path& lock, const WaitForFile& wait, std::chrono::milliseconds pause)
-    : who_(NoteOf(lock)), lock_(Take(lock, wait, pause)) {
-    WriteHolder(who_, SystemClock());
+    : lock_(Take(lock, wait, pause)) {
+    WriteHolder(NoteOf(lock), SystemClock());
 }
 
-SharedLock::~SharedLock() {
-    std::error_code ignored;  // the next holder writes over it
-    fs::remove(who_, ignored);
+std::optional<FileHolder> LastHolderOf(const fs::path& lock) {
+    return ReadHolder(NoteOf(lock));
 }
 
 bool WaitsOn(const fs::path& file, const WaitForFile& wait, Time::time_point since) {

@@ -8,8 +8,8 @@
 
 namespace quillmark {
 
-/// The turn of one program at files that several share: a lock file of their own beside them, and while it is
-/// held a note beside it, "LOCK.who", that names who holds it.
+/// The turn of one program at files that several share: a lock file of their own beside them, and a note
+/// beside it, ending in ".who", that names who holds it, or held it last.
 class SharedLock {
  public:
     /// Waits as long as `wait` says, for ever without one; the lock of a program that has died is free.
@@ -17,14 +17,13 @@ class SharedLock {
     /// can hold no lock.
     explicit SharedLock(const std::filesystem::path& lock, const WaitForFile& wait = {},
                         std::chrono::milliseconds pause = FileLock::kPause);
-    ~SharedLock();
-    SharedLock(const SharedLock&) = delete;
-    SharedLock& operator=(const SharedLock&) = delete;
 
  private:
-    std::filesystem::path who_;
     FileLock lock_;
 };
+
+/// Who holds it, or held it last, as far as is told.
+std::optional<FileHolder> LastHolderOf(const std::filesystem::path& lock);
 
 /// Asks `wait` before another try at a file that is in use since `since`, and pauses. False to give up.
 bool WaitsOn(const std::filesystem::path& file, const WaitForFile& wait,

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/code_page.h"
+#include "session/client_folders.h"
 #include "session/state/buttons.h"
 #include "session/state/ready.h"
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/job_file.h"
 #include "core/options.h"
 #include "platform/atomic_file.h"
 #include "selection/job_list.h"
@@ -55,6 +56,7 @@ void DocumentCommands::Pick(std::string_view line) {
     Require(screen_.List1Enabled, "the choice of documents is closed");
     Require(std::find(screen_.List1.begin(), screen_.List1.end(), line) != screen_.List1.end(),
             "List1 has no line \"" + std::string(line) + "\"");
+    Require(screen_.List2.size() < kMostDocuments, "a job cannot keep more documents");
     editor_.LoseFocus(ScreenFocus::Documents);
     const PickEffects effects = PickLine(line, !screen_.List2Enabled, screen_, firm_);
     MarkNoSave();

@@ -5,11 +5,12 @@
 #include "core/job_folder.h"
 #include "core/text_conversions.h"
 #include "platform/atomic_file.h"
-#include "platform/file_names.h"
+#include "platform/damaged_file.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/record_file.h"
 #include "platform/shared_file.h"
+#include "platform/shared_lock.h"
 #include "tools/backup/replacement.h"
 
 namespace quillmark {
@@ -19,15 +20,11 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kLocalData = "data\\";
-constexpr std::size_t kClientListLimit = 1024 * 1024;
 
 /// A data folder on the network holds a copy of the program; so it is told from a folder that is not there.
 bool HoldsProgram(const fs::path& dataFolder) {
     return fs::exists(FindExisting(dataFolder / "Quillmark.exe")) || fs::exists(dataFolder / "quillmark");
 }
-
-constexpr const char* kClientList = "parapro.dir";
-constexpr const char* kClientImages = "images";  ///< below a client's folder, made with it
 
 bool IsLocal(std::string_view databasePath) {
     return Lowered(databasePath) == kLocalData;
@@ -35,17 +32,17 @@ bool IsLocal(std::string_view databasePath) {
 
 }  // namespace
 
-std::string FaultOfClientName(std::string_view name) {
-    std::string fault = FaultOfFileName(name);
-    const std::string lowered = Lowered(name);
-    if (fault.empty() && (lowered == kClientImages || lowered == "customforms"))
-        fault = "is the name of a folder of the program's own";
-    return fault;
+/// As the settings are compared and shown: the path ends with a separator.
+Settings WithWholePath(Settings settings) {
+    if (!settings.databasePath.ends_with('\\') && !settings.databasePath.ends_with('/'))
+        settings.databasePath += '\\';
+    return settings;
 }
 
 Firm::Firm(fs::path programFolder, Machine& machine)
     : programFolder_(std::move(programFolder)),
       machine_(machine),
+      clients_(programFolder_, machine.waitForFiles),
       context_{settings_, folders_, defaults_, machine.clock} {}
 
 /// A restore that was cut short has changed some files and not others.
@@ -69,9 +66,9 @@ void Firm::UndoUnfinishedRestore(const fs::path& data) const {
 
 void Firm::Read() {
     UndoUnfinishedRestore(FindExisting(programFolder_ / "data"));
-    settings_ = ReadSettings(programFolder_);
-    if (!settings_.databasePath.ends_with('\\') && !settings_.databasePath.ends_with('/'))
-        settings_.databasePath += '\\';
+    settings_ = WithWholePath(
+        ReadOrSetAside(SettingsFile(programFolder_), [&] { return ReadSettings(programFolder_); }));
+    readSettings_ = settings_;
     const fs::path data = PathOfStored(settings_.databasePath, programFolder_);
     if (!IsLocal(settings_.databasePath) && !HoldsProgram(data)) {
         machine_.dialogs.Tell("",
@@ -85,32 +82,40 @@ void Firm::Read() {
     ReadClients();
 }
 
-/// A damaged list shows what is whole and says what is not; a line that is no name of a folder below the data
-/// folder is no client.
-void Firm::ReadClients() {
-    clientLines_.assign(1, std::string(kAddClient));
-    const fs::path file = programFolder_ / kClientList;
-    if (!fs::exists(file)) return;
-    const std::string bytes = ReadFile(file, kClientListLimit);
-    std::string trouble;
+/// A file that cannot be read does not stop the program: it is kept under another name, and what it would
+/// have held is as in a new office.
+template <class Reader>
+auto Firm::ReadOrSetAside(const fs::path& file, Reader read) -> decltype(read()) {
+    std::string fault;
     try {
-        RecordReader records(kClientList, bytes);
-        while (records.Next()) {
-            const std::string name = records.Text(0);
-            const std::string fault = FaultOfClientName(name);
-            if (fault.empty()) {
-                clientLines_.push_back(name);
-            } else {
-                trouble += "\n\"" + name + "\" " + fault;
-            }
-        }
+        return RetriedWhileInUse(machine_.waitForFiles, read);
     } catch (const RecordError& error) {
-        trouble += std::string("\n") + error.what();
+        fault = error.what();
+    } catch (const FileError& error) {
+        if (error.kind != FileError::Kind::TooLarge && error.kind != FileError::Kind::Other) throw;
+        fault = error.what();
     }
-    if (!trouble.empty()) {
-        machine_.dialogs.Tell("", "The list of clients has lines that are left out:" + trouble,
+    std::string kept = "It could not be renamed.";
+    try {
+        kept = "It is kept as \"" + TextOf(SetAside(file).filename()) + "\".";
+    } catch (const FileError&) {
+        // Where nothing can be renamed the file is looked at again at the next start.
+    }
+    machine_.dialogs.Tell(
+        "  ALERT",
+        TextOf(file.filename()) + " is damaged, and its defaults are used. " + kept + "\n\n" + fault,
+        DialogIcon::Warning);
+    return {};
+}
+
+void Firm::ReadClients() {
+    if (settings_.paraPro) clients_.Mend();
+    ClientFolders::List list = clients_.Read();
+    clientLines_.assign(1, std::string(kAddClient));
+    clientLines_.insert(clientLines_.end(), list.names.begin(), list.names.end());
+    if (!list.trouble.empty())
+        machine_.dialogs.Tell("", "The list of clients has lines that are left out:" + list.trouble,
                               DialogIcon::Warning);
-    }
 }
 
 /// With the data folder out of reach, the local one serves.
@@ -129,7 +134,8 @@ bool Firm::DataIsNewer() const {
 void Firm::Serve(std::string_view client) {
     client_ = client;
     folders_ = FoldersOf(programFolder_, ReachableSettings(), client);
-    defaults_ = ReadFirmDefaults(folders_.firmDefaultsFile);
+    defaults_ = ReadOrSetAside(folders_.firmDefaultsFile,
+                               [&] { return ReadFirmDefaults(folders_.firmDefaultsFile); });
 }
 
 void Firm::MakeFolders() const {
@@ -153,50 +159,76 @@ void Firm::ChangeDatabasePath(const std::string& path) {
     folders_ = FoldersOf(programFolder_, settings_, client_);
 }
 
-void Firm::Keep(FirmDefaults defaults) {
-    WriteFirmDefaults(folders_.firmDefaultsFile, defaults);
-    WriteSettings(programFolder_, settings_);
-    defaults_ = std::move(defaults);
+/// `merge` gives the bytes that are to stand where these stand now, and names what somebody else has changed
+/// as well; the person is asked once about the state that is then replaced. False if the person would rather
+/// not replace it.
+bool Firm::KeepFile(const fs::path& file, std::size_t limit, const Merge& merge) {
+    std::optional<std::string> allowed;
+    for (;;) {
+        std::vector<std::string> contested;
+        std::string seen;
+        ChangeSharedFile(
+            file, limit,
+            [&](const std::optional<std::string>& present) -> std::optional<std::string> {
+                seen = present.value_or("");
+                std::string after = merge(seen, contested);
+                if (contested.empty() || allowed == seen) {
+                    contested.clear();
+                    return after;
+                }
+                return std::nullopt;
+            },
+            machine_.waitForFiles);
+        if (contested.empty()) return true;
+        if (!ConfirmOver(file, contested)) return false;
+        allowed = seen;
+    }
 }
 
-/// Others may have changed the list since it was read: one line of it is this program's.
-void Firm::ChangeClientList(std::string_view name, bool isToStand) const {
-    ChangeSharedFile(programFolder_ / kClientList, kClientListLimit,
-                     [&](const std::optional<std::string>& present) {
-                         RecordWriter changed;
-                         const std::string bytes = present.value_or("");
-                         RecordReader records(kClientList, bytes);
-                         while (records.Next()) {
-                             if (records.Text(0) != name) changed.Write({std::string_view(records.Text(0))});
-                         }
-                         if (isToStand) changed.Write({name});
-                         return changed.Bytes();
-                     });
+bool Firm::ConfirmOver(const fs::path& file, const std::vector<std::string>& contested) const {
+    std::string names;
+    for (const std::string& name : contested) names += "\n" + name;
+    const MessageDialog box{"  ALERT",
+                            "Somebody else has changed this meanwhile:" + names + "\n\n" +
+                                TextOf(file.filename()) + " was " + LastChangeOf(file) +
+                                ".\nPut yours in its place ???",
+                            {DialogButton::OK, DialogButton::Cancel},
+                            DialogButton::Cancel,
+                            DialogIcon::Warning};
+    return machine_.dialogs.Show(box) == DialogButton::OK;
 }
 
-fs::path Firm::ClientFolder(std::string_view name) const {
-    return programFolder_ / "data" / PathOf(name);
+bool Firm::Keep(const FirmDefaults& mine) {
+    FirmDefaults keptDefaults;
+    const auto mergeDefaults = [&](const std::string& present, std::vector<std::string>& contested) {
+        const std::string name = TextOf(folders_.firmDefaultsFile.filename());
+        keptDefaults = MergedDefaults(defaults_, mine, FirmDefaultsOfRecords(name, present), contested);
+        return FirmDefaultsRecords(keptDefaults);
+    };
+    if (!KeepFile(folders_.firmDefaultsFile, kFirmDefaultsLimit, mergeDefaults)) return false;
+    defaults_ = std::move(keptDefaults);
+    Settings keptSettings;
+    const auto mergeSettings = [&](const std::string& present, std::vector<std::string>& contested) {
+        const Settings now =
+            present.empty() ? readSettings_ : WithWholePath(SettingsOfRecords("DBasePath.txt", present));
+        keptSettings = MergedSettings(readSettings_, settings_, now, contested);
+        return SettingsRecords(keptSettings);
+    };
+    if (!KeepFile(SettingsFile(programFolder_), kSettingsLimit, mergeSettings)) return false;
+    settings_ = readSettings_ = std::move(keptSettings);
+    return true;
 }
 
 bool Firm::AddClient(const std::string& name) {
-    const fs::path folder = ClientFolder(name);
-    if (fs::exists(folder)) return false;
-    const fs::path defaults = programFolder_ / "defaults.fld";
-    fs::create_directories(folder / kClientImages);
-    if (fs::exists(defaults)) fs::copy_file(defaults, folder / "defaults.fld");
-    ChangeClientList(name, true);
+    if (!clients_.Add(name)) return false;
     clientLines_.push_back(name);
     return true;
 }
 
 bool Firm::DeleteClient(std::string_view name) {
-    const fs::path folder = ClientFolder(name);
-    const bool isOwn = FaultOfClientName(name).empty() && !fs::is_symlink(folder) &&
-                       fs::is_directory(folder / kClientImages);
-    if (isOwn) fs::remove_all(folder);
-    ChangeClientList(name, false);
+    const bool hadFolder = clients_.Delete(name);
     std::erase(clientLines_, name);
-    return isOwn;
+    return hadFolder;
 }
 
 }  // namespace quillmark

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,6 +11,7 @@
 #include "core/settings.h"
 #include "entry/address_book_files.h"
 #include "selection/firm_context.h"
+#include "session/client_folders.h"
 #include "session/machine.h"
 
 namespace quillmark {
@@ -21,13 +23,13 @@ class Firm {
     /// `machine` must outlive the object.
     Firm(std::filesystem::path programFolder, Machine& machine);
 
-    /// Reads settings and clients. Tells of a data folder that is out of reach; the local one serves then.
-    /// Throws FileError and RecordError.
+    /// Reads settings and clients. Tells of a data folder that is out of reach; the local one serves then. A
+    /// damaged file is set aside and told of, and defaults serve. Throws FileError.
     void Read();
     /// Whether the data folder has been used by a newer program than this one.
     bool DataIsNewer() const;
-    /// Takes the folders and defaults of a client, of the firm itself for the empty text. Throws FileError
-    /// and RecordError.
+    /// Takes the folders and defaults of a client, of the firm itself for the empty text. Damaged defaults
+    /// are set aside and told of. Throws FileError.
     void Serve(std::string_view client);
     /// Makes those that are missing.
     void MakeFolders() const;
@@ -40,10 +42,12 @@ class Firm {
     AddressBooks Books() const;
     bool IsUnset() const { return !settings_.paraPro && defaults_.IsEmpty(); }
 
-    /// For the settings list; `Keep` writes both files. Throws FileError and UnencodableError.
+    /// For the settings list. `Keep` changes in both files what this session has changed and leaves what
+    /// others have changed meanwhile; false if the person would rather not replace what both have changed.
+    /// Throws FileError, RecordError and UnencodableError.
     Settings& ChangeSettings() { return settings_; }
     void ChangeDatabasePath(const std::string& path);
-    void Keep(FirmDefaults defaults);
+    bool Keep(const FirmDefaults& mine);
 
     /// In Para-Pro mode: the law firm being served, and the lines of the client list; the first one adds one.
     const std::string& Client() const { return client_; }
@@ -60,12 +64,17 @@ class Firm {
     void UndoUnfinishedRestore(const std::filesystem::path& data) const;
     Settings ReachableSettings() const;
     void ReadClients();
-    void ChangeClientList(std::string_view name, bool isToStand) const;
-    std::filesystem::path ClientFolder(std::string_view name) const;
+    template <class Reader>
+    auto ReadOrSetAside(const std::filesystem::path& file, Reader read) -> decltype(read());
+    using Merge = std::function<std::string(const std::string& present, std::vector<std::string>& contested)>;
+    bool KeepFile(const std::filesystem::path& file, std::size_t limit, const Merge& merge);
+    bool ConfirmOver(const std::filesystem::path& file, const std::vector<std::string>& contested) const;
 
     std::filesystem::path programFolder_;
     Machine& machine_;
+    ClientFolders clients_;
     Settings settings_;
+    Settings readSettings_;  ///< as last read or written
     Folders folders_;
     FirmDefaults defaults_;
     FirmContext context_;
@@ -73,10 +82,6 @@ class Firm {
     std::string client_;
     bool dataPathLost_ = false;
 };
-
-/// What keeps a name from being a client's, as FaultOfFileName says it; empty for a good name. A client has a
-/// folder of this name below the data folder, so none lies in another's.
-std::string FaultOfClientName(std::string_view name);
 
 /// The line of the client list that adds one.
 inline constexpr std::string_view kAddClient = "< ADD LAWFIRM / CLIENT >";

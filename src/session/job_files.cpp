@@ -190,9 +190,9 @@ void JobFiles::LoadFrom(const JobSource& source, bool asTemplate) {
     try {
         Folders folders = firm_.folders();
         folders.ImagesFolder = source.ImagesFolder;
-        Mend();
-        read = RetriedWhileInUse(machine_.waitForFiles,
-                                 [&] { return ReadJobFile(folders, source.file, job, asTemplate); });
+        read = RetriedWhileInUse(machine_.waitForFiles, [&] {
+            return ReadJobFile(folders, source.file, job, asTemplate, machine_.waitForFiles);
+        });
     } catch (...) {
         job.name = former;
         throw;
@@ -219,15 +219,6 @@ void JobFiles::LoadFrom(const JobSource& source, bool asTemplate) {
     screen_.cmdCreate.enabled = !screen_.List2.empty();
     nameBox_.ShowGuidance();
     TellOfFile();
-}
-
-/// A folder that may only be read is read as it is.
-void JobFiles::Mend() const {
-    try {
-        MendJobFolder(firm_.folders(), machine_.waitForFiles);
-    } catch (const FileError& failure) {
-        if (failure.kind != FileError::Kind::Denied) throw;
-    }
 }
 
 void JobFiles::TellOfFile() {

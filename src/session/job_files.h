@@ -81,7 +81,6 @@ class JobFiles {
     bool IsOwn(const JobOnDisk& present) const;
     JobOnDisk Present() const;
     bool ConfirmOverwrite(bool tellsWho);
-    void Mend() const;
     std::optional<std::string> AskForName(bool rename);
     bool Rename(const std::string& name);
     void FillList2FromHistory();

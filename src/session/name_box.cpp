@@ -16,6 +16,12 @@ bool IsOneOf(std::string_view text, std::string_view capitals) {
     return UpperCase(text) == capitals;
 }
 
+/// The largest number of bytes, up to `most`, that ends with a whole character.
+std::size_t WholeCharacters(std::string_view utf8, std::size_t most) {
+    while (most > 0 && (static_cast<unsigned char>(utf8[most]) & 0xC0) == 0x80) --most;
+    return most;
+}
+
 }  // namespace
 
 NameCommands::NameCommands(ScreenState& screen, GridEditor& editor, const Machine& machine,
@@ -69,6 +75,11 @@ void NameCommands::Type(std::string_view text) {
     std::string typed = completes ? box.text : std::string();
     for (const char key : text) {
         if (HoldsIllegalNameCharacter({&key, 1})) continue;
+        if (typed.size() >= kLongestJobName) {
+            box.text.resize(WholeCharacters(typed + key, typed.size()));
+            Changed();
+            return TellOfLength();
+        }
         typed += key;
         box.text = typed;
         Changed();
@@ -88,7 +99,15 @@ void NameCommands::Edit(std::string_view text) {
     box.text.clear();
     for (const char key : text)
         if (!HoldsIllegalNameCharacter({&key, 1})) box.text += key;
+    const bool isTooLong = box.text.size() > kLongestJobName;
+    if (isTooLong) box.text.resize(WholeCharacters(box.text, kLongestJobName));
     Changed();
+    if (isTooLong) TellOfLength();
+}
+
+/// What is longer could not be the name of a file.
+void NameCommands::TellOfLength() {
+    screen_.picInfo = " A name has " + std::to_string(kLongestJobName) + " characters at most";
 }
 
 void NameCommands::Changed() {

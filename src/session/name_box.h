@@ -37,6 +37,7 @@ class NameCommands {
 
  private:
     void RequireOpen() const;
+    void TellOfLength();
     void OfferUpgrade();
 
     ScreenState& screen_;

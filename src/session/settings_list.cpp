@@ -176,7 +176,7 @@ void SettingsList::EditAnswer(SettingsRow& row) {
         "Changing the Para-Pro option requires a re-start of the program.  \nQuillmark will now "
         "shut-down.");
     Save();
-    screen_.ended = true;
+    screen_.ended = !screen_.HasUnsavedChanges();
 }
 
 void SettingsList::Save() {
@@ -184,7 +184,7 @@ void SettingsList::Save() {
     for (const SettingsRow& row : rows_) {
         if (row.field > 0) defaults.Set(FieldMarker(row.field), row.value);
     }
-    firm_.Keep(std::move(defaults));
+    if (!firm_.Keep(defaults)) return;
     for (OptionButton& option : screen_.options) option.enabled = false;
     screen_.cmdOpen.enabled = false;
 }

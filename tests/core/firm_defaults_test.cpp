@@ -67,7 +67,7 @@ TEST(FirmDefaults, AreKeptInAFileThatMayBeMissing) {
     EXPECT_TRUE(ReadFirmDefaults(folder / "defaults.fld").IsEmpty());
     FirmDefaults defaults;
     defaults.Set("[witness #1]", "A. Baker");
-    WriteFirmDefaults(folder / "defaults.fld", defaults);
+    test::WriteBytes(folder / "defaults.fld", FirmDefaultsRecords(defaults));
     EXPECT_EQ(ReadFirmDefaults(folder / "defaults.fld").Rows(), defaults.Rows());
 }
 

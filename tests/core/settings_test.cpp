@@ -36,7 +36,7 @@ TEST(Settings, AreKeptInTheProgramFolder) {
     EXPECT_EQ(ReadSettings(folder.path()), Settings());
     Settings settings;
     settings.leapYears = false;
-    WriteSettings(folder.path(), settings);
+    WriteBytes(SettingsFile(folder.path()), SettingsRecords(settings));
     EXPECT_EQ(ReadSettings(folder.path()), settings);
 }
 

@@ -262,7 +262,7 @@ TEST_F(CreateInWord, ADocumentIsAFileOnlyWhereTheSettingsSayAndNeverStandsInTheW
     Create();
     EXPECT_EQ(screen->LastDocument(), std::filesystem::path());
     EXPECT_THAT(Documents(), IsEmpty());
-    WriteSettings(scratch.path(), {.wordAutoSave = true});
+    WriteBytes(SettingsFile(scratch.path()), SettingsRecords({.wordAutoSave = true}));
     Open();
     Create();
     EXPECT_THAT(Documents(), ElementsAre("Hollis_QMF.docx"));

@@ -7,6 +7,7 @@
 
 #include "core/job_file.h"
 #include "core/job_folder.h"
+#include "core/job_saves.h"
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
 #include "platform/paths.h"
@@ -113,7 +114,7 @@ bool FileBrowser::DeleteSelected() {
     const std::string name = Selected();
     if (name.empty() || name == kNewTemplate) return false;
     try {
-        DeleteJobFiles(folders_, name);
+        if (!DeleteAsSeen(name)) return false;
     } catch (const FileError& failure) {
         dialogs_.Tell("", failure.what(), DialogIcon::Warning);
         return false;
@@ -123,6 +124,24 @@ bool FileBrowser::DeleteSelected() {
     state_.List1.erase(state_.List1.begin() + line);
     SetSelection(std::nullopt);
     return true;
+}
+
+/// A job that somebody saves while the list stands open is deleted only after a question.
+bool FileBrowser::DeleteAsSeen(const std::string& name) {
+    JobOnDisk seen = LookAtJob(folders_, name);
+    if (TimeOf(name) == selectedTime_ && DeleteJobFiles(folders_, name, {&seen})) return true;
+    if (!dialogs_.Confirm("  ALERT",
+                          name + " has changed since it was listed. It was " + LastSaveOf(folders_, name) +
+                              ".\nDelete it ???",
+                          DialogButton::No, DialogIcon::Warning))
+        return false;
+    return DeleteJobFiles(folders_, name);
+}
+
+std::optional<fs::file_time_type> FileBrowser::TimeOf(const std::string& name) const {
+    std::error_code error;
+    const auto time = fs::last_write_time(JobFilePath(folders_, name), error);
+    return error ? std::nullopt : std::optional(time);
 }
 
 bool FileBrowser::Select(std::size_t line) {
@@ -138,6 +157,7 @@ bool FileBrowser::Select(std::string_view name) {
 
 void FileBrowser::SetSelection(std::optional<std::size_t> line) {
     state_.entry = line;
+    selectedTime_ = line ? TimeOf(state_.List1[*line]) : std::nullopt;
     state_.cmdSpawn.enabled = templates_ && line && state_.List1[*line] != kNewTemplate;
 }
 

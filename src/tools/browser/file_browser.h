@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -66,6 +67,8 @@ class FileBrowser {
     };
 
     bool ReadFolder();
+    bool DeleteAsSeen(const std::string& name);
+    std::optional<std::filesystem::file_time_type> TimeOf(const std::string& name) const;
     void SetControls();
     void SetSelection(std::optional<std::size_t> line);
     void SetSearchText(std::string_view capitals);
@@ -76,6 +79,8 @@ class FileBrowser {
     bool open_ = false;
     std::vector<File> files_;  ///< `File1`, of the kind that is listed
     std::string search_;       ///< in capitals
+    std::optional<std::filesystem::file_time_type>
+        selectedTime_;  ///< when the selected file was last changed
     BrowserState state_;
 };
 

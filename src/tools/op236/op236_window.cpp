@@ -7,6 +7,7 @@
 #include "core/fields.h"
 #include "core/text_conversions.h"
 #include "platform/atomic_file.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/record_file.h"
 #include "tools/op236/exemptions.h"
@@ -182,11 +183,11 @@ ReturnEntries OP236Window::Entries() const {
 
 fs::path OP236Window::FileFor(const fs::path& to) const {
     const bool isFile = !to.empty() && !fs::is_directory(to);
-    if (isFile) return FreeName(to);
+    if (isFile) return ClaimedName(to);
     const fs::path folder = to.empty() ? office_.shell.FolderOf(SpecialFolder::Documents) : to;
     fs::create_directories(folder);
     const std::string name = office_.jobName.empty() ? "Untitled" : office_.jobName;
-    return FreeName(folder / PathOf(name + "_OP236.pdf"));
+    return ClaimedName(folder / PathOf(name + "_OP236.pdf"));
 }
 
 void OP236Window::FillOP236(const fs::path& to) {
@@ -218,7 +219,12 @@ std::vector<std::string> OP236Window::Fill(const fs::path& to) {
     FilledForm filled = FillPdfForm(FindExisting(office_.programFolder / kForm),
                                     FormValues(office_.job, Entries(), office_.clock));
     const fs::path file = FileFor(to);
-    ReplaceFile(file, filled.bytes);
+    try {
+        ReplaceFile(file, filled.bytes);
+    } catch (...) {
+        GiveUpClaim(file);
+        throw;
+    }
     document_ = file;
     return std::move(filled.missing);
 }

@@ -1,13 +1,9 @@
 #include "core/job_folder.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <random>
-#include <set>
-
 #include "core/job_file.h"
+#include "core/job_ledger.h"
 #include "core/job_saves.h"
 #include "support/file_faults.h"
 #include "support/scratch.h"
@@ -18,6 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using test::ReadBytes;
 using test::WriteBytes;
+using testing::IsEmpty;
 
 constexpr std::string_view kOldPicture = "BM old picture", kNewPicture = "BM new picture";
 
@@ -146,6 +143,15 @@ TEST_F(JobFolderTest, AFolderThatWentAwayIsToldAndServesAgainWhenItReturns) {
     fs::rename(away, folders.JobFolder);
     SaveJobFiles(folders, job);
     EXPECT_EQ(ReadBytes(folders.ImagesFolder / "Pell_201.bmp"), kNewPicture);
+}
+
+TEST_F(JobFolderTest, WhatSeveralProgramsWereToldIsSavedIsThere) {
+    const test::LedgerResult result = test::JobLedger(scratch.path(), {}).Run();
+    EXPECT_EQ(result.failed, 0);
+    EXPECT_GT(result.saved, 20);
+    EXPECT_THAT(result.lost, IsEmpty());
+    EXPECT_THAT(result.revived, IsEmpty());
+    EXPECT_THAT(result.mismatch, IsEmpty());
 }
 
 }  // namespace

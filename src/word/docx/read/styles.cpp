@@ -10,6 +10,9 @@ namespace {
 
 constexpr std::string_view kPlaceholder = "%ID%";
 constexpr int kMostLevels = 9;
+/// The word processor itself takes no more than some four thousand styles, and half as many lists.
+constexpr std::size_t kMostStyles = 10'000;
+constexpr std::size_t kMostLists = 10'000;
 
 /// Where an abstract list stands, by its number in the file.
 using AbstractIndices = std::unordered_map<int, int>;
@@ -32,6 +35,7 @@ void MendLevel(pugi::xml_node level) {
 AbstractIndices ReadAbstractLists(ReadContext& context, const xml::XmlTree& tree) {
     AbstractIndices indices;
     for (pugi::xml_node node : tree.root().children("w:abstractNum")) {
+        if (indices.size() > kMostLists) context.package.Refuse("has more lists than any document");
         const auto number = xml::NumberAttribute(node, "w:abstractNumId");
         if (!number || indices.contains(*number)) continue;
         // Lists of one such number are joined by the word processor, and its templates mean nothing here.
@@ -131,6 +135,7 @@ void ReadNumbering(ReadContext& context, const xml::XmlTree& tree) {
         const auto id = xml::NumberAttribute(number, "w:numId");
         const auto abstract =
             indices.find(xml::NumberAttribute(number.child("w:abstractNumId"), "w:val").value_or(-1));
+        if (context.listNumbers.size() > kMostLists) context.package.Refuse("has more lists than any document");
         if (!id || *id <= 0 || abstract == indices.end() || context.listNumbers.contains(*id)) continue;
         context.document.lists.push_back(ReadInstance(tree, number, abstract->second));
         context.listNumbers.emplace(*id, static_cast<int>(context.document.lists.size()));
@@ -141,7 +146,9 @@ void ReadStyles(ReadContext& context, const xml::XmlTree& tree) {
     Document& document = context.document;
     document.styles.clear();
     StyleBases bases;
-    for (const pugi::xml_node style : UsableStyles(tree, bases)) {
+    const std::vector<pugi::xml_node> styles = UsableStyles(tree, bases);
+    if (styles.size() > kMostStyles) context.package.Refuse("has more styles than any document");
+    for (const pugi::xml_node style : styles) {
         DropDanglingReferences(style, bases);
         RenumberList(context, style);
         document.styles.push_back({std::string(xml::Attribute(style, "w:styleId")),

@@ -18,6 +18,12 @@ namespace {
 
 /// A document of text in tables in text boxes goes to some forty levels.
 constexpr int kDeepest = 200;
+/// Documents declare some forty namespaces of some sixty characters, and elements have some twenty attributes.
+constexpr std::size_t kMostNamespaces = 250;
+constexpr std::size_t kLongestNamespace = 1000;
+constexpr std::size_t kMostAttributes = 1000;
+/// Comparisons of names, of which the largest documents need some millions.
+constexpr std::size_t kMostSteps = 100'000'000;
 
 constexpr std::string_view kDeclaration = "xmlns";
 
@@ -100,6 +106,7 @@ class Normaliser {
     void DeclareIgnorable(pugi::xml_node node);
     std::string UsualFor(std::string_view prefix, std::string_view uri);
     const Declared* Find(std::string_view prefix);
+    void Count(std::size_t steps);
     Fate FateOf(std::string_view name, bool isAttribute, std::string& newName);
     Fate NameElement(pugi::xml_node node);
     void Attributes(pugi::xml_node node);
@@ -111,6 +118,7 @@ class Normaliser {
     void Truncate(std::size_t scopeSize);
 
     std::vector<Declared> scope_;
+    std::size_t steps_ = 0;
     std::ptrdiff_t lastFound_ = -1;  ///< most names in a row have one prefix
     bool inControl_ = false;         ///< in a content control's properties
     std::map<std::string, std::string, std::less<>> uriByPrefix_;
@@ -123,6 +131,9 @@ std::string Normaliser::UsualFor(std::string_view prefix, std::string_view uri) 
         return usual;
     }
     const std::string cleanUri = CleanXmlText(uri);
+    Count(uriByPrefix_.size());
+    if (uriByPrefix_.size() > kMostNamespaces) throw XmlDamage("declares more namespaces than any document");
+    if (cleanUri.size() > kLongestNamespace) throw XmlDamage("declares a namespace of unreasonable length");
     for (const auto& [known, knownUri] : uriByPrefix_) {
         if (knownUri == cleanUri) return known;
     }
@@ -139,6 +150,7 @@ void Normaliser::Declare(pugi::xml_node node) {
         if (!isDefault && PrefixOf(name) != kDeclaration) continue;
         const std::string_view prefix = isDefault ? std::string_view() : name.substr(kDeclaration.size() + 1);
         const std::string_view uri = attribute.value();
+        if (scope_.size() > kMostNamespaces) throw XmlDamage("declares more namespaces than any document");
         scope_.push_back({std::string(prefix), uri.empty() ? std::string() : UsualFor(prefix, uri), false});
         lastFound_ = -1;
     }
@@ -153,6 +165,8 @@ void Normaliser::DeclareIgnorable(pugi::xml_node node) {
         while (!list.empty()) {
             const std::string_view prefix = list.substr(0, list.find(' '));
             const Declared* ignored = Find(prefix);
+            if (scope_.size() > 2 * kMostNamespaces)
+                throw XmlDamage("declares more namespaces than any document");
             if (ignored && !IsUnderstood(ignored->usual))
                 scope_.push_back({ignored->prefix, ignored->usual, true});
             list.remove_prefix(std::min(list.size(), prefix.size() + 1));
@@ -165,10 +179,17 @@ const Normaliser::Declared* Normaliser::Find(std::string_view prefix) {
     if (lastFound_ >= 0 && scope_[lastFound_].prefix == prefix) return &scope_[lastFound_];
     for (std::ptrdiff_t i = std::ssize(scope_) - 1; i >= 0; --i) {
         if (scope_[i].prefix != prefix) continue;
+        Count(scope_.size() - static_cast<std::size_t>(i));
         lastFound_ = i;
         return &scope_[i];
     }
+    Count(scope_.size());
     return nullptr;
+}
+
+void Normaliser::Count(std::size_t steps) {
+    steps_ += steps;
+    if (steps_ > kMostSteps) throw XmlDamage("is more tangled than any document");
 }
 
 void Normaliser::Truncate(std::size_t scopeSize) {
@@ -210,6 +231,8 @@ void Normaliser::Attributes(pugi::xml_node node) {
         const Fate fate = isDeclaration ? Fate::Drop : FateOf(oldName, true, newName);
         if (fate == Fate::Rename) attribute.set_name(newName.c_str());
         const std::string_view name = attribute.name();
+        Count(seen.size());
+        if (seen.size() > kMostAttributes) throw XmlDamage("has an element of more than a thousand attributes");
         const bool isNoise = name.starts_with("w:rsid") || name.starts_with("mc:");
         if (fate == Fate::Drop || isNoise || std::ranges::find(seen, name) != seen.end()) {
             node.remove_attribute(attribute);

@@ -12,7 +12,8 @@ namespace quillmark::word::docx::xml {
 
 namespace {
 
-constexpr std::size_t kLargestXml = std::size_t{48} << 20;
+/// A tree takes some ten times the size of its text.
+constexpr std::size_t kLargestXml = std::size_t{24} << 20;
 /// The declaration of white space is part of the text; without it a lone blank between two runs is lost.
 constexpr unsigned kParseOptions = pugi::parse_default | pugi::parse_ws_pcdata;
 constexpr unsigned kPrintOptions = pugi::format_raw | pugi::format_no_declaration;

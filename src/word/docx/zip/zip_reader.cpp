@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view kZipMark = "PK";
 constexpr std::string_view kCompoundFileMark = "\xD0\xCF\x11\xE0";
-constexpr std::uintmax_t kLargestFile = std::uintmax_t{256} << 20;
+constexpr std::uintmax_t kLargestFile = std::uintmax_t{96} << 20;
 
 std::string LowerCase(std::string_view name) {
     std::string lower(name);

@@ -13,8 +13,8 @@ namespace quillmark::word::docx::zip {
 /// What an untrusted package may ask of the machine.
 struct ZipLimits {
     std::size_t entries = 20'000;
-    std::size_t totalBytes = std::size_t{256} << 20;  ///< of all entries read, inflated
-    std::size_t entryBytes = std::size_t{96} << 20;   ///< of one entry, inflated
+    std::size_t totalBytes = std::size_t{128} << 20;  ///< of all entries read, inflated
+    std::size_t entryBytes = std::size_t{64} << 20;   ///< of one entry, inflated
     /// How many times its packed size an entry may have; counts from `freeBytes` on, since small texts of
     /// one letter pack better than any real document.
     std::size_t ratio = 250;
