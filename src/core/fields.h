@@ -5,7 +5,7 @@
 namespace quillmark::field {
 
 enum Field : int {
-#define FIELD(number, name, marker, sortKey, description) name = number,
+#define FIELD(number, name, marker, sortKey, description) name = (number),
 #include "core/fields.inc"
 #undef FIELD
 };

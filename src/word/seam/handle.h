@@ -22,7 +22,10 @@ class Handle {
     /// The object that `owner` gives under this property name. The owner must outlive the handle.
     Handle(const Handle& owner, const char* member) : owner_(&owner), member_(member) {}
     Handle(const Handle& other) : object_(other.Keep()) {}
-    Handle& operator=(const Handle& other) { return Rebind(*this, other); }
+    /// Also of itself: the object is reached before the old one is let go.
+    Handle& operator=(const Handle& other) {  // NOLINT(bugprone-unhandled-self-assignment)
+        return Rebind(*this, other);
+    }
 
     ObjectPtr Reach() const;
     /// Whether there is an object, as far as that can be told without asking the word processor.
