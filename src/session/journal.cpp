@@ -19,7 +19,7 @@ namespace {
 constexpr std::string_view kEnding = ".journal";
 constexpr std::string_view kDeclined = ".declined";
 constexpr std::string_view kLock = ".lock";
-constexpr std::string_view kRecord = "QJ1";
+constexpr std::string_view kRecord = "QJ2";
 constexpr std::size_t kLimit = std::size_t{1} << 30;
 
 std::uint64_t HashOf(std::string_view bytes) {
@@ -171,7 +171,9 @@ void Journal::Write(std::stop_token stop) {
             entries.swap(waiting_);
         }
         try {
-            for (const Entry& entry : entries) Append(entry);
+            // Each is the whole state: what came meanwhile stands for what was before it.
+            for (const Entry& entry : entries)
+                if (&entry == &entries.back() || !entry.state || !entry.replaces.empty()) Append(entry);
         } catch (const std::exception&) {
             // A full disk, say: the next record is a whole one in a new file.
             std::error_code ignored;

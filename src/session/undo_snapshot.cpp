@@ -1,6 +1,7 @@
 #include "session/undo_snapshot.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/options.h"
 
@@ -10,7 +11,7 @@ namespace {
 
 bool Same(const FieldHolder& a, const FieldHolder& b) {
     return a.text == b.text && a.relevant == b.relevant && a.locked == b.locked && a.colour == b.colour &&
-           a.tag == b.tag && a.top == b.top;
+           a.tag == b.tag && a.top == b.top && a.forShow == b.forShow;
 }
 
 bool Same(const GridRow& a, const GridRow& b) {
@@ -32,6 +33,19 @@ bool SameName(const NameBox& a, const NameBox& b) {
 
 std::string WithoutBrackets(std::string_view marker) {
     return std::string(marker.size() > 2 ? marker.substr(1, marker.size() - 2) : marker);
+}
+
+bool Same(const std::vector<JobListLine>& a, const std::vector<JobListLine>& b) {
+    return std::ranges::equal(a, b, [](const JobListLine& x, const JobListLine& y) { return Same(x, y); });
+}
+
+/// A copy of one part of the screen without a list in it that need not be copied.
+template <class Part, class List>
+Part Without(List Part::*list, Part& screen) {
+    List aside = std::exchange(screen.*list, {});
+    Part part = screen;
+    screen.*list = std::move(aside);
+    return part;
 }
 
 /// The first line that only one of the lists has; that list is the longer one, or `to`.
@@ -91,11 +105,12 @@ std::shared_ptr<const Snapshot::Rows> Snapshot::RowsOf(const ScreenState& screen
     return std::make_shared<const Rows>(first, last);
 }
 
-std::shared_ptr<const Snapshot> Snapshot::Of(const ScreenState& screen, const Snapshot* before) {
+std::shared_ptr<const Snapshot> Snapshot::Of(ScreenState& screen, const Snapshot* before) {
     const auto snapshot = std::make_shared<Snapshot>();
     const Job& job = screen.job;
     for (std::size_t block = 0; block < kFieldBlocks; ++block)
         snapshot->fields_[block] = snapshot->FieldsOf(job, block, before);
+    snapshot->rows_.reserve((screen.grid.size() + kBlock - 1) / kBlock);
     for (std::size_t begin = 0; begin < screen.grid.size(); begin += kBlock)
         snapshot->rows_.push_back(snapshot->RowsOf(screen, begin, before));
     snapshot->pictures_ = before && *before->pictures_ == job.FieldPictures
@@ -105,10 +120,12 @@ std::shared_ptr<const Snapshot> Snapshot::Of(const ScreenState& screen, const Sn
                                 ? before->userFields_
                                 : std::make_shared<const UserFields>(job.userFields);
     for (int n = 1; n <= kOptions; ++n) snapshot->options_[static_cast<std::size_t>(n)] = job.optConf(n);
-    snapshot->around_ = screen;
-    snapshot->controls_ = screen;
+    snapshot->list_ = before && Same(*before->list_, screen.List2)
+                          ? before->list_
+                          : std::make_shared<const JobList>(screen.List2);
+    snapshot->around_ = Without<JobAround>(&JobAround::List2, screen);
+    snapshot->controls_ = Without<ScreenControls>(&ScreenControls::List1, screen);
     snapshot->history_ = job.JobDocuments;
-    snapshot->controls_.List1.clear();  // the firm's, not the job's
     return snapshot;
 }
 
@@ -132,6 +149,7 @@ void Snapshot::PutBack(ScreenState& screen, const Snapshot* other) const {
     screen.grid.clear();
     for (const auto& rows : rows_) screen.grid.insert(screen.grid.end(), rows->begin(), rows->end());
     static_cast<JobAround&>(screen) = around_;
+    screen.List2 = *list_;
     ScreenControls controls = controls_;
     controls.List1 = std::move(screen.List1);
     controls.ended = screen.ended;
@@ -158,10 +176,9 @@ bool Snapshot::HasSameJob(const Snapshot& other) const {
         for (int n = std::max(first, 1); n < std::min(first + static_cast<int>(kBlock), kFields + 1); ++n)
             if (!sameField(n)) return false;
     }
-    return options_ == other.options_ && *pictures_ == *other.pictures_ &&
-           *userFields_ == *other.userFields_ &&
-           std::ranges::equal(around_.List2, other.around_.List2,
-                              [](const JobListLine& a, const JobListLine& b) { return Same(a, b); }) &&
+    return options_ == other.options_ && (pictures_ == other.pictures_ || *pictures_ == *other.pictures_) &&
+           (userFields_ == other.userFields_ || *userFields_ == *other.userFields_) &&
+           (list_ == other.list_ || Same(*list_, *other.list_)) &&
            around_.LegalList == other.around_.LegalList &&
            around_.ParkedDocuments == other.around_.ParkedDocuments;
 }
@@ -170,10 +187,12 @@ std::string Snapshot::ActSince(const Snapshot& before, int hint) const {
     const auto changed = [&](int n) {
         return At(n).holder.text != before.At(n).holder.text || At(n).values[0] != before.At(n).values[0];
     };
-    if (!SameNames(around_.List2, before.around_.List2)) {
-        const bool dropped = around_.List2.size() < before.around_.List2.size();
-        return (dropped ? "remove " : "add ") + (dropped ? NewLine(around_.List2, before.around_.List2)
-                                                         : NewLine(before.around_.List2, around_.List2));
+    if (!SameNames(*list_, *before.list_)) {
+        if (list_->size() == before.list_->size() && NewLine(*before.list_, *list_).empty())
+            return "order of the job list";
+        const bool dropped = list_->size() < before.list_->size();
+        return (dropped ? "remove " : "add ") +
+               (dropped ? NewLine(*list_, *before.list_) : NewLine(*before.list_, *list_));
     }
     for (int n = 1; n <= kOptions; ++n) {
         const auto at = static_cast<std::size_t>(n);
@@ -195,7 +214,7 @@ std::string Snapshot::ActSince(const Snapshot& before, int hint) const {
         if (changed(n) && At(n).holder.relevant) return WithoutBrackets(FieldMarker(n));
     for (int n = 1; n <= kFields; ++n)
         if (!Same(At(n).holder, before.At(n).holder)) return WithoutBrackets(FieldMarker(n));
-    return around_.List2.empty() ? "change" : "legal paper";
+    return list_->empty() ? "change" : "legal paper";
 }
 
 }  // namespace quillmark

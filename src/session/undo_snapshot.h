@@ -15,8 +15,8 @@ namespace quillmark {
 /// one before it whatever is the same in both, so that a long history is small.
 class Snapshot {
  public:
-    /// `before` may be null.
-    static std::shared_ptr<const Snapshot> Of(const ScreenState& screen, const Snapshot* before);
+    /// `before` may be null. The screen is as it was when this returns.
+    static std::shared_ptr<const Snapshot> Of(ScreenState& screen, const Snapshot* before);
 
     /// Puts job and screen back, without running any rule. The name in the name box stays unless `other`, the
     /// snapshot at the other end of the act, has another one; without `other` it is put back too. Lists of
@@ -43,11 +43,12 @@ class Snapshot {
         FieldHolder holder;
         std::array<std::string, 5> values;  ///< `D(n)` and its derived values
     };
-    static constexpr std::size_t kBlock = 16;
+    static constexpr std::size_t kBlock = 4;  ///< what is copied when one of them changes
     using Fields = std::array<Field, kBlock>;
     using Rows = std::vector<GridRow>;  ///< at most kBlock
     using Pictures = std::array<std::string, kFields + 1>;
     using UserFields = std::vector<std::pair<std::string, std::string>>;
+    using JobList = std::vector<JobListLine>;
     static constexpr std::size_t kFieldBlocks = (kFields + kBlock) / kBlock;
 
     static bool IsSame(const Field& field, const Job& job, int n);
@@ -61,10 +62,11 @@ class Snapshot {
     std::vector<std::shared_ptr<const Rows>> rows_;
     std::shared_ptr<const Pictures> pictures_;
     std::shared_ptr<const UserFields> userFields_;
+    std::shared_ptr<const JobList> list_;
     std::array<bool, kOptions + 1> options_ = {};
-    JobAround around_;
-    ScreenControls controls_;
-    std::string history_;  ///< `JobDocuments`
+    JobAround around_;         ///< without the job list
+    ScreenControls controls_;  ///< without the firm's list of documents
+    std::string history_;      ///< `JobDocuments`
 };
 
 }  // namespace quillmark

@@ -102,7 +102,7 @@ void Go(const Way& way, T& v) {
     } else if constexpr (std::is_same_v<Value, std::pair<std::string, std::string>>) {
         Each(way, v.first, v.second);
     } else if constexpr (std::is_same_v<Value, FieldHolder>) {
-        Each(way, v.text, v.relevant, v.locked, v.colour, v.tag, v.top);
+        Each(way, v.text, v.relevant, v.locked, v.colour, v.tag, v.top, v.forShow);
     } else if constexpr (std::is_same_v<Value, GridRow>) {
         Each(way, v.kind, v.n, v.label, v.value, v.notes, v.lit, v.key, v.locked);
     } else if constexpr (std::is_same_v<Value, JobListLine>) {
@@ -116,8 +116,8 @@ void Go(const Way& way, T& v) {
     } else if constexpr (std::is_same_v<Value, NameBox>) {
         Each(way, v.text, v.locked, v.enabled, v.noSave);
     } else if constexpr (std::is_same_v<Value, JobAround>) {
-        Each(way, v.mode, v.fromTemplate, v.List2, v.LegalList, v.ParkedDocuments, v.groups,
-             v.relevantFieldCount, v.total, v.remaining, v.userMarkers);
+        Each(way, v.mode, v.fromTemplate, v.LegalList, v.ParkedDocuments, v.groups, v.relevantFieldCount,
+             v.total, v.remaining, v.userMarkers);
     } else if constexpr (std::is_same_v<Value, ScreenControls>) {
         Each(way, v.txtJobName, v.FieldEntryStarted, v.templateBeingSet, v.options, v.propertyTypeFrame,
              v.List1Enabled, v.List2Enabled, v.currentRow, v.currentGroup, v.cmdOpen, v.cmdCreate, v.cmdReset,
@@ -164,6 +164,7 @@ Snapshot::Cells Snapshot::CellsSince(const Snapshot* before) const {
     }
     if (!before || before->pictures_ != pictures_) cells["pictures"] = Written(*pictures_);
     if (!before || before->userFields_ != userFields_) cells["user"] = Written(*userFields_);
+    if (!before || before->list_ != list_) cells["list"] = Written(*list_);
     cells["options"] = Written(options_);
     cells["around"] = Written(around_);
     cells["controls"] = Written(controls_);
@@ -193,6 +194,9 @@ std::shared_ptr<const Snapshot> Snapshot::FromCells(const Cells& cells) {
     auto userFields = std::make_shared<UserFields>();
     ReadInto(Cell(cells, "user"), *userFields);
     snapshot->userFields_ = std::move(userFields);
+    auto list = std::make_shared<JobList>();
+    ReadInto(Cell(cells, "list"), *list);
+    snapshot->list_ = std::move(list);
     ReadInto(Cell(cells, "options"), snapshot->options_);
     ReadInto(Cell(cells, "around"), snapshot->around_);
     ReadInto(Cell(cells, "controls"), snapshot->controls_);

@@ -12,6 +12,30 @@ namespace quillmark::test {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// What programs remember of their user goes into a folder of this run, also in the programs that tests
+/// start.
+class OwnHome {
+ public:
+    OwnHome() {
+        for (const auto& [name, folder] : kFolders) setenv(name, (folder_ / folder).c_str(), 1);
+    }
+    ~OwnHome() {
+        if (getpid() != owner_) folder_.Leave();  // a child of a test
+    }
+
+ private:
+    static constexpr std::pair<const char*, const char*> kFolders[] = {
+        {"XDG_STATE_HOME", "state"}, {"XDG_CONFIG_HOME", "config"}, {"XDG_CACHE_HOME", "cache"}};
+
+    const pid_t owner_ = getpid();
+    ScratchFolder folder_;
+};
+const OwnHome kOwnHome;
+
+}  // namespace
+
 ScratchFolder::ScratchFolder() {
     std::random_device random;
     do {
@@ -21,7 +45,7 @@ ScratchFolder::ScratchFolder() {
 
 ScratchFolder::~ScratchFolder() {
     std::error_code ignored;
-    fs::remove_all(path_, ignored);
+    if (!path_.empty()) fs::remove_all(path_, ignored);
 }
 
 const fs::path& SourceFolder() {

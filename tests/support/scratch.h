@@ -15,6 +15,8 @@ class ScratchFolder {
     ScratchFolder& operator=(const ScratchFolder&) = delete;
 
     const std::filesystem::path& path() const { return path_; }
+    /// The folder stays when the object goes.
+    void Leave() { path_.clear(); }
     std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
 
  private:
