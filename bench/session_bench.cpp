@@ -10,6 +10,7 @@
 #include "selection/document_catalogue.h"
 #include "selection/relevant_fields.h"
 #include "session/main_screen.h"
+#include "session/preview_command.h"
 #include "word/start.h"
 
 namespace quillmark {
@@ -123,6 +124,37 @@ void CommitInFullGrid(benchmark::State& state) {
     if (screen.State().job.D(2072) != "New Haven") state.SkipWithError("nothing was committed");
 }
 BENCHMARK(CommitInFullGrid)->Unit(benchmark::kMicrosecond);
+
+/// One act taken back and done again, with every document on the list.
+void UndoAndRedo(benchmark::State& state) {
+    MainScreen& screen = FullGrid();
+    screen.EnterField(21, "Anna Abbott", EntryWay::Paste);
+    screen.EnterField(21, "Anna Abbot", EntryWay::Paste);
+    for (auto _ : state) {
+        screen.Undo();
+        screen.Redo();
+    }
+}
+BENCHMARK(UndoAndRedo)->Unit(benchmark::kMicrosecond);
+
+void BlanksOfAllDocuments(benchmark::State& state) {
+    MainScreen& screen = FullGrid();
+    for (auto _ : state) benchmark::DoNotOptimize(OpenNow(screen));
+}
+BENCHMARK(BlanksOfAllDocuments)->Unit(benchmark::kMillisecond);
+
+/// What the live page asks of the engine: one deed, and all documents.
+void PreviewOfDeed(benchmark::State& state) {
+    const PreviewOrder order = OrderOfPreview(FullGrid(), "Deed / Warranty");
+    for (auto _ : state) benchmark::DoNotOptimize(MakePreview(order, Office().folder / "page.docx"));
+}
+BENCHMARK(PreviewOfDeed)->Unit(benchmark::kMillisecond);
+
+void PreviewOfAllDocuments(benchmark::State& state) {
+    const PreviewOrder order = OrderOfPreview(FullGrid());
+    for (auto _ : state) benchmark::DoNotOptimize(MakePreview(order, Office().folder / "page.docx"));
+}
+BENCHMARK(PreviewOfAllDocuments)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace quillmark

@@ -157,7 +157,9 @@ Json Redo(ConsoleSession& session, const Request&) {
 }
 
 Json Recent(ConsoleSession& session, const Request&) {
-    return session.screen().RecentJobs();
+    Json names = Json::array();
+    for (const RecentJob& job : session.screen().RecentJobs()) names.push_back(job.name);
+    return names;
 }
 
 Json State(ConsoleSession& session, const Request&) {

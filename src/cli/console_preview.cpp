@@ -44,7 +44,7 @@ Json MakePreviewAt(ConsoleSession& session, const Request& request) {
 
 Json Blanks(ConsoleSession& session, const Request&) {
     Json list = Json::array();
-    for (const Blank& blank : BlanksNow(session.screen()))
+    for (const Blank& blank : OpenNow(session.screen()).blanks)
         list.push_back({{"n", blank.n},
                         {"marker", blank.marker},
                         {"required", blank.required},

@@ -17,6 +17,7 @@
 #include "selection/relevant_fields.h"
 #include "session/job_check.h"
 #include "session/main_screen.h"
+#include "session/preview_command.h"
 #include "word/start.h"
 #include "word/trace.h"
 
@@ -57,6 +58,15 @@ class NoShell final : public Shell {
     void Open(const std::string&) override {}
     void Start(const fs::path&, const std::vector<std::string>&) override {}
 };
+
+bool Holds(const std::vector<std::string>& list, const std::string& text) {
+    return std::ranges::find(list, text) != list.end();
+}
+
+std::string InOneLine(std::string text) {
+    std::ranges::replace(text, '\n', ' ');
+    return text;
+}
 
 class MakeRun {
  public:
@@ -190,32 +200,46 @@ class MakeRun {
     }
 
     void TellOfGaps() {
-        const CreateCommand& run = screen_->LastRun();
-        if (!run.EmptyDocuments().empty())
-            Complain(fmt::format("{}: no text yet for {}", job_, fmt::join(run.EmptyDocuments(), "; ")));
-        if (!run.Holes().empty())
-            Notify(fmt::format("{}: nothing fills {}", job_, fmt::join(run.Holes(), ", ")));
+        const Finish& made = screen_->LastRun().Made().value();
+        if (!made.withoutText.empty())
+            Complain(fmt::format("{}: no text yet for {}", job_, fmt::join(made.withoutText, "; ")));
+        if (!made.holes.empty())
+            Notify(fmt::format("{}: nothing fills {}", job_, fmt::join(made.holes, ", ")));
     }
 
+    /// What the window of open fields shows, and what is wrong besides.
     void Check() {
         const ScreenState& state = screen_->State();
-        const OpenFields open = OpenFieldsOf(state);
+        const std::vector<std::string> unknown = UnknownDocuments(state);
+        const OpenList open = OpenNow(*screen_);
         std::vector<std::string> wrong;
-        for (const std::string& marker : open.required) wrong.push_back(marker + " is open");
+        for (const Blank& blank : open.blanks)
+            if (blank.required) wrong.push_back(InWords(blank));
+        for (const std::string& marker : open.filledByCreate)
+            if (Holds(OpenFieldsOf(state).required, marker))
+                wrong.push_back(marker + " is open, a line to write on will stand for it");
         for (const std::vector<std::string>& doubts : {screen_->Doubts(), DoubtfulValues(state)})
             wrong.insert(wrong.end(), doubts.begin(), doubts.end());
         if (const auto obstacle = WhyNotCreate(state.job)) wrong.push_back(obstacle->text);
-        const std::vector<std::string> unknown = UnknownDocuments(state);
         for (const std::string& name : unknown) wrong.push_back("no document has the name \"" + name + "\"");
-        if (unknown.empty())
-            for (const std::string& hole : screen_->HolesToCome()) wrong.push_back("nothing fills " + hole);
-        for (const JobListLine& line : state.List2)
-            if (IsKnownDocument(line.name) && StaysEmpty(line.name))
-                Complain(fmt::format("{}: no text yet for {}", job_, line.name));
-        for (const std::string& marker : open.optional)
-            Complain(fmt::format("{}: {} is open (optional)", job_, marker));
+        for (const OpenList::Failure& failure : open.failures)
+            if (!Holds(unknown, failure.document))
+                wrong.push_back(failure.document + " cannot be made: " + failure.why);
+        for (const std::string& name : open.withoutText)
+            Complain(fmt::format("{}: no text yet for {}", job_, name));
+        for (const Blank& blank : open.blanks)
+            if (!blank.required) Complain(job_ + ": " + InWords(blank));
+        for (const OpenList::Question& question : open.questions)
+            Complain(fmt::format("{}: {} will ask: {}", job_, question.document, InOneLine(question.text)));
         for (const std::string& what : wrong) Complain(job_ + ": " + what);
         if (!wrong.empty()) failed_.push_back(job_);
+    }
+
+    static std::string InWords(const Blank& blank) {
+        std::string text = blank.hasRow ? blank.marker + " is open" : "nothing fills " + blank.marker;
+        if (!blank.required) text += " (optional)";
+        if (!blank.documents.empty()) text += fmt::format(" in {}", fmt::join(blank.documents, "; "));
+        return text;
     }
 
     word::StartedWordProcessor StartWord() {

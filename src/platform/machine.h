@@ -34,6 +34,16 @@ class Shell {
     virtual void Open(const std::string& fileOrAddress) = 0;
     /// Starts a program and does not wait for it. Throws MachineError if it cannot be started.
     virtual void Start(const std::filesystem::path& program, const std::vector<std::string>& arguments) = 0;
+
+    // What can be done with a finished document. Each throws MachineError where it cannot be done.
+    /// Opens the file's folder, with the file marked where the system can.
+    virtual void ShowInFolder(const std::filesystem::path& file);
+    virtual bool CanMailFiles() { return false; }
+    /// Begins a mail with the file attached, for the person to address and send.
+    virtual void MailFile(const std::string& subject, const std::filesystem::path& file);
+    virtual bool CanPrintFiles() { return false; }
+    /// On the printer of that name, with the program for such files.
+    virtual void PrintFile(const std::filesystem::path& file, const std::string& printer);
 };
 
 /// The shell of the system that the program runs on.
@@ -42,6 +52,11 @@ class SystemShell final : public Shell {
     std::filesystem::path FolderOf(SpecialFolder folder) override;
     void Open(const std::string& fileOrAddress) override;
     void Start(const std::filesystem::path& program, const std::vector<std::string>& arguments) override;
+    void ShowInFolder(const std::filesystem::path& file) override;
+    bool CanMailFiles() override;
+    void MailFile(const std::string& subject, const std::filesystem::path& file) override;
+    bool CanPrintFiles() override;
+    void PrintFile(const std::filesystem::path& file, const std::string& printer) override;
 };
 
 struct PrinterBin {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "production/run/preview.h"
@@ -20,10 +22,39 @@ struct Blank {
     bool operator==(const Blank&) const = default;
 };
 
-/// What is open in the job in hand, in grid order: relevant fields without a value, but for those that CREATE
-/// fills itself, and user-defined rows. Markers that no row asks for come last: `typed` is what CREATE would
-/// type now, document by document (OpenMarkersOfEach).
-std::vector<Blank> BlanksOf(const JobInHand& hand, const FirmContext& firm,
-                            const std::vector<Preview>& typed);
+/// All that is open in a job before CREATE: the one finding that the window, the command line and the check
+/// of jobs in bulk show.
+struct OpenList {
+    struct Question {
+        std::string document;  ///< that asks it
+        std::string text;
+    };
+    struct Failure {
+        std::string document;
+        std::string why;
+    };
+
+    /// Relevant fields without a value, but for those that CREATE fills itself, and user-defined rows, in the
+    /// order of the grid. Markers that no row asks for come last.
+    std::vector<Blank> blanks;
+    /// Markers of rows that are open and leave no hole: CREATE itself fills them.
+    std::vector<std::string> filledByCreate;
+    std::vector<std::string> withHoles;    ///< entries of the job list in which a marker would stand
+    std::vector<std::string> withoutText;  ///< entries that are not written yet: an empty section
+    std::vector<Question> questions;       ///< that CREATE will ask about documents
+    std::vector<Failure> failures;         ///< entries that cannot be made
+
+    std::size_t Required() const;
+    bool IsEmpty() const {
+        return blanks.empty() && withoutText.empty() && questions.empty() && failures.empty();
+    }
+};
+
+/// `typed` is what CREATE would type now, entry by entry (TypeEach).
+OpenList OpenListOf(const JobInHand& hand, const FirmContext& firm, const std::vector<TypedEntry>& typed);
+
+/// The markers that stand in a finished document though no row of the grid asks for their field: nobody was
+/// told that they are open. Each once, as the registry has them, in the order of the text.
+std::vector<std::string> MarkersNobodyAsksFor(std::string_view documentText, const JobInHand& hand);
 
 }  // namespace quillmark

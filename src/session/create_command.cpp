@@ -12,7 +12,7 @@
 #include "production/run/create_notices.h"
 #include "production/run/dispatch.h"
 #include "selection/relevant_fields.h"
-#include "session/holes.h"
+#include "session/blanks.h"
 #include "session/job_check.h"
 #include "session/state/buttons.h"
 #include "session/state/info_bar.h"
@@ -81,9 +81,7 @@ void CreateCommand::Run() {
     RequireReady(screen_);
     Require(!screen_.List2.empty(), "the job list is empty");
     lastDocument_.reset();
-    holes_.clear();
-    emptyDocuments_.clear();
-    pictureFaults_.clear();
+    making_ = {};
     screen_.creating = true;
     try {
         EndFormerRun();
@@ -112,8 +110,10 @@ void CreateCommand::EndFormerRun() {
 
 bool CreateCommand::MayCreate() {
     if (screen_.createDoes != CreateDoes::ReMake && !OpenFieldsOf(screen_).required.empty() &&
-        !machine_.dialogs.Confirm("  ALERT", std::string(kProceedAnyway), DialogButton::No))
+        !machine_.dialogs.Confirm("  ALERT", std::string(kProceedAnyway), DialogButton::No)) {
+        ++leftForOpenFields_;
         return false;
+    }
     if (const auto obstacle = WhyNotCreate(screen_.job)) {
         machine_.dialogs.Show(*obstacle);
         return false;
@@ -170,6 +170,10 @@ void CreateCommand::MakeDocuments() {
         if (!target_.trace.empty()) ReplaceFile(target_.trace, *trace);
     });
     const bool opens = run->IsEmbedded() && target_.to.empty();
+    making_.shownByWordProcessor = !run->IsEmbedded();
+    making_.document = document;
+    making_.number = ++runs_;
+    made_ = std::move(making_);
     run_ = std::move(run);
     lastDocument_ = document;
     if (opens) OpenDocument(document);
@@ -200,24 +204,28 @@ void CreateCommand::KeepMadeJob() {
     for (const JobListLine& line : screen_.List2)
         if (history.find(line.name) == history.npos) history += line.name + ":";
     try {
-        if (files_.Write()) return files_.CountAsSaved();
-        history = former;
+        making_.jobSaved = files_.Write();
+        if (!making_.jobSaved) history = former;
     } catch (...) {
         history = former;
         throw;
     }
+    if (making_.jobSaved) files_.CountAsSaved();
 }
 
 void CreateCommand::ShowNotices(const std::string& letters) {
-    const std::string notices = firm_.settings().documentAlerts ? TextOfNotices(letters) : std::string();
-    if (!notices.empty())
-        machine_.dialogs.Tell("  IMPORTANT NOTICES ABOUT THE DOCUMENTS YOU JUST CREATED", notices,
-                              DialogIcon::Information);
+    if (firm_.settings().documentAlerts)
+        TellNotice("  IMPORTANT NOTICES ABOUT THE DOCUMENTS YOU JUST CREATED", TextOfNotices(letters));
     if (!screen_.job.optConf(Letterhead)) return;
     std::vector<std::string> documents;
     for (const JobListLine& line : screen_.List2) documents.push_back(line.name);
-    const std::string reminder = LetterheadReminder(documents);
-    if (!reminder.empty()) machine_.dialogs.Tell("  REMINDER", reminder, DialogIcon::Information);
+    TellNotice("  REMINDER", LetterheadReminder(documents));
+}
+
+void CreateCommand::TellNotice(const char* title, const std::string& text) {
+    if (text.empty()) return;
+    making_.notices.push_back(text);
+    machine_.dialogs.Tell(title, text, DialogIcon::Information);
 }
 
 void CreateCommand::ShowAsMade() {
@@ -225,7 +233,7 @@ void CreateCommand::ShowAsMade() {
     ShowCreate(CreateDoes::ReMake, screen_);
     screen_.cmdEnvelopes.enabled = screen_.cmdOP236.enabled = !screen_.testMode;
     ShowInfo({{" Edit fields and Re-Make/Save OR click 'RESET' to clear & start over", InfoColour::Blue},
-              {Gaps(holes_, emptyDocuments_, pictureFaults_), InfoColour::Red}},
+              {Gaps(making_.holes, making_.withoutText, making_.pictureFaults), InfoColour::Red}},
              screen_);
     machine_.LetRepaint();
 }
@@ -259,25 +267,12 @@ void CreateCommand::EndFailedRun(const CreateError& failure) {
 }
 
 void CreateCommand::LookForGaps(CreateRun& run) {
-    run.Attempt([&] { holes_ = MarkersNobodyAsksFor(TextOfDocument(run), screen_); });
-    pictureFaults_ = PictureFaults(screen_);
-    for (const JobListLine& line : screen_.List2)
-        if (StaysEmpty(line.name)) emptyDocuments_.push_back(line.name);
-}
-
-std::vector<std::string> CreateCommand::HolesToCome() {
-    Job job = screen_.job;
-    CreateOrder order = OrderOfRun(nullptr);
-    order.dialogs = nullptr;
-    order.onProgress = {};
-    CreateRun run(job, std::move(order));
-    run.Produce();
-    std::vector<std::string> holes;
-    run.Attempt([&] {
-        holes = MarkersNobodyAsksFor(TextOfDocument(run), screen_);
-        run.session().WordApp.Quit();
-    });
-    return holes;
+    run.Attempt([&] { making_.holes = MarkersNobodyAsksFor(TextOfDocument(run), screen_); });
+    making_.pictureFaults = PictureFaults(screen_);
+    for (const JobListLine& line : screen_.List2) {
+        making_.entries.push_back(line.name);
+        if (StaysEmpty(line.name)) making_.withoutText.push_back(line.name);
+    }
 }
 
 void CreateCommand::QuitWord() {
@@ -290,6 +285,7 @@ void CreateCommand::QuitWord() {
 void CreateCommand::Forget() {
     run_.reset();
     lastDocument_.reset();
+    made_.reset();
 }
 
 }  // namespace quillmark

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "production/run/create.h"
+#include "session/finish.h"
 #include "session/firm.h"
 #include "session/job_files.h"
 #include "session/machine.h"
@@ -46,13 +47,10 @@ class CreateCommand {
     /// processor alone has it.
     const std::optional<std::filesystem::path>& LastDocument() const { return lastDocument_; }
 
-    /// Markers that stand in the document of the last run though no row of the grid asks for them, and the
-    /// entries of its job list that have no text yet.
-    const std::vector<std::string>& Holes() const { return holes_; }
-    const std::vector<std::string>& EmptyDocuments() const { return emptyDocuments_; }
-    /// The markers that would stand so in the documents as a run would make them now; nothing is kept of it.
-    /// Throws CreateError.
-    std::vector<std::string> HolesToCome();
+    /// What the last run that made documents made; nothing before one and after RESET.
+    const std::optional<Finish>& Made() const { return made_; }
+    /// How many runs have left early because required fields are open.
+    std::size_t LeftForOpenFields() const { return leftForOpenFields_; }
 
     /// Ends the word processor of the last run. The user's own closing of it is no fault here.
     void QuitWord();
@@ -67,6 +65,7 @@ class CreateCommand {
     std::filesystem::path SaveDocument(CreateRun& run);
     void KeepMadeJob();
     void ShowNotices(const std::string& letters);
+    void TellNotice(const char* title, const std::string& text);
     void ShowAsMade();
     void OpenDocument(const std::filesystem::path& document);
     void EndFailedRun(const CreateError& failure);
@@ -79,9 +78,10 @@ class CreateCommand {
     std::unique_ptr<CreateRun> run_;
     CreateTarget target_;
     std::optional<std::filesystem::path> lastDocument_;
-    std::vector<std::string> holes_;
-    std::vector<std::string> emptyDocuments_;
-    std::vector<std::string> pictureFaults_;
+    std::optional<Finish> made_;
+    Finish making_;
+    std::size_t runs_ = 0;
+    std::size_t leftForOpenFields_ = 0;
 };
 
 }  // namespace quillmark

@@ -112,6 +112,18 @@ void DocumentCommands::FollowDrop() {
     screen_.propertyTypeFrame = PropertyTypeFrame::Wide;
 }
 
+void DocumentCommands::Move(std::size_t line, std::size_t to) {
+    RequireReady(screen_);
+    Require(screen_.List2Enabled, "the job list is closed");
+    auto& list = screen_.List2;
+    Require(line < list.size() && to < list.size(), "the job list has no such line");
+    const auto from = list.begin() + static_cast<std::ptrdiff_t>(line);
+    const auto place = list.begin() + static_cast<std::ptrdiff_t>(to);
+    line < to ? std::rotate(from, from + 1, place + 1) : std::rotate(place, from, from + 1);
+    Refresh(screen_, firm_, editor_);
+    screen_.picInfo = kList2Guidance;
+}
+
 void DocumentCommands::SelectLegal(const std::vector<std::string>& lines) {
     RequireReady(screen_);
     Require(screen_.List2Enabled, "the job list is closed");

@@ -31,6 +31,8 @@ class DocumentCommands {
     void Pick(std::string_view line);                         ///< double click in List1
     void Drop(std::string_view line);                         ///< double click in List2, the first such line
     void SelectLegal(const std::vector<std::string>& lines);  ///< makes exactly these lines selected
+    /// Takes a line of List2 to another place; the lines between make room. Documents are made in this order.
+    void Move(std::size_t line, std::size_t to);
     /// Throws ParkingFull, with nothing changed.
     void ClickOption(int n);
     void DoubleClickOption(int n);

@@ -26,6 +26,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr std::string_view kOverwritten = " The existing file was overwritten";
+
 bool IsDataFile(const fs::path& path) {
     return Lowered(TextOf(path.extension())) == ".dat";
 }
@@ -103,7 +105,7 @@ bool JobFiles::ConfirmOverwrite(bool tellsWho) {
                                                DialogIcon::Warning});
     if (answer == DialogButton::OK) {
         box.locked = true;
-        screen_.picInfo = " The existing file was overwritten";
+        screen_.picInfo = kOverwritten;
         return true;
     }
     box.enabled = true;
@@ -137,6 +139,7 @@ void JobFiles::Save() {
     const std::string notFed = FeedBooks();
     if (!Write()) return;
     CountAsSaved();
+    if (screen_.picInfo != kOverwritten) screen_.picInfo = " Saved:  " + box.text;
     TellOfBooks(notFed);
 }
 

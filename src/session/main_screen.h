@@ -47,6 +47,7 @@ class MainScreen {
     const ScreenState& State() const { return screen_; }
     const FirmContext& FirmAround() const { return firm_.Context(); }
     Dialogs& Person() const { return machine_.dialogs; }
+    Shell& Programs() const { return machine_.shell; }
 
     // The name box.
     void FocusName() {
@@ -77,6 +78,9 @@ class MainScreen {
     }
     void SelectLegal(const std::vector<std::string>& lines) {
         Act([&] { documents_.SelectLegal(lines); });
+    }
+    void MoveDocument(std::size_t line, std::size_t to) {
+        Act([&] { documents_.Move(line, to); });
     }
     void ClickOption(int n) {
         Act([&] { documents_.ClickOption(n); });
@@ -185,7 +189,10 @@ class MainScreen {
     }
     void Spawn(std::string_view entry);
     /// Jobs last opened or saved by this user, newest first, those that are still there.
-    std::vector<std::string> RecentJobs() const;
+    std::vector<RecentJob> RecentJobs() const;
+    /// Opens a job by its name as OPEN and a choice in the browser do, or by its file's path. Throws
+    /// FileError for a path that leads to none.
+    void OpenJob(std::string_view job);
 
     // Windows beside the main one.
     /// The screen of an address book: by the browser's `cmdAttorneys` and `cmdServicers`, or from the main
@@ -230,7 +237,6 @@ class MainScreen {
     void SetCreateTarget(CreateTarget target) { create_.SetTarget(std::move(target)); }
     const std::optional<std::filesystem::path>& LastDocument() const { return create_.LastDocument(); }
     const CreateCommand& LastRun() const { return create_; }
-    std::vector<std::string> HolesToCome() { return create_.HolesToCome(); }
 
     // For jobs in bulk, with nobody before the screen.
     /// Reads the firm's files and is ready for the first job; no upkeep, no warning, nothing written.

@@ -1,6 +1,7 @@
 #include <fmt/chrono.h>
 
 #include "platform/machine.h"
+#include "platform/paths.h"
 #include "session/main_screen.h"
 #include "session/state/ready.h"
 
@@ -38,8 +39,18 @@ void MainScreen::EndHistory() {
     if (recent_ && isFile && !screen_.HasUnsavedChanges()) recent_->Touch(box.text);
 }
 
-std::vector<std::string> MainScreen::RecentJobs() const {
-    return recent_ ? recent_->Names(firm_.folders()) : std::vector<std::string>();
+std::vector<RecentJob> MainScreen::RecentJobs() const {
+    return recent_ ? recent_->Jobs(firm_.folders()) : std::vector<RecentJob>();
+}
+
+void MainScreen::OpenJob(std::string_view job) {
+    RequireReady(screen_);
+    Require(screen_.openDoes == OpenDoes::OpenJob && screen_.cmdOpen.enabled, "a job has been begun");
+    OpenBrowser(false);
+    const AfterCommand closes{[this] { CloseBrowser(); }};
+    const std::filesystem::path file = PathOf(job);
+    if (!file.has_parent_path()) return LoadJob(job, false);
+    Anew([&] { files_.LoadFrom(FindJob(std::string(job), firm_.folders()), false); });
 }
 
 std::string MainScreen::Undo() {

@@ -16,16 +16,16 @@ PreviewOrder OrderOfPreview(const MainScreen& screen, std::string_view document)
     order.job.name = state.txtJobName.IsSaveable() ? state.txtJobName.text : std::string();
     order.LegalList = state.LegalList;
     order.settings = screen.FirmAround().settings;
+    order.CustomFormsFolder = screen.FirmAround().folders.CustomFormsFolder;
     order.today = screen.FirmAround().clock.Today();
     order.nameUsable = state.txtJobName.IsSaveable();
     return order;
 }
 
-std::vector<Blank> BlanksNow(const MainScreen& screen) {
+OpenList OpenNow(const MainScreen& screen) {
     const ScreenState& state = screen.State();
-    const std::vector<Preview> typed =
-        state.List2.empty() ? std::vector<Preview>() : OpenMarkersOfEach(OrderOfPreview(screen));
-    return BlanksOf(state, screen.FirmAround(), typed);
+    const auto typed = state.List2.empty() ? std::vector<TypedEntry>() : TypeEach(OrderOfPreview(screen));
+    return OpenListOf(state, screen.FirmAround(), typed);
 }
 
 }  // namespace quillmark

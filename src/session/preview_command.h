@@ -12,7 +12,7 @@ namespace quillmark {
 /// `document` is empty. The screen is only read. Throws NotAllowed where there is no such document to make.
 PreviewOrder OrderOfPreview(const MainScreen& screen, std::string_view document = {});
 
-/// What is open in the job on the screen; see BlanksOf.
-std::vector<Blank> BlanksNow(const MainScreen& screen);
+/// What is open in the job on the screen.
+OpenList OpenNow(const MainScreen& screen);
 
 }  // namespace quillmark

@@ -59,13 +59,16 @@ void RecentJobList::Touch(const std::string& name) {
     }
 }
 
-std::vector<std::string> RecentJobList::Names(const Folders& folders) const {
-    std::vector<std::string> names = Read();
-    std::erase_if(names, [&](const std::string& name) {
-        std::error_code none;
-        return !fs::exists(JobFilePath(folders, name), none);
-    });
-    return names;
+std::vector<RecentJob> RecentJobList::Jobs(const Folders& folders) const {
+    std::vector<RecentJob> jobs;
+    for (std::string& name : Read()) {
+        std::error_code gone;
+        const auto written = fs::last_write_time(JobFilePath(folders, name), gone);
+        if (gone) continue;
+        const auto time = std::chrono::file_clock::to_sys(written);
+        jobs.push_back({std::move(name), std::chrono::floor<std::chrono::seconds>(time)});
+    }
+    return jobs;
 }
 
 }  // namespace quillmark

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -8,6 +9,11 @@
 #include "core/folders.h"
 
 namespace quillmark {
+
+struct RecentJob {
+    std::string name;
+    std::chrono::sys_seconds saved;  ///< when its file was last written
+};
 
 /// The names of the jobs that a user last opened or saved, in a file of that user's own. What the disk
 /// refuses is let go: the list is a convenience.
@@ -18,7 +24,7 @@ class RecentJobList {
     /// This one is the newest from now on.
     void Touch(const std::string& name);
     /// Newest first; without those that have no file any more.
-    std::vector<std::string> Names(const Folders& folders) const;
+    std::vector<RecentJob> Jobs(const Folders& folders) const;
 
  private:
     std::vector<std::string> Read() const;

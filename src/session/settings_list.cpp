@@ -187,6 +187,7 @@ void SettingsList::Save() {
     if (!firm_.Keep(defaults)) return;
     for (OptionButton& option : screen_.options) option.enabled = false;
     screen_.cmdOpen.enabled = false;
+    screen_.picInfo = " Settings saved";
 }
 
 }  // namespace quillmark

@@ -102,11 +102,12 @@ TEST_F(Making, CheckNamesWhatIsWrongAndMakesNothing) {
                Job("\"072\",\"Atlantis, CT\"\r\n\"076\",\"much\"\r\n\"079\",\"soon\"\r\n"));
     EXPECT_EQ(MakeAsked({"--check", "--documents", "Deed / Warranty;Deed / Wrong;Closing Statement", "Bad"}),
               1);
-    for (const char* finding : {"Bad: [seller 1 name] is open", "Bad: [buyer 1 addr 2] is open (optional)",
-                                "Bad: [property cy,st zip] holds \"Atlantis, CT\", which is in no county",
-                                "Bad: [sale price numeric] holds \"much\", which is no amount",
-                                "Bad: [closing date] holds \"soon\", which is not a date",
-                                "Bad: no document has the name \"Deed / Wrong\""})
+    for (const char* finding :
+         {"Bad: [seller 1 name] is open in Deed / Warranty", "Bad: [buyer 1 addr 2] is open (optional)",
+          "Bad: [property cy,st zip] holds \"Atlantis, CT\", which is in no county",
+          "Bad: [sale price numeric] holds \"much\", which is no amount",
+          "Bad: [closing date] holds \"soon\", which is not a date",
+          "Bad: no document has the name \"Deed / Wrong\""})
         EXPECT_THAT(err.str(), HasSubstr(finding));
     EXPECT_EQ(MakeAsked({"--check", "Hollis"}), 1);
     EXPECT_THAT(err.str(), HasSubstr("Hollis: nothing fills [seller atty]"));

@@ -17,7 +17,7 @@ class BlanksTest : public OfficeTest {
  protected:
     BlanksTest() { Start(); }
     const Blank* Find(int n) {
-        list = BlanksNow(*screen);
+        list = OpenNow(*screen).blanks;
         const auto found = std::ranges::find(list, n, &Blank::n);
         return found == list.end() ? nullptr : &*found;
     }
@@ -25,7 +25,7 @@ class BlanksTest : public OfficeTest {
 };
 
 TEST_F(BlanksTest, TellWhatIsOpenAndWhere) {
-    EXPECT_THAT(BlanksNow(*screen), IsEmpty());
+    EXPECT_THAT(OpenNow(*screen).blanks, IsEmpty());
     MakeSmallJob("Abbott");
     EXPECT_EQ(Find(21), nullptr) << "the seller's name is there";
     EXPECT_EQ(Find(1), nullptr) << "CREATE dates the documents";
@@ -46,7 +46,7 @@ TEST_F(BlanksTest, StandInGridOrderMarkersWithoutARowLast) {
         screen->PickDocument(document);
     std::vector<int> rows;
     for (const GridRow& row : State().grid) rows.push_back(row.n);
-    list = BlanksNow(*screen);
+    list = OpenNow(*screen).blanks;
     auto at = rows.begin();
     bool rowsAreOver = false;
     for (const Blank& blank : list) {
@@ -59,6 +59,34 @@ TEST_F(BlanksTest, StandInGridOrderMarkersWithoutARowLast) {
         at = std::find(at, rows.end(), blank.n);
         EXPECT_NE(at, rows.end()) << blank.marker;
     }
+}
+
+TEST_F(BlanksTest, TellWhichDocumentsHaveHolesAndWhatWillBeAsked) {
+    screen->TypeName("Abbott");
+    screen->EnterName();
+    screen->PickDocument("Notice Of Lease");
+    screen->PickDocument("Closing Statement / Tax Exempt");
+    const OpenList open = OpenNow(*screen);
+    EXPECT_THAT(open.withHoles, ElementsAre("Closing Statement / Tax Exempt"));
+    EXPECT_THAT(open.withoutText, ElementsAre("Notice Of Lease"));
+    EXPECT_THAT(open.failures, IsEmpty());
+    EXPECT_GT(open.Required(), 0u);
+    EXPECT_TRUE(dialogs.TakeShown().empty()) << "nobody was asked";
+}
+
+TEST_F(BlanksTest, WhatIsOpenBeforeARunIsWhatItSaysBehindIt) {
+    std::filesystem::remove(scratch / "defaults.fld");
+    Start();
+    MakeSmallJob("Abbott");
+    std::vector<std::string> nobodys;
+    for (const Blank& blank : OpenNow(*screen).blanks)
+        if (!blank.hasRow) nobodys.push_back(blank.marker);
+    EXPECT_THAT(nobodys, ElementsAre("[seller atty]"));
+    Answer({"Yes"});
+    screen->Click("cmdCreate");
+    ASSERT_TRUE(screen->LastRun().Made());
+    EXPECT_EQ(screen->LastRun().Made()->holes, nobodys);
+    EXPECT_TRUE(screen->LastRun().Made()->jobSaved);
 }
 
 }  // namespace

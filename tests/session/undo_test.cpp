@@ -47,7 +47,10 @@ class UndoTest : public OfficeTest {
     void AnyAct() {
         const auto& rows = State().grid;
         const int n = rows.empty() ? 21 : rows[Below(rows.size())].n;
-        switch (Below(12)) {
+        switch (Below(13)) {
+            case 12:
+                if (State().List2.empty()) return;
+                return screen->MoveDocument(Below(State().List2.size()), Below(State().List2.size()));
             case 0:
             case 1:
                 return screen->PickDocument(kDocuments[Below(kDocuments.size())]);
@@ -102,6 +105,8 @@ TEST_F(UndoTest, HundredsOfActsAreTakenBackAndDoneAgain) {
             if (Below(3) == 0) return screen->PickDocument(kDocuments[Below(kDocuments.size())]);
             if (Below(2) == 0) return screen->ClickOption(static_cast<int>(Below(kOptions)) + 1);
             if (Below(3) == 0) return screen->SelectLegal({kDocuments[Below(kDocuments.size())]});
+            if (Below(2) == 0 && !State().List2.empty())
+                return screen->MoveDocument(Below(State().List2.size()), Below(State().List2.size()));
             screen->DropDocument(kDocuments[Below(kDocuments.size())]);
         });
     for (const char* document : {"Deed / Warranty", "Closing Statement", "[ Rider ]"})

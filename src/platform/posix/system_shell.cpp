@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <fstream>
+#include <sstream>
 #include <system_error>
 
 #include "platform/machine.h"
@@ -20,6 +21,14 @@ namespace {
 fs::path FromEnvironment(const char* name) {
     const char* value = std::getenv(name);
     return value && *value == '/' ? fs::path(value) : fs::path();
+}
+
+bool IsOnPath(const char* program) {
+    const char* path = std::getenv("PATH");
+    std::istringstream folders(path ? path : "");
+    for (std::string folder; std::getline(folders, folder, ':');)
+        if (!folder.empty() && ::access((fs::path(folder) / program).c_str(), X_OK) == 0) return true;
+    return false;
 }
 
 /// The value of XDG_DOCUMENTS_DIR="$HOME/..." in the user's file of folder names.
@@ -99,6 +108,26 @@ void SystemShell::Start(const fs::path& program, const std::vector<std::string>&
     if (const int error = StartDetached(words.data()); error != 0) {
         throw MachineError("cannot start " + TextOf(program) + ": " + std::generic_category().message(error));
     }
+}
+
+void SystemShell::ShowInFolder(const fs::path& file) {
+    Shell::ShowInFolder(file);
+}
+
+bool SystemShell::CanMailFiles() {
+    return IsOnPath("xdg-email");
+}
+
+void SystemShell::MailFile(const std::string& subject, const fs::path& file) {
+    Start("xdg-email", {"--utf8", "--subject", subject, "--attach", file.string()});
+}
+
+bool SystemShell::CanPrintFiles() {
+    return IsOnPath("soffice");
+}
+
+void SystemShell::PrintFile(const fs::path& file, const std::string& printer) {
+    Start("soffice", {"--headless", "--pt", printer, file.string()});
 }
 
 }  // namespace quillmark

@@ -26,10 +26,11 @@ std::wstring Quoted(const std::wstring& word) {
     return quoted.append(backslashes, L'\\') + L'"';
 }
 
-void Execute(const std::wstring& what, const std::wstring& arguments) {
+void Execute(const std::wstring& what, const std::wstring& arguments, const wchar_t* verb = nullptr) {
     SHELLEXECUTEINFOW info = {};
     info.cbSize = sizeof info;
     info.fMask = SEE_MASK_FLAG_NO_UI;
+    info.lpVerb = verb;
     info.lpFile = what.c_str();
     info.lpParameters = arguments.empty() ? nullptr : arguments.c_str();
     info.nShow = SW_SHOWNORMAL;
@@ -59,6 +60,27 @@ void SystemShell::Start(const fs::path& program, const std::vector<std::string>&
         line += (line.empty() ? L"" : L" ") + Quoted(PathOf(argument).wstring());
     }
     Execute(program.wstring(), line);
+}
+
+void SystemShell::ShowInFolder(const fs::path& file) {
+    Execute(L"explorer.exe", L"/select,\"" + file.wstring() + L"\"");
+}
+
+/// A mail link, which is all that every mail program here takes, carries no file.
+bool SystemShell::CanMailFiles() {
+    return false;
+}
+
+void SystemShell::MailFile(const std::string& subject, const fs::path& file) {
+    Shell::MailFile(subject, file);
+}
+
+bool SystemShell::CanPrintFiles() {
+    return true;
+}
+
+void SystemShell::PrintFile(const fs::path& file, const std::string& printer) {
+    Execute(file.wstring(), Quoted(PathOf(printer).wstring()), L"printto");
 }
 
 }  // namespace quillmark

@@ -25,6 +25,7 @@ CreateOrder OrderOfRun(const PreviewOrder& order, Names documents) {
     run.LegalList = order.LegalList;
     run.settings = order.settings;
     run.today = order.today;
+    run.CustomFormsFolder = order.CustomFormsFolder;
     run.nameUsable = order.nameUsable;
     run.startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); };
     return run;
@@ -41,8 +42,11 @@ std::u32string TextOfDocument(const word::Document& document) {
 }
 
 /// One run over a job of its own.
-std::u32string Type(Job job, const PreviewOrder& order, const Names& documents, const fs::path& to) {
-    CreateRun run(job, OrderOfRun(order, documents));
+std::u32string Type(Job job, const PreviewOrder& order, const Names& documents, const fs::path& to,
+                    Dialogs* person = nullptr) {
+    CreateOrder orderOfRun = OrderOfRun(order, documents);
+    orderOfRun.dialogs = person;
+    CreateRun run(job, std::move(orderOfRun));
     run.Produce();
     if (!to.empty()) run.Save(TextOf(to));
     return TextOfDocument(run.session().WordDoc);
@@ -97,17 +101,21 @@ Preview MakePreview(const PreviewOrder& order, const fs::path& to) {
     return made;
 }
 
-std::vector<Preview> OpenMarkersOfEach(const PreviewOrder& order) {
+std::vector<TypedEntry> TypeEach(const PreviewOrder& order) {
     const Job job = TypedJob(order);
-    std::vector<Preview> each;
+    const OpenMarkers markers(job);
+    std::vector<TypedEntry> each;
     for (const std::string& document : order.JobList) {
-        Preview& made = each.emplace_back();
+        TypedEntry& typed = each.emplace_back();
+        ScriptedDialogs person;
         try {
-            made.text = Type(job, order, {document}, {});
-            made.values = FindMarkers(job, made.text);
-        } catch (const CreateError&) {
-            made.missing = {document};
+            typed.text = Type(job, order, {document}, {}, &person);
+            typed.open = markers.In(typed.text);
+        } catch (const CreateError& failure) {
+            typed.failure = failure.what();
         }
+        for (const ScriptedDialogs::Record& box : person.Shown())
+            if (box.buttons.size() > 1) typed.questions.push_back(box.text);
     }
     return each;
 }

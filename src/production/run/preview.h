@@ -19,7 +19,8 @@ struct PreviewOrder {
     std::string LegalList;             ///< names of the entries on legal-size paper, joined by commas
     Settings settings;
     std::chrono::year_month_day today;
-    bool nameUsable = true;  ///< the job's name may stand in the footers
+    std::filesystem::path CustomFormsFolder = {};  ///< where the firm's own forms lie
+    bool nameUsable = true;                        ///< the job's name may stand in the footers
 };
 
 /// The text of a document as it was typed: a paragraph's end is one character, '\r', tables stand in reading
@@ -37,8 +38,15 @@ struct Preview {
 /// one that cannot be typed is an empty section; throws CreateError when none can.
 Preview MakePreview(const PreviewOrder& order, const std::filesystem::path& to);
 
-/// Each entry of the job list typed alone, in order: its text, and of the values the open ones. What cannot
-/// be typed is empty.
-std::vector<Preview> OpenMarkersOfEach(const PreviewOrder& order);
+/// One entry of the job list typed alone.
+struct TypedEntry {
+    std::u32string text;
+    std::vector<ValuePlace> open;        ///< the markers in it, in order
+    std::vector<std::string> questions;  ///< that typing it asks of the person
+    std::string failure;                 ///< why it cannot be typed; empty where it can
+};
+
+/// Each entry of the job list as CREATE would type it now, in order.
+std::vector<TypedEntry> TypeEach(const PreviewOrder& order);
 
 }  // namespace quillmark

@@ -4,6 +4,7 @@
 #include <map>
 #include <set>
 
+#include "core/field_registry.h"
 #include "core/fields.h"
 #include "platform/code_points.h"
 #include "production/kit/job_values.h"
@@ -129,25 +130,25 @@ class Texts {
         return nullptr;
     }
     const std::multimap<int, std::u32string>& Values() const { return values_; }
-    /// The field of a marker with its brackets; 0 if there is none.
-    int OfMarker(const std::u32string& marker) const {
-        const auto found = markers_.find(marker);
-        return found == markers_.end() ? 0 : found->second;
-    }
 
  private:
     void Add(int n, const std::string& text, bool isFilled) {
-        if (text.empty()) return;
-        std::u32string small = Small(CodePoints(text));
-        if (isFilled)
-            values_.emplace(n, std::move(small));
-        else
-            markers_.emplace(std::move(small), n);
+        if (isFilled && !text.empty()) values_.emplace(n, Small(CodePoints(text)));
     }
 
     std::multimap<int, std::u32string> values_;  ///< the value itself first
-    std::map<std::u32string, int> markers_;
 };
+
+/// Calls `take` with the place of each marker in a text of small letters, and its field.
+template <class Take>
+void ForEachMarker(const OpenMarkers& markers, const std::u32string& text, Take take) {
+    constexpr std::size_t kLongest = 60;
+    for (std::size_t at = text.find(U'['); at != text.npos; at = text.find(U'[', at + 1)) {
+        const std::size_t end = text.find_first_of(U"[]\r", at + 1);
+        if (end == text.npos || text[end] != U']' || end - at > kLongest) continue;
+        if (const auto n = markers.FieldOf(text.substr(at, end + 1 - at))) take(*n, at, end + 1 - at);
+    }
+}
 
 class Finder {
  public:
@@ -159,14 +160,8 @@ class Finder {
             if (IsSign(signs[at]) && !taken_[at]) TakeRun(signs, at);
     }
     void TakeMarkers() {
-        constexpr std::size_t kLongest = 60;
-        for (std::size_t at = text_.find(U'['); at != text_.npos; at = text_.find(U'[', at + 1)) {
-            const std::size_t end = text_.find_first_of(U"[]\r", at + 1);
-            if (end == text_.npos || text_[end] != U']' || end - at > kLongest) continue;
-            const std::u32string marker = text_.substr(at, end + 1 - at);
-            const int n = texts_.OfMarker(marker);
-            if (n > 0 || IsUserMarker(marker)) Take(n, at, marker.size(), true);
-        }
+        ForEachMarker(OpenMarkers(job_), text_,
+                      [this](int n, std::size_t at, std::size_t length) { Take(n, at, length, true); });
     }
     /// Whole words that nothing has taken yet, everywhere those that have no signs.
     void Search(std::size_t begin, std::size_t end) {
@@ -184,11 +179,6 @@ class Finder {
 
  private:
     static constexpr std::size_t kShortest = 3;  ///< a shorter text stands in too many places by chance
-
-    bool IsUserMarker(std::u32string_view marker) const {
-        return std::ranges::any_of(
-            job_.userFields, [&](const auto& field) { return Small(CodePoints(field.first)) == marker; });
-    }
 
     /// The stretch that begins at this sign: on over punctuation as long as it is the value's own.
     void TakeRun(std::u32string_view signs, std::size_t at) {
@@ -292,10 +282,38 @@ std::vector<ValuePlace> FindValues(const Job& job, std::u32string_view text, std
     return finder.Places();
 }
 
-std::vector<ValuePlace> FindMarkers(const Job& job, std::u32string_view text) {
-    Finder finder(job, text);
-    finder.TakeMarkers();
-    return finder.Places();
+OpenMarkers::OpenMarkers(const Job& job) {
+    const auto add = [this](std::string_view text, int n) {
+        if (text.size() > 2 && text.starts_with('[')) markers_.emplace(Small(CodePoints(text)), n);
+    };
+    for (int n = 1; n <= kFields; ++n) {
+        add(FieldMarker(n), n);
+        for (int k = 0; k <= 4; ++k) {
+            const bool isOpen = k > 0 || !job.IsFilled(n);
+            if (isOpen) add(job.D(k * 1000 + n), n);
+        }
+    }
+    for (const DerivedField& derived : DerivedFields()) add(derived.marker, derived.number % 1000);
+    for (const int n : AddressFields()) {
+        const std::string_view marker = FieldMarker(n);
+        const std::string label(marker.substr(0, marker.size() - 1));
+        for (const char* behind : {", addr 2]", " - addr 2]"}) add(label + behind, n);
+    }
+    for (const auto& [marker, value] : job.userFields) add(marker, 0);
+}
+
+std::optional<int> OpenMarkers::FieldOf(const std::u32string& marker) const {
+    const auto found = markers_.find(marker);
+    return found == markers_.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::vector<ValuePlace> OpenMarkers::In(std::u32string_view text) const {
+    std::vector<ValuePlace> places;
+    if (text.find(U'[') == text.npos) return places;
+    ForEachMarker(*this, Small(text), [&](int n, std::size_t at, std::size_t length) {
+        places.push_back({n, at, length, true});
+    });
+    return places;
 }
 
 }  // namespace quillmark

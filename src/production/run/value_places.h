@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,8 +32,21 @@ Job WithSigns(const Job& job);
 /// do not correspond, the values are searched for instead.
 std::vector<ValuePlace> FindValues(const Job& job, std::u32string_view text, std::u32string_view signs);
 
-/// Of the places those that are open.
-std::vector<ValuePlace> FindMarkers(const Job& job, std::u32string_view text);
+/// The markers that a document may show: of this job's fields and derived values without a value, of its
+/// user-defined fields, and of any field, whose marker a form may hold though the job has a value for it.
+class OpenMarkers {
+ public:
+    explicit OpenMarkers(const Job& job);
+
+    /// Those in a text, in order, in whatever case. Brackets that a form prints are none.
+    std::vector<ValuePlace> In(std::u32string_view text) const;
+    /// The field of a marker with its brackets, in small letters; 0 for one that no field has; nothing for
+    /// what is no marker.
+    std::optional<int> FieldOf(const std::u32string& marker) const;
+
+ private:
+    std::map<std::u32string, int> markers_;
+};
 
 /// Whether every character of the one text has its counterpart in the other.
 bool Correspond(std::u32string_view text, std::u32string_view signs);
