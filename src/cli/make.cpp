@@ -203,6 +203,7 @@ class MakeRun {
         const Finish& made = screen_->LastRun().Made().value();
         if (!made.withoutText.empty())
             Complain(fmt::format("{}: no text yet for {}", job_, fmt::join(made.withoutText, "; ")));
+        for (const std::string& fault : made.pictureFaults) Complain(job_ + ": " + fault);
         if (!made.holes.empty())
             Notify(fmt::format("{}: nothing fills {}", job_, fmt::join(made.holes, ", ")));
     }

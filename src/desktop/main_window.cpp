@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMimeData>
 #include <QScreen>
 #include <QShortcut>
 
@@ -22,6 +23,15 @@ QSize FirstSizeOn(const QScreen& screen) {
     return (available * 9 / 10).boundedTo(kLargestFirstSize).expandedTo(kFirstSize).boundedTo(available);
 }
 
+/// The one job's file or form that is dragged; empty for anything else.
+QString DraggedFile(const QMimeData* data) {
+    if (!data->hasUrls() || data->urls().size() != 1) return {};
+    const QString file = data->urls().front().toLocalFile();
+    for (const char* ending : {".dat", ".docx", ".docm", ".dotx", ".doc"})
+        if (file.endsWith(QLatin1String(ending), Qt::CaseInsensitive)) return file;
+    return {};
+}
+
 bool IsWithin(const QWidget* widget, const QWidget* part) {
     return part && (widget == part || part->isAncestorOf(widget));
 }
@@ -35,8 +45,10 @@ MainWindow::MainWindow(MainScreen& screen)
     editors_ = new GridEditors(desk_, *grid_, *this);
     progress_ = new ProgressPanel(desk_, this);
     reasons_ = new GreyReasons(desk_, *this);
+    finishFlow_ = new FinishFlow(desk_, *finish_, *preview_, *this);
     Connect();
     AddShortcuts();
+    setAcceptDrops(true);
     SetTabOrder();
     resize(FirstSizeOn(*QWidget::screen()));
     ShowState();
@@ -46,6 +58,7 @@ void MainWindow::Connect() {
     connect(&desk_, &Desk::Changed, this, [this] {
         ShowState();
         flow_.Follow();
+        finishFlow_->Follow();
     });
     connect(&desk_, &Desk::Refused, guidance_, &GuidanceBar::ShowRefusal);
     connect(reasons_, &GreyReasons::Asked, guidance_, &GuidanceBar::ShowRefusal);
@@ -58,6 +71,11 @@ void MainWindow::Connect() {
             [this](std::size_t row) { desk_.Do([row](MainScreen& screen) { screen.EditSetting(row); }); });
     connect(preview_, &PreviewPane::RowWanted, this, &MainWindow::GoToField);
     connect(preview_, &PreviewPane::CloseWanted, this, [this] { ShowPreview(false); });
+    connect(finishFlow_, &FinishFlow::RowWanted, this, &MainWindow::GoToBlank);
+    connect(find_, &FindBar::RowWanted, this, &MainWindow::GoToRow);
+    connect(find_, &FindBar::Left, this, [this] { grid_->setFocus(); });
+    connect(recent_, &RecentList::Opened, this,
+            [this](const std::string& job) { desk_.Do([&](MainScreen& screen) { screen.OpenJob(job); }); });
     connect(view_, &ViewControls::Dimmed, this, &MainWindow::ShowState);
     connect(qApp, &QApplication::focusChanged, this, &MainWindow::FocusMoved);
 }
@@ -80,6 +98,11 @@ void MainWindow::AddShortcuts() {
     add(control(Qt::Key_Y), [this] { desk_.Do([](MainScreen& screen) { screen.Redo(); }); });
     add(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
         [this] { desk_.Do([](MainScreen& screen) { screen.Redo(); }); });
+    add(QKeySequence::Find, [this] { find_->Open(); });
+    add(control(Qt::Key_L), [this] {
+        if (documents_->Filter()->isEnabled()) documents_->Filter()->setFocus(Qt::ShortcutFocusReason);
+    });
+    add(control(Qt::Key_B), [this] { finishFlow_->ShowBlanks(); });
     add(Qt::Key_F6, [this] { ShowPreview(!PreviewShown()); });
 }
 
@@ -92,14 +115,16 @@ void MainWindow::ShowState() {
     buttons_.Show();
     jump_->Show();
     guidance_->Show();
+    finish_->Show();
+    find_->Show();
     ShowPage();
     editors_->Show();
     ShowCounters();
     progress_->Show();
-    reasons_->Show();
     ShowTitle();
     ShowFocus();
     ShowHistory();
+    reasons_->Show();
     preview_->Show();
     showing_ = false;
     if (desk_.Screen().HasEnded()) close();
@@ -126,7 +151,19 @@ void MainWindow::ShowPage() {
     QWidget* page = state.grid.empty() ? welcome_ : grid_;
     if (desk_.Screen().SettingsListShown()) page = List3_;
     pages_->setCurrentWidget(page);
+    ShowRecent();
     grid_->setEnabled(!state.waiting);
+}
+
+/// While no job has been begun. Read when the first screen comes, not at every key.
+void MainWindow::ShowRecent() {
+    const ScreenState& state = desk_.State();
+    const bool isFirst = pages_->currentWidget() == welcome_ && state.openDoes == OpenDoes::OpenJob &&
+                         state.cmdOpen.enabled && state.txtJobName.text.empty();
+    if (isFirst == recentJobs_->isVisibleTo(welcome_) && !recent_->IsEmpty()) return;
+    constexpr std::size_t kMost = 6;
+    if (isFirst) recent_->Fill(desk_.Screen().RecentJobs(), kMost);
+    recentJobs_->setVisible(isFirst && !recent_->IsEmpty());
 }
 
 void MainWindow::ShowCounters() {
@@ -141,13 +178,26 @@ void MainWindow::ShowPreview(bool shown) {
     panes_->WantPage(shown);
 }
 
-/// As a click on the row does, which first has to be in sight.
 void MainWindow::GoToField(int n) {
-    const std::vector<GridRow>& rows = desk_.State().grid;
+    const auto& rows = desk_.State().grid;
     const auto found = std::ranges::find_if(
         rows, [n](const GridRow& row) { return row.kind == RowKind::Field && row.n == n; });
-    if (found == rows.end()) return;
-    const int row = static_cast<int>(found - rows.begin());
+    if (found != rows.end()) GoToRow(static_cast<std::size_t>(found - rows.begin()));
+}
+
+void MainWindow::GoToBlank(const Blank& blank) {
+    activateWindow();
+    if (blank.n > 0) return GoToField(blank.n);
+    const auto& rows = desk_.State().grid;
+    const auto found = std::ranges::find_if(rows, [&](const GridRow& row) {
+        return row.kind == RowKind::User && row.label.starts_with(blank.marker);
+    });
+    if (found != rows.end()) GoToRow(static_cast<std::size_t>(found - rows.begin()));
+}
+
+/// As a click on the row does, which first has to be in sight.
+void MainWindow::GoToRow(std::size_t index) {
+    const auto row = static_cast<int>(index);
     desk_.Do([row](MainScreen& screen) {
         screen.LoseFocus(ScreenFocus::Grid);
         const GridEditorState& editor = screen.Editor();
@@ -214,8 +264,9 @@ void MainWindow::FocusMoved(QWidget*, QWidget* to) {
         desk_.DoQuietly([](MainScreen& screen) { screen.FocusName(); });
         if (!name_->Box()->isReadOnly()) name_->Box()->selectAll();
     }
-    if (to == documents_->Catalogue()) desk_.DoQuietly([](MainScreen& screen) { screen.FocusList1(); });
-    if (to == documents_->JobList()) desk_.DoQuietly([](MainScreen& screen) { screen.FocusList2(); });
+    if (to == documents_->Catalogue() || to == documents_->Filter())
+        desk_.DoQuietly([](MainScreen& screen) { screen.FocusList1(); });
+    if (to == documents_->Documents()) desk_.DoQuietly([](MainScreen& screen) { screen.FocusList2(); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -223,6 +274,19 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (!desk_.Screen().HasEnded()) return event->ignore();
     event->accept();
     Q_EMIT Closed();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!DraggedFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    const QString file = DraggedFile(event->mimeData());
+    if (file.isEmpty()) return;
+    event->acceptProposedAction();
+    // When the program that the file comes from has its pointer back: a box may follow.
+    QMetaObject::invokeMethod(
+        this, [this, file] { Q_EMIT Dropped(file); }, Qt::QueuedConnection);
 }
 
 void MainWindow::changeEvent(QEvent* event) {

@@ -5,9 +5,12 @@
 #include <QToolButton>
 #include <QWidget>
 
+#include "desktop/finish_flow.h"
 #include "desktop/grid/grid_editors.h"
 #include "desktop/grid/grid_view.h"
 #include "desktop/panels/document_panel.h"
+#include "desktop/panels/find_bar.h"
+#include "desktop/panels/finish_panel.h"
 #include "desktop/panels/grey_reasons.h"
 #include "desktop/panels/guidance_bar.h"
 #include "desktop/panels/jump_bar.h"
@@ -22,6 +25,7 @@
 #include "desktop/side_window_flow.h"
 #include "desktop/toolkit/appearance.h"
 #include "desktop/toolkit/desk.h"
+#include "desktop/toolkit/recent_list.h"
 #include "session/window_placement.h"
 
 class QSplitter;
@@ -57,15 +61,22 @@ class MainWindow final : public QWidget {
     PreviewPane& Preview() { return *preview_; }
     Panes& PaneWidths() { return *panes_; }
 
+    /// The custom forms manager with this document as what is to be imported.
+    void ImportForm(const QString& document) { flow_.ImportForm(document); }
+
     Desk& CommandDesk() { return desk_; }
     Appearance& Look() { return appearance_; }
 
  Q_SIGNALS:
     void Closed();
+    /// A job's file or a form was dropped onto the window.
+    void Dropped(const QString& file);
 
  protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
  private:
     void Arrange();
@@ -74,6 +85,7 @@ class MainWindow final : public QWidget {
     QWidget* MakeWork(QWidget* parent);
     QLayout* MakeButtonRow(QWidget* parent);
     QWidget* MakeWelcome();
+    QWidget* MakeRecent(QWidget* page);
     QLayout* MakeFooter(QWidget* parent);
     QWidget* MakeMore(QWidget* parent);
     void AddThemes(QMenu& menu);
@@ -89,9 +101,12 @@ class MainWindow final : public QWidget {
     QWidget* WidgetOf(ScreenFocus focus) const;
     void FitToFont();
     void GoToField(int n);
+    void GoToBlank(const Blank& blank);
+    void GoToRow(std::size_t row);
     QToolButton* MakeHistoryButton(const QString& name, const QString& sign, QWidget* parent,
                                    Desk::Command command);
     void ShowHistory();
+    void ShowRecent();
 
     Appearance appearance_;
     Desk desk_;
@@ -102,6 +117,11 @@ class MainWindow final : public QWidget {
     DocumentPanel* documents_;
     JumpBar* jump_;
     GuidanceBar* guidance_;
+    FinishPanel* finish_;
+    FindBar* find_;
+    QWidget* recentJobs_ = nullptr;
+    RecentList* recent_ = nullptr;
+    FinishFlow* finishFlow_ = nullptr;
     QStackedWidget* pages_;
     GridView* grid_;
     SettingsView* List3_;

@@ -77,6 +77,8 @@ QWidget* MainWindow::MakeWork(QWidget* parent) {
     layout->setSpacing(6);
     jump_ = new JumpBar(desk_, appearance_, work);
     guidance_ = new GuidanceBar(desk_, appearance_, work);
+    finish_ = new FinishPanel(desk_, work);
+    find_ = new FindBar(desk_, work);
     pages_ = new QStackedWidget(work);
     grid_ = new GridView(desk_, appearance_, pages_);
     List3_ = new SettingsView(pages_);
@@ -85,7 +87,9 @@ QWidget* MainWindow::MakeWork(QWidget* parent) {
     for (QWidget* page : {static_cast<QWidget*>(grid_), static_cast<QWidget*>(List3_), welcome_})
         pages_->addWidget(page);
     layout->addWidget(guidance_);
+    layout->addWidget(finish_);
     layout->addWidget(jump_);
+    layout->addWidget(find_);
     layout->addWidget(pages_, 1);
     return work;
 }
@@ -136,8 +140,27 @@ QWidget* MainWindow::MakeWelcome() {
         layout->addWidget(text);
         layout->addSpacing(6);
     }
+    layout->addSpacing(10);
+    layout->addWidget(MakeRecent(page), 0, Qt::AlignHCenter);
     layout->addStretch(3);
     return page;
+}
+
+/// The jobs last worked on, on the first screen.
+QWidget* MainWindow::MakeRecent(QWidget* page) {
+    constexpr int kColumns = 60;
+    recentJobs_ = new QWidget(page);
+    recentJobs_->setFixedWidth(fontMetrics().averageCharWidth() * kColumns);
+    auto* head = new QLabel(QStringLiteral("<b>%1</b>").arg(tr("Recent jobs")), recentJobs_);
+    head->setAlignment(Qt::AlignCenter);
+    recent_ = new RecentList(tr("Recent jobs"), recentJobs_);
+    recent_->setFrameStyle(QFrame::NoFrame);
+    auto* layout = new QVBoxLayout(recentJobs_);
+    layout->setContentsMargins({});
+    layout->addWidget(head);
+    layout->addWidget(recent_);
+    recentJobs_->hide();
+    return recentJobs_;
 }
 
 QLayout* MainWindow::MakeFooter(QWidget* parent) {
@@ -179,6 +202,8 @@ void MainWindow::ShowHistory() {
         button.setToolTip(text);
         Describe(&button, text);
     };
+    undo_->setProperty(kWhyGrey, tr("Nothing has been done to the job that could be taken back."));
+    redo_->setProperty(kWhyGrey, tr("Nothing has been taken back that could be done again."));
     show(*undo_, tr("Undo"), history.UndoName());
     show(*redo_, tr("Redo"), history.RedoName());
 }
@@ -190,6 +215,11 @@ QWidget* MainWindow::MakeMore(QWidget* parent) {
     auto* menu = new QMenu(more);
     menu->setAttribute(Qt::WA_WindowPropagation);
     menu->addAction(tr("Proration &calculator"), Qt::Key_F9, &flow_, &SideWindowFlow::OpenCalculator)
+        ->setShortcutContext(Qt::WidgetShortcut);
+    menu->addAction(tr("&Find a field or value"), QKeySequence::Find, this, [this] { find_->Open(); })
+        ->setShortcutContext(Qt::WidgetShortcut);
+    menu->addAction(tr("What is still &open"), QKeySequence(Qt::CTRL | Qt::Key_B), this,
+                    [this] { finishFlow_->ShowBlanks(); })
         ->setShortcutContext(Qt::WidgetShortcut);
     menu->addAction(tr("Live &page"), Qt::Key_F6, this, [this] { ShowPreview(!PreviewShown()); })
         ->setShortcutContext(Qt::WidgetShortcut);
@@ -220,7 +250,8 @@ void MainWindow::AddThemes(QMenu& menu) {
 void MainWindow::SetTabOrder() {
     std::vector<QWidget*> order = {name_->Box()};
     for (QRadioButton* option : options_->findChildren<QRadioButton*>()) order.push_back(option);
-    order.insert(order.end(), {documents_->Catalogue(), documents_->JobList(), grid_, List3_});
+    order.insert(order.end(),
+                 {documents_->Filter(), documents_->Catalogue(), documents_->Documents(), grid_, List3_});
     order.insert(order.end(), topButtons_.begin(), topButtons_.end());
     for (QPushButton* label : jump_->findChildren<QPushButton*>()) order.push_back(label);
     for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);

@@ -21,10 +21,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The name of the job that a word of the command line means: that of a job file, or the word itself.
+/// The job that a word of the command line means: a file that is there by its whole path, whatever folder
+/// another copy of the program stands in, or a name in the job folder.
 std::string JobOf(const std::string& word) {
     const fs::path file = PathOf(word);
-    return Lowered(TextOf(file.extension())) == ".dat" ? TextOf(file.stem()) : word;
+    if (Lowered(TextOf(file.extension())) != ".dat") return word;
+    std::error_code none;
+    return fs::is_regular_file(file, none) ? TextOf(fs::absolute(file)) : TextOf(file.stem());
 }
 
 std::chrono::year_month_day DateOfFile(const fs::path& file) {
@@ -79,6 +82,7 @@ Program::Program(LaunchOrder order) : order_(std::move(order)) {
         order_.folder = DefaultProgramFolder(fs::current_path(), ProgramFile(), shell_);
     order_.folder = fs::absolute(order_.folder);
     ApplyTheme(OwnTheme());
+    order_.job = JobOf(order_.job);
     instance_ = std::make_unique<SingleInstance>(SingleInstance::NameFor(order_.folder));
     screen_ = std::make_unique<MainScreen>(order_.folder, MachineAround());
     window_ = std::make_unique<MainWindow>(*screen_);
@@ -92,6 +96,10 @@ Program::Program(LaunchOrder order) : order_(std::move(order)) {
         window_->show();
     };
     connect(instance_.get(), &SingleInstance::Called, this, &Program::TakeOver);
+    connect(window_.get(), &MainWindow::Dropped, this, [this](const QString& file) {
+        file.endsWith(QLatin1String(".dat"), Qt::CaseInsensitive) ? TakeOver(file)
+                                                                  : window_->ImportForm(file);
+    });
     connect(window_.get(), &MainWindow::Closed, this, &Program::KeepPlacement);
 }
 
@@ -141,11 +149,7 @@ bool Program::SetUpFirstRun() {
 }
 
 void Program::OpenJob() {
-    window_->CommandDesk().Do([this](MainScreen& screen) {
-        screen.OpenBrowser(false);
-        screen.LoadJob(JobOf(order_.job), false);
-        if (screen.BrowserOpen()) screen.CloseBrowser();
-    });
+    window_->CommandDesk().Do([this](MainScreen& screen) { screen.OpenJob(order_.job); });
 }
 
 void Program::LookForUpgrade() {

@@ -19,11 +19,21 @@ void SideWindowFlow::Press(std::string_view name) {
     const std::string reason = WhyDisabled(name, desk_.State());
     if (!reason.empty()) return desk_.Refuse(Shown(reason));
     if (name == "cmdPackages") return EditPackages();
+    if (name == "cmdCustom") return PressCustom({});
     if (!desk_.Do([name](MainScreen& screen) { screen.Click(name); })) return;
     ShowBrowserIfOpen();
-    if (name == "cmdCustom") desk_.Do([this](MainScreen& screen) { ShowCustomForms(screen, &window_); });
     if (name == "cmdOP236") desk_.Do([this](MainScreen& screen) { ShowReturn(screen, &window_); });
     if (name == "cmdEnvelopes") desk_.Do([this](MainScreen& screen) { ShowEnvelopes(screen, &window_); });
+}
+
+void SideWindowFlow::ImportForm(const QString& document) {
+    const std::string reason = WhyDisabled("cmdCustom", desk_.State());
+    reason.empty() ? PressCustom(document) : desk_.Refuse(Shown(reason));
+}
+
+void SideWindowFlow::PressCustom(const QString& source) {
+    if (desk_.Do([](MainScreen& screen) { screen.Click("cmdCustom"); }))
+        desk_.Do([&](MainScreen& screen) { ShowCustomForms(screen, &window_, source); });
 }
 
 void SideWindowFlow::ShowBrowserIfOpen() {

@@ -18,6 +18,8 @@ class SideWindowFlow final : public QObject {
 
     /// A click on the main screen's button of that name, and the window it leads to.
     void Press(std::string_view name);
+    /// CUSTOM, with this document as what is to be imported.
+    void ImportForm(const QString& document);
     void OpenAddresses(AddressBook book);
     void OpenCalculator();
     /// After a command: shows the choice of a law firm while the screen waits for it, and lets a calculator
@@ -31,6 +33,7 @@ class SideWindowFlow final : public QObject {
  private:
     void ShowBrowserIfOpen();
     void EditPackages();
+    void PressCustom(const QString& source);
 
     Desk& desk_;
     QWidget& window_;

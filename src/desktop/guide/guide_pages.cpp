@@ -12,11 +12,15 @@ namespace quillmark::desktop {
 const std::vector<std::string_view>& GuidePages() {
     // The program's first box sends the reader to page 3, the firm's defaults.
     static const std::vector<std::string_view> pages = {
-        "index",         "first-document", "firm-defaults", "naming",     "documents",
-        "gallery",       "packages",       "custom-forms",  "grid",       "amounts",
-        "address-books", "schedule-a",     "calculator",    "create",     "op236",
-        "envelopes",     "files",          "templates",     "field-list", "closing-statement",
-        "messages",      "keyboard",       "command-line",  "windows"};
+        // clang-format off
+        "index", "first-document", "firm-defaults", "naming", "documents",
+        "gallery", "packages", "custom-forms", "grid", "live-page",
+        "undo", "amounts", "address-books", "schedule-a", "calculator",
+        "blanks", "create", "op236", "envelopes", "files",
+        "templates", "field-list", "closing-statement", "finding", "messages",
+        "keyboard", "command-line", "windows",
+        // clang-format on
+    };
     return pages;
 }
 
@@ -28,6 +32,12 @@ const std::vector<GuideTopic>& GuideTopics() {
         {"cmdNameAs",       "naming"},
         {"optConf",         "documents"},
         {"List1",           "documents"},
+        {"documentFilter",  "finding"},
+        {"findBox",         "finding"},
+        {"recentJobs",      "finding"},
+        {"blanks",          "blanks"},
+        {"finishPanel",     "create"},
+        {"previewPane",     "live-page"},
         {"List2",           "documents"},
         {"cmdPackages",     "packages"},
         {"cmdCustom",       "custom-forms"},

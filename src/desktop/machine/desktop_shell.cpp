@@ -86,6 +86,11 @@ bool DesktopShell::OpensWithProgram(const std::string& fileOrAddress, const QStr
     }
 }
 
+bool DesktopShell::KnowsMail() {
+    if (!knowsMail_) knowsMail_ = knows_(kMailType);
+    return *knowsMail_;
+}
+
 void DesktopShell::OfferFolder(const std::string& document, const char* files) {
     const QString text =
         QObject::tr("The document is finished:\n\n%1\n\nThis computer has no program for %2.")

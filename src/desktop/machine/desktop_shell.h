@@ -4,6 +4,7 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include "platform/machine.h"
 
@@ -27,17 +28,29 @@ class DesktopShell final : public Shell {
     void Start(const std::filesystem::path& program, const std::vector<std::string>& arguments) override {
         system_.Start(program, arguments);
     }
+    void ShowInFolder(const std::filesystem::path& file) override { system_.ShowInFolder(file); }
+    /// Not without a program for mail.
+    bool CanMailFiles() override { return system_.CanMailFiles() && KnowsMail(); }
+    void MailFile(const std::string& subject, const std::filesystem::path& file) override {
+        system_.MailFile(subject, file);
+    }
+    bool CanPrintFiles() override { return system_.CanPrintFiles(); }
+    void PrintFile(const std::filesystem::path& file, const std::string& printer) override {
+        system_.PrintFile(file, printer);
+    }
 
     /// What the system says; true as well where it cannot be asked.
     static bool SystemKnows(const QString& type);
 
  private:
+    bool KnowsMail();
     bool OpensWithProgram(const std::string& fileOrAddress, const QString& type);
     void OfferFolder(const std::string& document, const char* files);
     void OfferAddress(const QString& address);
 
     Shell& system_;
     Knows knows_;
+    std::optional<bool> knowsMail_;  ///< asked once
     QPointer<QWidget> parent_;
 };
 

@@ -10,8 +10,8 @@
 namespace quillmark::desktop {
 
 GreyReasons::GreyReasons(Desk& desk, QWidget& window) : QObject(&window), desk_(desk) {
-    static const QRegularExpression names(
-        QStringLiteral("^(cmd[A-Z]\\w*|optConf\\d+|lblJump\\d|List[12]|txtJobName)$"));
+    static const QRegularExpression names(QStringLiteral(
+        "^(cmd[A-Z]\\w*|optConf\\d+|lblJump\\d|List[12]|txtJobName|documentFilter|undo|redo|finish[A-Z]\\w*)$"));
     for (QWidget* control : window.findChildren<QWidget*>(names)) {
         controls_.push_back({control, control->toolTip(), {}});
         control->installEventFilter(this);
@@ -22,7 +22,9 @@ GreyReasons::GreyReasons(Desk& desk, QWidget& window) : QObject(&window), desk_(
 
 QString GreyReasons::ReasonFor(const QWidget& control) const {
     if (control.isEnabled()) return {};
-    return Shown(WhyDisabled(Utf8(control.objectName()), desk_.State()));
+    if (const QVariant own = control.property(kWhyGrey); own.isValid()) return own.toString();
+    const std::string name = Utf8(control.objectName());
+    return Shown(WhyDisabled(name == "documentFilter" ? "List1" : name, desk_.State()));
 }
 
 void GreyReasons::Show() {

@@ -280,6 +280,13 @@ void PreviewPane::TakePages(std::shared_ptr<const Pages> pages) {
     views_->setCurrentWidget(pages_);
 }
 
+void PreviewPane::CountPages(const QString& document, std::function<void(int)> take) {
+    if (!isVisible()) idle_.start(kIdleLimit);
+    renderer_.RenderAside(document, [take = std::move(take)](const QByteArray& pdf) {
+        if (const auto pages = pdf.isEmpty() ? nullptr : Pages::Load(pdf, {})) take(pages->Count());
+    });
+}
+
 void PreviewPane::ShowText() {
     views_->setCurrentWidget(text_);
     if (made_) text_->Show(*made_, CurrentField());

@@ -7,6 +7,7 @@
 #include <QThreadPool>
 #include <QTimer>
 #include <QWidget>
+#include <functional>
 #include <optional>
 
 #include "desktop/preview/page_view.h"
@@ -32,6 +33,8 @@ class PreviewPane final : public QWidget {
     /// As the state has it now: lights the current row's value, and makes the pages anew if it takes that.
     /// Does nothing while the pane is hidden.
     void Show();
+    /// Tells how many pages a document has, once that is known; never where there is no renderer.
+    void CountPages(const QString& document, std::function<void(int pages)> take);
     RendererProcess& Renderer() { return renderer_; }
     /// Milliseconds from the last change of the job to its pages on the screen.
     qint64 LastDelay() const { return lastDelay_; }

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QStandardPaths>
+#include <utility>
 
 namespace quillmark::desktop {
 
@@ -58,12 +59,30 @@ void RendererProcess::Render(const QString& document) {
     Send();
 }
 
+void RendererProcess::RenderAside(const QString& document, std::function<void(const QByteArray&)> take) {
+    EndAside({});
+    takeAside_ = std::move(take);
+    if (givenUp_) return EndAside({});
+    aside_ = document;
+    Start();
+    Send();
+}
+
+void RendererProcess::EndAside(const QByteArray& pdf) {
+    answersAside_ = false;
+    aside_.clear();
+    if (const auto take = std::exchange(takeAside_, nullptr)) take(pdf);
+}
+
 void RendererProcess::Send() {
-    if (!ready_ || busy_ || waiting_.isEmpty()) return;
+    if (!ready_ || busy_) return;
+    answersAside_ = waiting_.isEmpty();
+    QString& next = answersAside_ ? aside_ : waiting_;
+    if (next.isEmpty()) return;
     busy_ = true;
     limit_.start(kAnswerLimit);
-    process_.write("pdf " + waiting_.toUtf8() + "\n");
-    waiting_.clear();
+    process_.write("pdf " + next.toUtf8() + "\n");
+    next.clear();
 }
 
 void RendererProcess::Read() {
@@ -76,7 +95,10 @@ void RendererProcess::Read() {
             wanted_ = -1;
             busy_ = false;
             limit_.stop();
-            Q_EMIT Rendered(pdf);
+            if (answersAside_)
+                EndAside(pdf);
+            else
+                Q_EMIT Rendered(pdf);
             Send();
             continue;
         }
@@ -103,7 +125,10 @@ void RendererProcess::TakeLine(const QByteArray& line) {
     } else if (word == "failed" && busy_) {
         busy_ = false;
         limit_.stop();
-        Q_EMIT Failed(rest);
+        if (answersAside_)
+            EndAside({});
+        else
+            Q_EMIT Failed(rest);
     } else {  // whatever it is by now, it is no renderer
         process_.kill();
         return;
@@ -121,9 +146,12 @@ void RendererProcess::Ended() {
         deaths_.append(clock_.elapsed());
         while (deaths_.first() < clock_.elapsed() - kMinute) deaths_.removeFirst();
         if (deaths_.size() >= kDeathsInAMinute) return GiveUp(tr("it has ended three times within a minute"));
-        if (wasAnswering) Q_EMIT Failed(tr("the renderer has ended"));
+        if (wasAnswering && answersAside_)
+            EndAside({});
+        else if (wasAnswering)
+            Q_EMIT Failed(tr("the renderer has ended"));
     }
-    if (!waiting_.isEmpty()) Start();
+    if (!waiting_.isEmpty() || !aside_.isEmpty()) Start();
 }
 
 void RendererProcess::GiveUp(const QString& why) {
@@ -132,6 +160,7 @@ void RendererProcess::GiveUp(const QString& why) {
     limit_.stop();
     waiting_.clear();
     process_.kill();
+    EndAside({});
     Q_EMIT GivenUp(why);
 }
 

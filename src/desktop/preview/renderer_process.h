@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <functional>
 #include <memory>
 
 namespace quillmark::desktop {
@@ -24,6 +25,9 @@ class RendererProcess final : public QObject {
     /// Asks for the PDF of a document. While one is being made the newest request waits; an older waiting one
     /// is dropped. Nothing follows once the renderer has been given up.
     void Render(const QString& document);
+    /// Has the PDF of another document made, when nothing else waits; `take` gets it, the empty bytes where
+    /// there is none.
+    void RenderAside(const QString& document, std::function<void(const QByteArray& pdf)> take);
     /// Starts it, so that the first page comes soon.
     void Start();
     /// Ends it; the next request starts it again.
@@ -45,6 +49,7 @@ class RendererProcess final : public QObject {
     void Read();
     void TakeLine(const QByteArray& line);
     void Send();
+    void EndAside(const QByteArray& pdf);
     void Ended();
     void GiveUp(const QString& why);
 
@@ -62,6 +67,9 @@ class RendererProcess final : public QObject {
     QByteArray read_;
     qsizetype wanted_ = -1;  ///< bytes of the PDF that is arriving
     QString waiting_;
+    QString aside_;
+    std::function<void(const QByteArray&)> takeAside_;
+    bool answersAside_ = false;  ///< what is being made is for `takeAside_`
     bool ready_ = false;
     bool busy_ = false;
     bool givenUp_ = false;

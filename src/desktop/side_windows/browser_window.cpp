@@ -11,6 +11,7 @@
 #include "desktop/toolkit/controls.h"
 #include "desktop/toolkit/guard.h"
 #include "desktop/toolkit/lines_model.h"
+#include "desktop/toolkit/recent_list.h"
 #include "desktop/toolkit/side_window.h"
 #include "desktop/toolkit/text.h"
 
@@ -27,12 +28,25 @@ BrowserWindow::BrowserWindow(MainScreen& screen, FileBrowser& browser, QWidget* 
     Describe(search_, QStringLiteral("Search text"), Shown(browser_.State().status));
     const char* name = browser_.ListsTemplates() ? "Client templates" : "Job files";
     list_ = new LinesView(browser_.State().List1, QString::fromLatin1(name), this);
+    AddRecent();
     AddButtons(keys);
     Arrange();
     Connect();
     Refresh();
     search_->setFocus();
     ResizeTo(90, 32);
+}
+
+/// The jobs last worked on come first: one of them it is, more often than not.
+void BrowserWindow::AddRecent() {
+    constexpr std::size_t kMost = 6;
+    recent_ = new RecentList(tr("Recent jobs"), this);
+    if (!browser_.ListsTemplates()) recent_->Fill(screen_.RecentJobs(), kMost);
+    recent_->setVisible(!recent_->IsEmpty());
+    On(recent_, &RecentList::Opened, this, [this](const std::string& job) {
+        screen_.LoadJob(job, false);
+        LeaveAfter();
+    });
 }
 
 void BrowserWindow::AddButtons(Mnemonics& keys) {
@@ -60,6 +74,7 @@ void BrowserWindow::Arrange() {
     buttons->addWidget(lblCancel_);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(searching);
+    layout->addWidget(recent_);
     layout->addWidget(list_, 1);
     layout->addLayout(buttons);
     layout->addWidget(NewGuidance(this, browser_.State().status));
@@ -84,6 +99,7 @@ void BrowserWindow::Connect() {
 
 void BrowserWindow::Search(const QString& text) {
     list_->Update([&] { browser_.SearchFiles(Utf8(text)); });
+    recent_->setVisible(text.isEmpty() && !recent_->IsEmpty());
     Refresh();
 }
 

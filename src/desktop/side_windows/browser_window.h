@@ -11,6 +11,7 @@ class QPushButton;
 namespace quillmark::desktop {
 
 class LinesView;
+class RecentList;
 
 /// The window that lists jobs or client templates, over the main screen that has opened it. What is typed
 /// narrows the list wherever the focus is; the arrow keys go to the list.
@@ -31,6 +32,7 @@ class BrowserWindow final : public SideWindow {
     void Connect();
     void Search(const QString& text);
     void Refresh();
+    void AddRecent();
     void Load();
     void Spawn();
     void Delete();
@@ -41,6 +43,7 @@ class BrowserWindow final : public SideWindow {
     FileBrowser& browser_;
     QLabel* caption_;
     QLineEdit* search_;
+    RecentList* recent_;  ///< until something is sought
     LinesView* list_;
     QPushButton* cmdAttorneys_;
     QPushButton* cmdServicers_;

@@ -191,9 +191,10 @@ void CustomFormsDialog::reject() {
     if (!model_.IsOpen()) QDialog::reject();
 }
 
-void ShowCustomForms(MainScreen& screen, QWidget* parent) {
+void ShowCustomForms(MainScreen& screen, QWidget* parent, const QString& source) {
     auto* model = dynamic_cast<CustomFormsWindow*>(screen.Window());
     if (!model) return;
+    if (!source.isEmpty()) model->SetText("txtSourceFile", Utf8(source));
     CustomFormsDialog(*model, parent).exec();
     screen.WindowHasActed();
 }

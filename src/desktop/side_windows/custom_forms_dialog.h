@@ -61,7 +61,8 @@ class CustomFormsDialog final : public SideWindow {
     bool showing_ = false;
 };
 
-/// Shows the manager that the main screen has opened, until it is left.
-void ShowCustomForms(MainScreen& screen, QWidget* parent);
+/// Shows the manager that the main screen has opened, until it is left; `source` stands in its box of the
+/// document to be imported.
+void ShowCustomForms(MainScreen& screen, QWidget* parent, const QString& source = {});
 
 }  // namespace quillmark::desktop
