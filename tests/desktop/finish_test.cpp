@@ -20,6 +20,7 @@ class FinishTest : public test::OfficeTest {
         window->resize(1024, 700);
         window->show();
         QApplication::setActiveWindow(window.get());
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
         MakeSmallJob("Abbott");
         window->ShowState();
     }
