@@ -63,6 +63,7 @@ void MainWindow::Connect() {
     connect(&desk_, &Desk::Refused, guidance_, &GuidanceBar::ShowRefusal);
     connect(reasons_, &GreyReasons::Asked, guidance_, &GuidanceBar::ShowRefusal);
     connect(&buttons_, &MainButtons::Pressed, &flow_, &SideWindowFlow::Press);
+    connect(name_, &NamePanel::LedElsewhere, &flow_, &SideWindowFlow::ShowBackupIfOpen);
     connect(&flow_, &SideWindowFlow::PathWanted, this, [this] { List3_->SelectRow(kPathRow); });
     connect(List3_, &SettingsView::RowSelected, this, [this](std::size_t row) {
         if (!showing_) desk_.DoQuietly([row](MainScreen& screen) { screen.SelectSetting(row); });

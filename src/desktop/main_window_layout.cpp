@@ -211,7 +211,7 @@ void MainWindow::ShowHistory() {
 QWidget* MainWindow::MakeMore(QWidget* parent) {
     auto* more = new QPushButton(tr("Tools and &help"), parent);
     more->setAutoDefault(false);
-    Describe(more, tr("Tools and help"), tr("calculator, address books, the user's guide"));
+    Describe(more, tr("Tools and help"), tr("calculator, address books, backup, the user's guide"));
     auto* menu = new QMenu(more);
     menu->setAttribute(Qt::WA_WindowPropagation);
     menu->addAction(tr("Proration &calculator"), Qt::Key_F9, &flow_, &SideWindowFlow::OpenCalculator)
@@ -227,6 +227,7 @@ QWidget* MainWindow::MakeMore(QWidget* parent) {
                     [this] { flow_.OpenAddresses(AddressBook::Attorneys); });
     menu->addAction(tr("Lenders / &Servicers"), this,
                     [this] { flow_.OpenAddresses(AddressBook::Servicers); });
+    menu->addAction(tr("&Backup and restore"), &flow_, &SideWindowFlow::OpenBackup);
     menu->addSeparator();
     AddThemes(*menu);
     menu->addAction(tr("User's &guide\tF1"), this, [this] { ShowGuide(this, "index"); });

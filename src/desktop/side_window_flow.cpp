@@ -1,6 +1,7 @@
 #include "desktop/side_window_flow.h"
 
 #include "desktop/side_windows/address_window.h"
+#include "desktop/side_windows/backup_dialog.h"
 #include "desktop/side_windows/browser_window.h"
 #include "desktop/side_windows/clients_window.h"
 #include "desktop/side_windows/custom_forms_dialog.h"
@@ -41,6 +42,17 @@ void SideWindowFlow::ShowBrowserIfOpen() {
     bool listed = true;
     desk_.Do([&](MainScreen& screen) { listed = ShowBrowser(screen, &window_); });
     if (!listed) Q_EMIT PathWanted();
+}
+
+void SideWindowFlow::OpenBackup() {
+    if (!desk_.State().txtJobName.text.empty() || !desk_.State().List2.empty())
+        return desk_.Refuse(tr("A job is on the screen: press RESET before a backup"));
+    desk_.Do([](MainScreen& screen) { screen.TypeName("BACKUP"); });
+    ShowBackupIfOpen();
+}
+
+void SideWindowFlow::ShowBackupIfOpen() {
+    desk_.Do([this](MainScreen& screen) { ShowBackup(screen, &window_); });
 }
 
 void SideWindowFlow::EditPackages() {

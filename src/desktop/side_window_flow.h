@@ -22,6 +22,9 @@ class SideWindowFlow final : public QObject {
     void ImportForm(const QString& document);
     void OpenAddresses(AddressBook book);
     void OpenCalculator();
+    void OpenBackup();
+    /// The name box leads to it too.
+    void ShowBackupIfOpen();
     /// After a command: shows the choice of a law firm while the screen waits for it, and lets a calculator
     /// that has done its work go.
     void Follow();

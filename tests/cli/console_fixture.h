@@ -43,7 +43,7 @@ class ConsoleTest : public ::testing::Test {
     std::vector<Json> RepliesTo(const std::string& input) {
         std::istringstream in(input);
         std::ostringstream out, err;
-        const ConsoleOrder order{office.path(), std::chrono::year(2026) / 3 / 9, {}, printers};
+        const ConsoleOrder order{office.path(), std::chrono::year(2026) / 3 / 9, {}, printers, drives};
         status = RunConsole(order, in, {out, err});
         errors = err.str();
         std::vector<Json> replies;
@@ -58,6 +58,7 @@ class ConsoleTest : public ::testing::Test {
 
     test::ScratchFolder office;
     std::vector<NamedPrinter> printers;
+    std::vector<Drive> drives;
     int status = -1;
     std::string errors;
 };

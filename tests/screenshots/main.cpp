@@ -15,6 +15,7 @@
 #include "desktop/toolkit/text.h"
 #include "session/first_run.h"
 #include "support/scratch.h"
+#include "tools/backup/backup.h"
 #include "word/start.h"
 
 /// The pictures of the user's guide, made from the real windows with the sample job: quillmark-screenshots
@@ -105,6 +106,16 @@ class Studio {
         const QString file = out_.filePath(QStringLiteral("%1.png").arg(QLatin1String(name)));
         if (!picture.toImage().save(file)) throw std::runtime_error("cannot write " + Utf8(file));
     }
+    /// A backup of some days ago on the drive, older than one of the jobs.
+    void OldBackup() {
+        std::filesystem::create_directory(stick_.root);
+        MakeBackup(HomeOf(BackupMode::User, screen_.FirmAround().folders), stick_, {});
+        const auto day = std::chrono::sys_days{std::chrono::year(2026) / 3 / 6} + std::chrono::hours(17);
+        std::filesystem::last_write_time(BackupFolderOf(stick_),
+                                         std::chrono::file_clock::from_sys(std::chrono::sys_seconds(day)));
+        std::filesystem::last_write_time(BackupFolderOf(stick_) / "data/Pell Trust - 330 Lovely Street.dat",
+                                         std::chrono::file_clock::from_sys(std::chrono::sys_seconds(day)));
+    }
     /// The part of the main window around a control.
     QRect Around(const QWidget* control) const {
         return {control->mapTo(&window_, QPoint()), control->size()};
@@ -127,6 +138,7 @@ class Studio {
  private:
     QDir out_;
     ScratchFolder scratch_;
+    Drive stick_{"E:", scratch_ / "stick"};
     FixedClock clock_{std::chrono::year(2026) / 3 / 9};
     ScriptedDialogs dialogs_;
     NoShell shell_{scratch_.path()};
@@ -139,7 +151,8 @@ class Studio {
                 .printers = &printers_,
                 .startWord = [] { return word::StartWordProcessor(word::WordProcessor::Embedded); },
                 .handOver = {},
-                .programFile = {}}};
+                .programFile = {},
+                .drives = [this] { return std::vector{stick_}; }}};
     MainWindow window_{screen_};
 };
 
@@ -247,6 +260,10 @@ void SideWindows(const QDir& out) {
     studio.KeepModal("addresses", [&] {
         studio.Do(
             [&](MainScreen& screen) { ShowAddressEditor(AddressBook::Attorneys, screen, &studio.Window()); });
+    });
+    studio.KeepModal("backup", [&] {
+        studio.OldBackup();
+        QTest::keyClicks(studio.Find("txtJobName"), QStringLiteral("backup"));
     });
     FirstRunWindow welcome(&studio.Window());
     welcome.show();

@@ -18,7 +18,7 @@ const std::vector<std::string_view>& GuidePages() {
         "undo", "amounts", "address-books", "schedule-a", "calculator",
         "blanks", "create", "op236", "envelopes", "files",
         "templates", "field-list", "closing-statement", "finding", "messages",
-        "keyboard", "command-line", "windows",
+        "keyboard", "command-line", "windows", "backup",
         // clang-format on
     };
     return pages;
@@ -64,6 +64,7 @@ const std::vector<GuideTopic>& GuideTopics() {
         {"PackageEditor",   "packages"},
         {"AddressEditor",   "address-books"},
         {"Calculator",      "calculator"},
+        {"Backup",          "backup"},
         {"Clients",         "firm-defaults"},
         {"OP236",           "op236"},
         {"Envelopes",       "envelopes"},

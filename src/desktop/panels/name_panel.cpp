@@ -16,7 +16,7 @@ NamePanel::NamePanel(Desk& desk, MainButtons& buttons, const Appearance& appeara
     txtJobName_ = new QLineEdit(this);
     txtJobName_->setObjectName(QStringLiteral("txtJobName"));
     Describe(txtJobName_, tr("Name of File / Document Set"),
-             tr("names a new job; DEFAULTS and Enter opens the firm's settings"));
+             tr("names a new job; DEFAULTS and Enter opens the firm's settings, BACKUP the backup"));
     txtJobName_->installEventFilter(this);
     label_->setBuddy(txtJobName_);
     auto* head = new QHBoxLayout;
@@ -29,6 +29,7 @@ NamePanel::NamePanel(Desk& desk, MainButtons& buttons, const Appearance& appeara
     layout->addWidget(txtJobName_);
     connect(txtJobName_, &QLineEdit::textEdited, this, [this](const QString& text) {
         desk_.Do([&](MainScreen& screen) { screen.EditName(Utf8(text)); });
+        if (!text.isEmpty() && desk_.State().txtJobName.text.empty()) Q_EMIT LedElsewhere();
     });
 }
 

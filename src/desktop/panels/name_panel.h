@@ -22,6 +22,10 @@ class NamePanel final : public QWidget {
     void Show();
     QLineEdit* Box() const { return txtJobName_; }
 
+ Q_SIGNALS:
+    /// The name was none of a job: it led to another window, or to the end of the program.
+    void LedElsewhere();
+
  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -19,7 +19,6 @@ namespace {
 constexpr std::array<std::string_view, 12> kNetworks = {"nfs",   "nfs4",       "cifs",        "smb3",
                                                         "smbfs", "9p",         "afpfs",       "ncpfs",
                                                         "davfs", "fuse.sshfs", "fuse.rclone", "fuse.davfs2"};
-constexpr std::array<std::string_view, 3> kPeoplesMedia = {"/media/", "/run/media/", "/mnt/"};
 /// The places that a person has opened in the desktop's file manager.
 constexpr std::string_view kDesktopsMounts = "fuse.gvfsd-fuse";
 
@@ -38,10 +37,11 @@ std::string Unescaped(std::string_view text) {
     return plain;
 }
 
-bool IsAmongPeoplesMedia(std::string_view folder) {
-    return std::ranges::any_of(kPeoplesMedia,
-                               [&](std::string_view place) { return folder.starts_with(place); }) ||
-           folder == "/mnt";
+/// Each of these places itself, and the media right in it or, by the user's name, one folder further down.
+bool IsAmongPeoplesMedia(const fs::path& folder) {
+    const fs::path above = folder.parent_path();
+    return above == "/mnt" || folder == "/mnt" || above == "/media" || above.parent_path() == "/media" ||
+           above.parent_path() == "/run/media";
 }
 
 /// What the kernel says of a block device, or of the disk that it is a part of.
