@@ -13,6 +13,14 @@ namespace {
 using test::FormDocx;
 using test::Line;
 
+/// A window left open, by a check that failed in it, would wait for ever.
+struct Closing {
+    QWidget& window;
+    ~Closing() {
+        if (window.isVisible()) QTest::keyClick(&window, Qt::Key_Escape);
+    }
+};
+
 class CustomFormsDialogTest : public SideWindowTest {
  protected:
     CustomFormsDialogTest() {
@@ -37,8 +45,32 @@ class CustomFormsDialogTest : public SideWindowTest {
     std::filesystem::path source;
 };
 
-TEST_F(CustomFormsDialogTest, TheSearchedMarkerGoesToTheClipboard) {
+TEST_F(CustomFormsDialogTest, AFormIsTakenInCheckedAndMended) {
     const WhenOpened work([&](QWidget& window) {
+        const Closing closing{window};
+        window.findChild<QLineEdit*>(QStringLiteral("txtSourceFile"))->setFocus();
+        Type(window, quillmark::TextOf(source));
+        Press(window, "cmdImport");
+        Press(window, "cmdEdit");
+        List(window, "Forms").SelectLine(0);
+        Press(window, "cmdCheck");
+        LinesView& findings = List(window, "Found in the form");
+        const auto faulty = [&] { return LinesOf(findings).filter(QStringLiteral("[seler 1 name]")); };
+        ASSERT_EQ(faulty().size(), 1) << "what fonts are missing is told behind it";
+        findings.SelectLine(0);
+        Press(window, "cmdMend");
+        EXPECT_TRUE(faulty().empty());
+        Press(window, "cmdExit");
+    });
+    ShowCustomForms(*screen, &parent);
+    EXPECT_EQ(screen->Window(), nullptr);
+    EXPECT_EQ(State().List1.back(), "[ Rider ]");
+    EXPECT_EQ(test::ReadBytes(forms / "Rider.inf"), "\"[seller 1 name]\",21,0\r\n");
+}
+
+TEST_F(CustomFormsDialogTest, TheSearchedMarkerGoesToTheClipboardAtEachClick) {
+    const WhenOpened work([&](QWidget& window) {
+        const Closing closing{window};
         Press(window, "cmdEdit");
         auto* search = window.findChild<QLineEdit*>(QStringLiteral("searchMarkers"));
         search->setFocus();
@@ -47,7 +79,10 @@ TEST_F(CustomFormsDialogTest, TheSearchedMarkerGoesToTheClipboard) {
         ASSERT_EQ(LinesOf(markers), QStringList{QStringLiteral("[closing month]")});
         markers.SelectLine(0);
         EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("[closing month]"));
-        QTest::keyClick(&window, Qt::Key_Escape);
+        QGuiApplication::clipboard()->setText(QStringLiteral("other"));
+        QTest::mouseClick(markers.viewport(), Qt::LeftButton, {},
+                          markers.visualRect(markers.currentIndex()).center());
+        EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("[closing month]"));
     });
     ShowCustomForms(*screen, &parent);
     EXPECT_EQ(screen->Window(), nullptr);

@@ -12,8 +12,10 @@
 #include "desktop/guide/first_run_window.h"
 #include "desktop/main_window.h"
 #include "desktop/side_windows/address_window.h"
+#include "desktop/toolkit/lines_model.h"
 #include "desktop/toolkit/text.h"
 #include "session/first_run.h"
+#include "support/form_docx.h"
 #include "support/scratch.h"
 #include "tools/backup/backup.h"
 #include "word/start.h"
@@ -98,6 +100,16 @@ class Studio {
         auto* found = window_.findChild<Widget*>(QLatin1String(name));
         if (!found) throw std::runtime_error(fmt::format("there is no control {}", name));
         return found;
+    }
+
+    /// A form of the firm's own, with a marker that is nearly right.
+    void KeepForm() {
+        const std::filesystem::path forms = screen_.FirmAround().folders.CustomFormsFolder;
+        std::filesystem::create_directories(forms);
+        const test::FormDocx form{test::Line(
+            "Rider to the contract between [seller 1 name], hereinafter called the [seler 1 name], and others.")};
+        WriteBytes(forms / "Rider to contract.docx", form.Bytes());
+        WriteBytes(forms / "Rider to contract.inf", "\"[seller 1 name]\",21,0\r\n");
     }
 
     void Keep(QWidget& widget, const char* name, QRect part = {}) {
@@ -264,6 +276,21 @@ void SideWindows(const QDir& out) {
     studio.KeepModal("backup", [&] {
         studio.OldBackup();
         QTest::keyClicks(studio.Find("txtJobName"), QStringLiteral("backup"));
+    });
+    studio.Answer({"OK"});
+    studio.KeepModal("custom-forms", click("cmdCustom"), [&](QWidget& manager) {
+        studio.KeepForm();
+        manager.findChild<QPushButton*>(QStringLiteral("cmdEdit"))->click();
+        auto* search = manager.findChild<QLineEdit*>(QStringLiteral("searchMarkers"));
+        QTest::keyClicks(search, QStringLiteral("seller 1"));
+        const auto choose = [&](const char* name, int line) {
+            for (auto* list : manager.findChildren<LinesView*>())
+                if (list->accessibleName() == QLatin1String(name)) list->SelectLine(line);
+        };
+        choose("Forms", 0);
+        manager.findChild<QPushButton*>(QStringLiteral("cmdCheck"))->click();
+        choose("Found in the form", 0);
+        choose("Field markers", 2);
     });
     FirstRunWindow welcome(&studio.Window());
     welcome.show();

@@ -107,7 +107,16 @@ void CustomFormsDialog::AddPane(const char* control, const char* caption, QBoxLa
            if (showing_ || line < 0) return;
            const std::size_t entry = pane.entries.at(static_cast<std::size_t>(line));
            Do([&] { model_.Pick(control, entry); });
+           if (std::string_view(control) == "List1") CopyMarker();
        });
+    // A marker clicked again goes to the clipboard again: something else may have been copied meanwhile.
+    if (std::string_view(control) == "List1")
+        On(pane.view, &QAbstractItemView::clicked, this, [this] { CopyMarker(); });
+}
+
+void CustomFormsDialog::CopyMarker() {
+    if (!model_.IsOpen() || model_.Clipboard().empty()) return;
+    QGuiApplication::clipboard()->setText(Shown(model_.Clipboard()));
 }
 
 void CustomFormsDialog::AddButtons(QBoxLayout& layout, Mnemonics& keys) {
@@ -138,11 +147,8 @@ void CustomFormsDialog::ChooseFile() {
 /// One act of the person, and what follows of it.
 template <class Act>
 void CustomFormsDialog::Do(Act act) {
-    const std::string before = model_.Clipboard();
-    const bool done = Guarded(this, act);
+    Guarded(this, act);
     if (!model_.IsOpen()) return QDialog::reject();
-    if (done && !model_.Clipboard().empty() && model_.Clipboard() != before)
-        QGuiApplication::clipboard()->setText(Shown(model_.Clipboard()));
     Refresh();
 }
 

@@ -43,6 +43,7 @@ class CustomFormsDialog final : public SideWindow {
     void AddSource(QBoxLayout& layout, Mnemonics& keys);
     void AddButtons(QBoxLayout& layout, Mnemonics& keys);
     void Arrange(Mnemonics& keys);
+    void CopyMarker();
     void ChooseFile();
     template <class Act>
     void Do(Act act);
