@@ -15,8 +15,6 @@
 #include "support/scratch.h"
 #include "word/docx/objects/engine.h"
 
-#ifndef _WIN32
-
 /// Documents as they lie on the desk: made into PDF with one start of LibreOffice and read page by page. By
 /// themselves the tests take a sample of the deeds and statements; QUILLMARK_PAGES=all takes every one.
 namespace quillmark::test {
@@ -315,5 +313,3 @@ TEST_F(Pages, EveryDocumentKeepsItsBlocksAndHeadings) {
 
 }  // namespace
 }  // namespace quillmark::test
-
-#endif
