@@ -183,7 +183,9 @@ void MainWindow::GoToField(int n) {
     const auto& rows = desk_.State().grid;
     const auto found = std::ranges::find_if(
         rows, [n](const GridRow& row) { return row.kind == RowKind::Field && row.n == n; });
-    if (found != rows.end()) GoToRow(static_cast<std::size_t>(found - rows.begin()));
+    if (found == rows.end())
+        return Tell(tr("No row asks for this value: it follows from others, or CREATE asks for it"));
+    GoToRow(static_cast<std::size_t>(found - rows.begin()));
 }
 
 void MainWindow::GoToBlank(const Blank& blank) {

@@ -62,8 +62,10 @@ void GridView::Show() {
     if (reset || before != model_.rowCount()) FitColumns();
     const GridEditorState& editor = desk_.Editor();
     if (verticalScrollBar()->value() != editor.topRow) verticalScrollBar()->setValue(editor.topRow);
-    if (marked_ != editor.markedRow) {
+    const int cursor = editor.IsOpen() ? -1 : desk_.State().currentRow;
+    if (marked_ != editor.markedRow || cursor_ != cursor) {
         marked_ = editor.markedRow;
+        cursor_ = cursor;
         viewport()->update();
     }
     showing_ = false;
@@ -252,12 +254,11 @@ void GridView::changeEvent(QEvent* event) {
 void GridView::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
     if (!hasFocus() || desk_.Editor().IsOpen()) return;
-    const int row = desk_.State().currentRow;
+    const QRect cells = CellRect(desk_.State().currentRow, GridModel::kLabel, GridModel::kSecondNote);
+    if (cells.isNull()) return;
     QPainter painter(viewport());
     painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-    const QRect cells = row < 0 ? QRect() : CellRect(row, GridModel::kLabel, GridModel::kSecondNote);
-    painter.drawRect(cells.isNull() ? viewport()->rect().adjusted(1, 1, -1, -1)
-                                    : cells.translated(-viewport()->pos()).adjusted(1, 1, -1, -1));
+    painter.drawRect(cells.translated(-viewport()->pos()).adjusted(1, 1, -1, -1));
 }
 
 }  // namespace quillmark::desktop

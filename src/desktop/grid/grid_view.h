@@ -55,6 +55,7 @@ class GridView final : public QTableView {
     Desk& desk_;
     GridModel model_;
     int marked_ = -1;  ///< the row shown as marked
+    int cursor_ = -1;  ///< the row shown as that of the keyboard
     bool showing_ = false;
 };
 

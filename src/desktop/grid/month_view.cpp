@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QSignalBlocker>
 #include <QTextCharFormat>
 #include <optional>
@@ -42,6 +43,7 @@ MonthView::MonthView(QWidget* parent) : QCalendarWidget(parent), days_(findChild
     setAutoFillBackground(true);
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, {});
     setFocusProxy(days_);
+    setContentsMargins(1, 1, 1, 1);
     const QString name = QStringLiteral("Calendar");
     const QString purpose = QStringLiteral("A click or Enter takes the day, Escape leaves the calendar");
     Describe(this, name, purpose);
@@ -73,6 +75,13 @@ std::chrono::year_month_day MonthView::Day() const {
 void MonthView::SetDay(std::chrono::year_month_day day) {
     const QSignalBlocker quiet(this);
     setSelectedDate(Shown(day));
+}
+
+/// It lies over the grid and the page, whose ground it shares.
+void MonthView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Dark));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 bool MonthView::eventFilter(QObject* watched, QEvent* event) {

@@ -28,6 +28,7 @@ class MonthView final : public QCalendarWidget {
 
  protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
  private:
     void NameControls();

@@ -16,7 +16,7 @@ constexpr int kSteps = 1000;  ///< of the bar, whose own values are whole number
 
 ProgressPanel::ProgressPanel(Desk& desk, QWidget* ground) : QFrame(ground), desk_(desk) {
     setObjectName(QStringLiteral("ProgressBar1"));
-    setFrameStyle(QFrame::Panel | QFrame::Raised);
+    setFrameStyle(QFrame::Box);
     setAutoFillBackground(true);
     auto* title = new QLabel(tr("Making the documents. Please wait ..."), this);
     bar_ = new QProgressBar(this);

@@ -82,8 +82,8 @@ PreviewPane::PreviewPane(Desk& desk, const Appearance& appearance, const QString
     });
     connect(&renderer_, &RendererProcess::GivenUp, this, [this](const QString& why) {
         hasPages_ = false;
-        textOnly_ = tr("Text only: pages need LibreOffice Writer (on Debian and Ubuntu the package "
-                       "libreoffice-writer). %1")
+        textOnly_ = tr("Text only (%1). Pages need LibreOffice Writer, on Debian and Ubuntu the package "
+                       "libreoffice-writer.")
                         .arg(why);
         Say(textOnly_);
         ShowText();

@@ -121,6 +121,13 @@ QSize QuillStyle::sizeFromContents(ContentsType type, const QStyleOption* option
 QIcon QuillStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const {
     const QPalette palette = option ? option->palette : widget ? widget->palette() : QPalette();
     switch (icon) {
+        case SP_ArrowLeft:
+        case SP_ArrowRight:
+            if (!widget || !widget->inherits("QCalendarWidget")) break;
+            return ChevronIcon(icon == SP_ArrowLeft ? PE_IndicatorArrowLeft : PE_IndicatorArrowRight,
+                               palette.color(QPalette::HighlightedText));
+        case SP_CommandLink:
+            return ChevronIcon(PE_IndicatorArrowRight, palette.color(QPalette::Link));
         case SP_MessageBoxQuestion:
             return SignIcon(QLatin1Char('?'), palette.color(QPalette::Highlight));
         case SP_MessageBoxInformation:
@@ -130,8 +137,9 @@ QIcon QuillStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, 
         case SP_MessageBoxCritical:
             return SignIcon(QLatin1Char('!'), kStop);
         default:
-            return QProxyStyle::standardIcon(icon, option, widget);
+            break;
     }
+    return QProxyStyle::standardIcon(icon, option, widget);
 }
 
 void QuillStyle::polish(QWidget* widget) {
@@ -202,6 +210,13 @@ void QuillStyle::drawControl(ControlElement element, const QStyleOption* option,
                           frame->frameShape == QFrame::Panel))
                 return DrawPane(*painter, *option, widget);
             break;
+        case CE_PushButtonBevel:
+            QProxyStyle::drawControl(element, option, painter, widget);
+            // A flat button has no edge of its own that would show the keyboard.
+            if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+                button && (button->features & QStyleOptionButton::Flat) && Is(*option, State_HasFocus))
+                DrawRing(*painter, *option);
+            return;
         case CE_HeaderSection:
             return DrawHeaderSection(*painter, *option);
         case CE_HeaderEmptyArea:

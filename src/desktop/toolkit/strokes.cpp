@@ -1,6 +1,7 @@
 #include "desktop/toolkit/strokes.h"
 
 #include <QAbstractScrollArea>
+#include <QFrame>
 #include <algorithm>
 
 #include "desktop/toolkit/theme.h"
@@ -98,6 +99,23 @@ QIcon SignIcon(QChar letter, const QColor& disk) {
     return icon;
 }
 
+QIcon ChevronIcon(QStyle::PrimitiveElement direction, const QColor& colour) {
+    QIcon icon;
+    for (const int ratio : {1, 2, 3}) {
+        constexpr int kSize = 16;
+        QPixmap picture(QSize(kSize, kSize) * ratio);
+        picture.setDevicePixelRatio(ratio);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        QStyleOption arrow;
+        arrow.rect = QRect(0, 0, kSize, kSize);
+        arrow.palette.setColor(QPalette::ButtonText, colour);
+        DrawChevron(painter, arrow, direction);
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
+
 void DrawButton(QPainter& painter, const QStyleOption& button, bool isPrimary) {
     const QPalette& palette = button.palette;
     const QColor accent = palette.color(QPalette::Highlight);
@@ -135,7 +153,12 @@ void DrawField(QPainter& painter, const QStyleOption& field, const QBrush& groun
 
 void DrawPane(QPainter& painter, const QStyleOption& pane, const QWidget* widget) {
     const bool focused = HasKeyboard(pane) && widget && widget->focusPolicy() != Qt::NoFocus;
-    const QColor line = pane.palette.color(focused ? QPalette::Highlight : QPalette::Mid);
+    // A box stands over other things.
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(&pane);
+    const bool isBox = frame && frame->frameShape == QFrame::Box;
+    const QColor line = pane.palette.color(focused ? QPalette::Highlight
+                                           : isBox ? QPalette::Dark
+                                                   : QPalette::Mid);
     const bool isPaper = widget && (widget->backgroundRole() == QPalette::Base ||
                                     qobject_cast<const QAbstractScrollArea*>(widget));
     const QBrush ground = isPaper ? pane.palette.brush(QPalette::Base) : Qt::NoBrush;

@@ -14,6 +14,8 @@ void DrawBox(QPainter& painter, const QRectF& rect, const QColor& line, double w
 /// A white letter on a disk of that colour, for boxes.
 QIcon SignIcon(QChar letter, const QColor& disk);
 
+QIcon ChevronIcon(QStyle::PrimitiveElement direction, const QColor& colour);
+
 void DrawButton(QPainter& painter, const QStyleOption& button, bool isPrimary);
 /// Only while it is pressed, on, or under the pointer.
 void DrawToolButton(QPainter& painter, const QStyleOption& button);
