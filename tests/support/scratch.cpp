@@ -7,11 +7,17 @@
 #include <fstream>
 #include <random>
 #include <sstream>
+#include <utility>
+
+#ifndef _WIN32
+#include <unistd.h>
+#endif
 
 namespace quillmark::test {
 
 namespace fs = std::filesystem;
 
+#ifndef _WIN32
 namespace {
 
 /// What programs remember of their user goes into a folder of this run, also in the programs that tests
@@ -35,6 +41,7 @@ class OwnHome {
 const OwnHome kOwnHome;
 
 }  // namespace
+#endif
 
 ScratchFolder::ScratchFolder() {
     std::random_device random;
