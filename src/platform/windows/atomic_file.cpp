@@ -93,19 +93,36 @@ bool TryMoveOnto(const fs::path& temporary, const fs::path& target) {
     return false;
 }
 
-/// Other programs (a search index, a virus scanner, a backup) open a file for moments; the old one is whole
-/// meanwhile.
-bool MoveOnto(const fs::path& temporary, const fs::path& target) {
+bool IsWriteProtected(const fs::path& file) {
+    const DWORD attributes = GetFileAttributesW(file.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
+/// Other programs (a search index, a virus scanner, a backup) and other copies of this one hold a file for
+/// moments. Waits for one of these; false when it has been enough. `attempt` is the number of tries so far.
+bool PauseAfter(int attempt) {
     constexpr int kAttempts = 10;
     constexpr DWORD kPause = 30;  // milliseconds
+    if (attempt < kAttempts) Sleep(kPause);
+    return attempt < kAttempts;
+}
+
+/// The old file is whole whichever of these it is.
+bool MoveOnto(const fs::path& temporary, const fs::path& target) {
     for (int attempt = 1;; ++attempt) {
         if (TryMoveOnto(temporary, target)) return true;
         const DWORD error = GetLastError();
         const bool passes = error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION ||
-                            error == ERROR_UNABLE_TO_REMOVE_REPLACED;
-        if (!passes || attempt == kAttempts || !Exists(temporary)) return SetLastError(error), false;
-        Sleep(kPause);
+                            error == ERROR_UNABLE_TO_REMOVE_REPLACED ||
+                            (error == ERROR_ACCESS_DENIED && !IsWriteProtected(target));
+        if (!passes || !Exists(temporary) || !PauseAfter(attempt)) return SetLastError(error), false;
     }
+}
+
+/// While a file is replaced its name may mean nothing, or a file on its way out.
+bool IsBeingReplaced(const fs::path& file, DWORD error) {
+    if (error == ERROR_FILE_NOT_FOUND) return Exists(FormerOf(file)) || Exists(file);
+    return error == ERROR_SHARING_VIOLATION || (error == ERROR_ACCESS_DENIED && !IsFolder(file));
 }
 
 }  // namespace
@@ -147,13 +164,19 @@ bool RenameUnlessTaken(const fs::path& file, const fs::path& newFile) {
 }
 
 std::string ReadFile(const fs::path& file, std::size_t limit) {
-    const File in(file, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, OPEN_EXISTING);
+    std::optional<File> in;
+    for (int attempt = 1; !in; ++attempt) {
+        in.emplace(file, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_DELETE, OPEN_EXISTING);
+        if (in->IsOpen()) break;
+        const std::error_code error = LastError();
+        if (IsFolder(file)) throw FileError(file, FileError::Kind::Other, "is no ordinary file");
+        if (!IsBeingReplaced(file, static_cast<DWORD>(error.value())) || !PauseAfter(attempt))
+            throw FileError(file, error);
+        in.reset();
+    }
     LARGE_INTEGER size = {};
-    const std::error_code error = LastError();
-    if (!in.IsOpen() && IsFolder(file)) throw FileError(file, FileError::Kind::Other, "is no ordinary file");
-    if (!in.IsOpen()) throw FileError(file, error);
-    if (!GetFileSizeEx(in.Handle(), &size)) throw FileError(file, LastError());
-    if (GetFileType(in.Handle()) != FILE_TYPE_DISK) {
+    if (!GetFileSizeEx(in->Handle(), &size)) throw FileError(file, LastError());
+    if (GetFileType(in->Handle()) != FILE_TYPE_DISK) {
         throw FileError(file, FileError::Kind::Other, "is no ordinary file");
     }
     if (static_cast<std::uint64_t>(size.QuadPart) > limit) {
@@ -161,7 +184,7 @@ std::string ReadFile(const fs::path& file, std::size_t limit) {
     }
     std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
     DWORD done = 0;
-    if (!::ReadFile(in.Handle(), bytes.data(), static_cast<DWORD>(bytes.size()), &done, nullptr)) {
+    if (!::ReadFile(in->Handle(), bytes.data(), static_cast<DWORD>(bytes.size()), &done, nullptr)) {
         throw FileError(file, LastError());
     }
     bytes.resize(done);
