@@ -149,10 +149,13 @@ build_with_cmake libjpeg-turbo jpeg-static -DENABLE_SHARED=OFF -DWITH_TURBOJPEG=
 cp "$work/libjpeg-turbo-build/libjpeg.a" "$prefix/lib/"
 cp "$work"/libjpeg-turbo/j*lib.h "$work/libjpeg-turbo/jmorecfg.h" "$work/libjpeg-turbo/jerror.h" \
     "$work/libjpeg-turbo-build/jconfig.h" "$prefix/include/"
+unpack qpdf
+# Here the names of the system's libraries are told apart by case.
+find "$work/qpdf" -name CMakeLists.txt -exec sed -i 's/Advapi32/advapi32/; s/Shell32/shell32/' {} +
 build_with_cmake qpdf libqpdf -DCMAKE_CXX_FLAGS=-w -DUSE_IMPLICIT_CRYPTO=OFF -DREQUIRE_CRYPTO_NATIVE=ON
 cp "$work/qpdf-build/libqpdf/libqpdf.a" "$prefix/lib/"
 cp -r "$work/qpdf/include/qpdf" "$prefix/include/"
-describe libqpdf "-lqpdf -ljpeg -lz"
+describe libqpdf "-lqpdf -ljpeg -lz -ladvapi32"
 
 cp -r /usr/include/CLI /usr/include/nlohmann "$prefix/include/"
 cp -r /usr/share/cmake/CLI11 /usr/share/cmake/nlohmann_json "$prefix/share/cmake/"
