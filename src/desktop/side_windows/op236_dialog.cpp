@@ -91,7 +91,7 @@ QWidget* OP236Dialog::NewBuyers() {
     auto* grid = new QGridLayout(group);
     AddAddress(*grid, "Buyer #1 address after conveyance (Section 10)", "Text5", "Text6");
     grid->addWidget(NewCheck("Check0"), grid->rowCount(), 0, 1, 2);
-    AddAddress(*grid, "Buyer #2 address after conveyance", "Text7", "Text8");
+    AddAddress(*grid, "< enter Buyer #2 address after conveyance >", "Text7", "Text8");
     grid->addWidget(NewCheck("Check5"), grid->rowCount(), 0, 1, 2);
     return group;
 }
