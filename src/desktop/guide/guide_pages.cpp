@@ -13,12 +13,12 @@ const std::vector<std::string_view>& GuidePages() {
     // The program's first box sends the reader to page 3, the firm's defaults.
     static const std::vector<std::string_view> pages = {
         // clang-format off
-        "index", "first-document", "firm-defaults", "naming", "documents",
-        "gallery", "packages", "custom-forms", "grid", "live-page",
-        "undo", "amounts", "address-books", "schedule-a", "calculator",
-        "blanks", "create", "op236", "envelopes", "files",
-        "templates", "field-list", "closing-statement", "finding", "messages",
-        "keyboard", "command-line", "windows", "backup",
+        "index",           "first-document",  "firm-defaults",   "naming",          "documents",
+        "gallery",         "packages",        "custom-forms",    "grid",            "live-page",
+        "undo",            "amounts",         "address-books",   "schedule-a",      "calculator",
+        "blanks",          "create",          "op236",           "envelopes",       "files",
+        "templates",       "field-list",      "closing-statement", "backup",          "finding",
+        "messages",        "keyboard",        "command-line",    "windows",
         // clang-format on
     };
     return pages;
