@@ -48,6 +48,10 @@ TEST_F(ToolDialogTest, AnExemptionIsClickedCitedAndTakenBack) {
         Show(window);
         EXPECT_EQ(Find<QComboBox>(window, "Combo1").currentText(), QStringLiteral("Warranty Deed"));
         EXPECT_FALSE(Find<QLineEdit>(window, "Text3").isEnabled());
+        EXPECT_EQ(window.focusWidget(), &Find<QLineEdit>(window, "Text1"));
+        Press(window, Qt::Key_Tab);
+        Press(window, Qt::Key_Tab);
+        EXPECT_EQ(window.focusWidget(), &Find<QLineEdit>(window, "Text5")) << "a grey entry is passed over";
         EXPECT_FALSE(Find<QLineEdit>(window, "Text7").isVisible());
         auto& codes = Find<QListView>(window, "rtbCode");
         ClickLine(codes, 8, 60);

@@ -41,6 +41,7 @@ EnvelopeDialog::EnvelopeDialog(envelopes::EnvelopeWindow& model, QWidget* parent
     auto* layout = new QHBoxLayout(this);
     layout->addLayout(fields, 2);
     layout->addLayout(seen, 3);
+    OrderTabs();
     Refresh();
     ResizeTo(140, 24);
 }

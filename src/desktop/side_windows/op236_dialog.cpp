@@ -37,6 +37,7 @@ OP236Dialog::OP236Dialog(op236::OP236Window& model, QWidget* parent)
     return_.OnWait([](bool waits) {
         waits ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
     });
+    OrderTabs();
     Refresh();
     ResizeTo(130, 44);
 }

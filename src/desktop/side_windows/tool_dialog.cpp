@@ -142,6 +142,20 @@ void ToolDialog::Refresh() {
     showing_ = false;
 }
 
+void ToolDialog::OrderTabs() {
+    QWidget* previous = nullptr;
+    for (const WindowControl& control : model_.Controls()) {
+        const auto found = bound_.find(control.name);
+        if (found == bound_.end() || found->second.widget->focusPolicy() == Qt::NoFocus) continue;
+        QWidget* next = found->second.widget;
+        if (previous)
+            setTabOrder(previous, next);
+        else
+            next->setFocus();
+        previous = next;
+    }
+}
+
 void ToolDialog::reject() {
     Guarded(this, [this] { model_.Close(); });
     if (!model_.IsOpen()) QDialog::reject();

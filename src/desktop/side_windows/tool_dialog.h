@@ -56,6 +56,8 @@ class ToolDialog : public SideWindow {
     }
     /// Shows every control as it is now.
     void Refresh();
+    /// The Tab key goes from control to control as the model lists them, from the first one that can be used.
+    void OrderTabs();
     /// After a refresh: what a window shows besides its controls.
     virtual void Follow() {}
 
