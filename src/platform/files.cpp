@@ -37,12 +37,26 @@ void MakeFolder(const fs::path& folder) {
     FlushFolder(folder.parent_path());
 }
 
-fs::path ClaimedName(const fs::path& wanted) {
+namespace {
+
+template <class IsFree>
+fs::path FirstFree(const fs::path& wanted, IsFree isFree) {
     fs::path free = wanted;
-    for (int n = 2; !ClaimName(free); ++n)
+    for (int n = 2; !isFree(free); ++n)
         free.replace_filename(
             PathOf(TextOf(wanted.stem()) + " (" + std::to_string(n) + ")" + TextOf(wanted.extension())));
     return free;
+}
+
+}  // namespace
+
+fs::path ClaimedName(const fs::path& wanted) {
+    return FirstFree(wanted, ClaimName);
+}
+
+fs::path FreeName(const fs::path& wanted) {
+    std::error_code none;
+    return FirstFree(wanted, [&](const fs::path& file) { return !fs::exists(file, none); });
 }
 
 void GiveUpClaim(const fs::path& file) {

@@ -21,6 +21,8 @@ bool ClaimName(const std::filesystem::path& file);
 
 /// Claims the name, or the first of "NAME (2)", "NAME (3)" and so on that is free.
 std::filesystem::path ClaimedName(const std::filesystem::path& wanted);
+/// The same name unclaimed, to be proposed to a person.
+std::filesystem::path FreeName(const std::filesystem::path& wanted);
 /// A claimed file that never got its content goes again; whatever else stands there stays.
 void GiveUpClaim(const std::filesystem::path& file);
 

@@ -9,6 +9,7 @@
 #include "desktop/machine/printer_bins.h"
 #include "desktop/toolkit/sheet.h"
 #include "desktop/toolkit/text.h"
+#include "platform/files.h"
 #include "platform/paths.h"
 
 namespace quillmark::desktop {
