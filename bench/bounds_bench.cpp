@@ -9,6 +9,8 @@
 #include <chrono>
 #include <functional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "core/job_file.h"
 #include "core/settings.h"
@@ -34,13 +36,16 @@ std::string Docx(const std::string& document, const std::string& styles = {}) {
     const auto link = [&](const char* type, const char* target) {
         return fmt::format("<Relationship Id=\"{0}\" Type=\"{1}{0}\" Target=\"{2}\"/>", type, office, target);
     };
-    return word::docx::zip::WriteZip(
-        {{"[Content_Types].xml",
-          "<Types xmlns=\"http://schemas.openxmlformats.org/package/2006/content-types\"/>"},
-         {"_rels/.rels", relations + link("officeDocument", "word/document.xml") + "</Relationships>"},
-         {"word/_rels/document.xml.rels", relations + link("styles", "styles.xml") + "</Relationships>"},
-         {"word/document.xml", document},
-         {"word/styles.xml", styles.empty() ? fmt::format("<w:styles xmlns:w=\"{}\"/>", kMain) : styles}});
+    const std::pair<std::string, std::string> parts[] = {
+        {"[Content_Types].xml",
+         "<Types xmlns=\"http://schemas.openxmlformats.org/package/2006/content-types\"/>"},
+        {"_rels/.rels", relations + link("officeDocument", "word/document.xml") + "</Relationships>"},
+        {"word/_rels/document.xml.rels", relations + link("styles", "styles.xml") + "</Relationships>"},
+        {"word/document.xml", document},
+        {"word/styles.xml", styles.empty() ? fmt::format("<w:styles xmlns:w=\"{}\"/>", kMain) : styles}};
+    std::vector<word::docx::zip::ZipEntry> entries;
+    for (const auto& [name, bytes] : parts) entries.push_back({name, bytes});
+    return word::docx::zip::WriteZip(entries);
 }
 
 std::string Repeated(std::size_t times, const std::function<std::string(std::size_t)>& piece) {

@@ -6,7 +6,7 @@
 #include <chrono>
 #include <filesystem>
 
-#include "core/job_ledger.h"
+#include "../tests/core/job_ledger.h"
 
 int main() {
     using namespace quillmark;

@@ -135,7 +135,8 @@ void ReadNumbering(ReadContext& context, const xml::XmlTree& tree) {
         const auto id = xml::NumberAttribute(number, "w:numId");
         const auto abstract =
             indices.find(xml::NumberAttribute(number.child("w:abstractNumId"), "w:val").value_or(-1));
-        if (context.listNumbers.size() > kMostLists) context.package.Refuse("has more lists than any document");
+        if (context.listNumbers.size() > kMostLists)
+            context.package.Refuse("has more lists than any document");
         if (!id || *id <= 0 || abstract == indices.end() || context.listNumbers.contains(*id)) continue;
         context.document.lists.push_back(ReadInstance(tree, number, abstract->second));
         context.listNumbers.emplace(*id, static_cast<int>(context.document.lists.size()));

@@ -18,7 +18,8 @@ namespace {
 
 /// A document of text in tables in text boxes goes to some forty levels.
 constexpr int kDeepest = 200;
-/// Documents declare some forty namespaces of some sixty characters, and elements have some twenty attributes.
+/// Documents declare some forty namespaces of some sixty characters, and elements have some twenty
+/// attributes.
 constexpr std::size_t kMostNamespaces = 250;
 constexpr std::size_t kLongestNamespace = 1000;
 constexpr std::size_t kMostAttributes = 1000;
@@ -232,7 +233,8 @@ void Normaliser::Attributes(pugi::xml_node node) {
         if (fate == Fate::Rename) attribute.set_name(newName.c_str());
         const std::string_view name = attribute.name();
         Count(seen.size());
-        if (seen.size() > kMostAttributes) throw XmlDamage("has an element of more than a thousand attributes");
+        if (seen.size() > kMostAttributes)
+            throw XmlDamage("has an element of more than a thousand attributes");
         const bool isNoise = name.starts_with("w:rsid") || name.starts_with("mc:");
         if (fate == Fate::Drop || isNoise || std::ranges::find(seen, name) != seen.end()) {
             node.remove_attribute(attribute);
