@@ -284,6 +284,7 @@ TEST_F(SideWindowTest, ClientsAreChosenAndDeletedAndEscapeChoosesNone) {
     WriteBytes(scratch / "DBasePath.txt", "\"data\\\"\r\n\"N\"\r\n\"Y\"\r\n\"Y\"\r\n\"Y\"\r\n\"ON\"\r\n");
     WriteBytes(scratch / "parapro.dir", "\"Hale Law\"\r\n\"Stone\"\r\n");
     WriteBytes(scratch / "data/Stone/images/Hollis_201.bmp", "");
+    WriteBytes(scratch / "data/Hale Law/images/Hollis_201.bmp", "");
     Start();
     {
         const WhenOpened escape([](QWidget& window) { Press(window, Qt::Key_Escape); });

@@ -64,8 +64,7 @@ TEST_F(BlanksTest, StandInGridOrderMarkersWithoutARowLast) {
 TEST_F(BlanksTest, TellWhichDocumentsHaveHolesAndWhatWillBeAsked) {
     screen->TypeName("Abbott");
     screen->EnterName();
-    screen->PickDocument("Notice Of Lease");
-    screen->PickDocument("Closing Statement / Tax Exempt");
+    screen->ListDocuments({"Notice Of Lease", "Closing Statement / Tax Exempt"});
     const OpenList open = OpenNow(*screen);
     EXPECT_THAT(open.withHoles, ElementsAre("Closing Statement / Tax Exempt"));
     EXPECT_THAT(open.withoutText, ElementsAre("Notice Of Lease"));
