@@ -22,10 +22,12 @@ QString Joined(const std::vector<std::string>& names, const QString& between) {
 }
 
 QString HeadOf(const OpenList& open) {
-    if (open.blanks.empty()) return QObject::tr("No field is open.");
+    if (open.blanks.empty() && open.filledByCreate.empty()) return QObject::tr("No field is open.");
     const auto required = static_cast<qulonglong>(open.Required());
     const auto documents = static_cast<int>(open.withHoles.size());
-    QString head = QObject::tr("%1 required, %2 optional.").arg(required).arg(open.blanks.size() - required);
+    const auto filled = static_cast<qulonglong>(open.filledByCreate.size());
+    QString head = QObject::tr("%1 required, %2 optional").arg(required).arg(open.blanks.size() - required);
+    head += filled > 0 ? QObject::tr(", %1 that CREATE fills itself.").arg(filled) : QStringLiteral(".");
     if (documents > 0)
         head += QLatin1Char(' ') +
                 (documents == 1 ? QObject::tr("1 document would be made with holes.")
