@@ -9,7 +9,9 @@
 #include <filesystem>
 #include <fstream>
 
+#include "core/firm_defaults.h"
 #include "desktop/program.h"
+#include "platform/atomic_file.h"
 
 namespace quillmark::desktop {
 namespace {
@@ -24,7 +26,7 @@ class Office {
         fs::create_directories(folder / "data");
         FirmDefaults defaults;
         defaults.Set("[seller lawfirm]", "Hale & Hale");
-        WriteFirmDefaults(folder / "defaults.fld", defaults);
+        ReplaceFile(folder / "defaults.fld", FirmDefaultsRecords(defaults));
     }
     ~Office() { fs::remove_all(folder); }
 
