@@ -1,7 +1,6 @@
 #include "tools/backup/replacement.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "platform/atomic_file.h"
 #include "platform/code_page.h"
@@ -161,12 +160,13 @@ void Replacement::ReadList() {
 
 /// Whatever moment the replacement has come to, and however often this is begun.
 void Replacement::PutBack() const {
-    for (const Move& move : moves_ | std::views::reverse) {
+    for (auto each = moves_.rbegin(); each != moves_.rend(); ++each) {
+        const Move& move = *each;
         if (!Exists(move.fresh) && Exists(move.target)) Rename(move.target, move.fresh);
         if (Exists(move.former)) Rename(move.former, move.target);
     }
     std::error_code none;
-    for (const fs::path& folder : folders_ | std::views::reverse) fs::remove(folder, none);
+    for (auto folder = folders_.rbegin(); folder != folders_.rend(); ++folder) fs::remove(*folder, none);
     Flush();
     fs::remove(ListIn(data_), none);
 }

@@ -20,13 +20,13 @@ bool BeginsReview(std::string_view xml) {
 }  // namespace
 
 void NumberReviews(std::string& part, int& next) {
-    constexpr std::string_view kId = " w:id=\"";
+    constexpr std::string_view kId = " w:id=\"", kElement = "<w:", kFirstLetters = "idrpc";
     const std::string_view old = part;
-    const auto holds = [&](std::string_view tag) { return old.find(tag) != old.npos; };
-    if (std::ranges::none_of(kReviews, holds)) return;
     std::string numbered;
     std::size_t done = 0;
-    for (std::size_t tag = old.find('<'); tag != old.npos; tag = old.find('<', tag + 1)) {
+    for (std::size_t tag = old.find(kElement); tag != old.npos; tag = old.find(kElement, tag + 1)) {
+        // Most elements are none of them, and parts are long.
+        if (kFirstLetters.find(old[std::min(tag + kElement.size(), old.size() - 1)]) == old.npos) continue;
         if (!BeginsReview(old.substr(tag))) continue;
         const std::size_t id = old.find(kId, tag);
         if (id >= old.find('>', tag)) continue;
@@ -35,6 +35,7 @@ void NumberReviews(std::string& part, int& next) {
         numbered += std::to_string(next++);
         done = old.find('"', value);
     }
+    if (done == 0) return;
     numbered.append(old, done);
     part = std::move(numbered);
 }

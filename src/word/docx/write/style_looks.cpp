@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <ranges>
 #include <tuple>
 
 #include "word/docx/write/closer_lines.h"
@@ -248,8 +247,8 @@ void NameStyles(const Document& document, std::vector<PlannedStyle>& styles) {
     styles.front().name = kRoleStyles[0].name;
     // The plain name goes to the kind that is used most.
     std::vector<PlannedStyle*> byUse;
-    for (PlannedStyle& style : styles | std::views::drop(1))
-        if (IsUsed(style)) byUse.push_back(&style);
+    for (std::size_t i = 1; i < styles.size(); ++i)
+        if (IsUsed(styles[i])) byUse.push_back(&styles[i]);
     std::ranges::stable_sort(byUse, std::greater(), [](const PlannedStyle* style) { return UseOf(*style); });
     for (PlannedStyle* const named : byUse) {
         PlannedStyle& style = *named;
