@@ -29,7 +29,7 @@ using Parts = std::map<std::string, std::string, std::less<>>;
 
 const Parts& BaseParts() {
     static const Parts parts = [] {
-        ZipReader zip(WriteDocx(Document()), "base");
+        zip::ZipReader zip(write::WriteDocx(Document()), "base");
         Parts base;
         for (const std::string& name : zip.Names()) base[name] = zip.Read(name);
         return base;
@@ -48,14 +48,14 @@ std::string Package(std::string_view input) {
         const std::size_t end = std::min(at, input.size());
         parts[std::string(input.substr(name, line - name))] = input.substr(line, end - line);
     }
-    std::vector<ZipEntry> entries;
+    std::vector<zip::ZipEntry> entries;
     for (const auto& [name, bytes] : parts) entries.push_back({name, bytes});
-    return WriteZip(entries);
+    return zip::WriteZip(entries);
 }
 
 void Replace(Document& document, std::string_view text, std::string_view with) {
-    const ClipboardContent clipboard = std::string("one\rtwo");
-    Find(document, document.body, {text, with, ReplaceAll, FindStop, &clipboard});
+    const find::ClipboardContent clipboard = std::string("one\rtwo");
+    find::Find(document, document.body, {text, with, ReplaceAll, FindStop, &clipboard});
 }
 
 Place EndOf(Document& document) {
@@ -69,18 +69,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string package = Package({reinterpret_cast<const char*>(data), size});
     std::unique_ptr<Document> document;
     try {
-        document = OpenDocxBytes(package, "input");
+        document = read::OpenDocxBytes(package, "input");
     } catch (const AutomationError&) {
         return 0;
     }
-    OpenDocxBytes(WriteDocx(*document), "written");
+    read::OpenDocxBytes(write::WriteDocx(*document), "written");
     Replace(*document, "e", "^c");
     Replace(*document, "^pa", "^&");
     Replace(*document, "^b", "^m");
-    const CopiedText copied = CopyAll(*document);
+    const paste::CopiedText copied = paste::CopyAll(*document);
     Document target;
-    PasteAt(target, EndOf(target), copied);
-    PasteAt(target, EndOf(target), copied, false);
-    OpenDocxBytes(WriteDocx(target), "pasted");
+    paste::PasteAt(target, EndOf(target), copied);
+    paste::PasteAt(target, EndOf(target), copied, false);
+    read::OpenDocxBytes(write::WriteDocx(target), "pasted");
     return 0;
 }

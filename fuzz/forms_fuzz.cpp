@@ -26,7 +26,7 @@ const std::vector<MarkerRow>& Rows() {
     return rows;
 }
 
-void Merge(Document& form) {
+void MergeForm(Document& form) {
     const find::ClipboardContent clipboard = std::string(300, 'n') + "\rtwo";
     for (const MarkerRow& row : Rows()) {
         if (!find::FindEverywhere(form, {row.marker.marker, {}, ReplaceNone, FindContinue}).found) continue;
@@ -49,7 +49,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                          [&](const Paragraph& paragraph) { judge.Faults(paragraph.text); });
         int count = 0;
         Mended(AsDocument(bytes, "form"), "form", {"[seler 1 name]", "[seller 1 name]", '[', ']'}, count);
-        Merge(*form);
+        MergeForm(*form);
     } catch (const AutomationError&) {
         return 0;
     }

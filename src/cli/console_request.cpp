@@ -73,7 +73,7 @@ ScriptedDialogs::Answers AnswersOf(const Json& line) {
 Json Parsed(std::string_view line) {
     try {
         return Json::parse(line);
-    } catch (const Json::parse_error& error) {
+    } catch (const Json::exception& error) {  // also for a number that no machine holds
         // The library's own text begins with its name for the error, in brackets.
         const std::string_view what = error.what();
         const auto reason = what.find("] ");
